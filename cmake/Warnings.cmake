@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+option(PLASMOS_WERROR "Treat warnings as errors" OFF)
+
+add_library(plasmos_warnings INTERFACE)
+target_compile_options(plasmos_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(PLASMOS_WERROR)
+    target_compile_options(plasmos_warnings INTERFACE -Werror)
+endif()
+
+# Sanitizers and coverage are asked for once and reach everything that links the core.
+add_library(plasmos_instrumentation INTERFACE)
+if(PLASMOS_SANITIZE)
+    target_compile_options(plasmos_instrumentation INTERFACE
+        -fsanitize=${PLASMOS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(plasmos_instrumentation INTERFACE -fsanitize=${PLASMOS_SANITIZE})
+endif()
+if(PLASMOS_COVERAGE)
+    target_compile_options(plasmos_instrumentation INTERFACE --coverage -O0)
+    target_link_options(plasmos_instrumentation INTERFACE --coverage)
+endif()

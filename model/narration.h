@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "model/game_state.h"
+#include "model/text.h"
+
+namespace plasmos {
+
+/// Whether anybody reads the words of this game. Nothing is put into words when nobody does.
+bool SomebodyListens();
+
+/// Use Say, SayMore, Report and LogLine.
+void SayText(const std::string& line);
+void SayMoreText(const std::string& line);
+void ReportText(const std::string& line);
+void LogText(const std::string& line);
+
+/// One line of narration: it replaces the text of the message line and goes to the log.
+template <class... Pieces>
+void Say(const Pieces&... pieces) {
+    if (SomebodyListens()) {
+        SayText(Concat(pieces...));
+    }
+}
+
+/// A new line of narration below what the message line shows; it goes to the log too.
+template <class... Pieces>
+void SayMore(const Pieces&... pieces) {
+    if (SomebodyListens()) {
+        SayMoreText(Concat(pieces...));
+    }
+}
+
+/// A line for the log alone.
+template <class... Pieces>
+void LogLine(const Pieces&... pieces) {
+    if (SomebodyListens()) {
+        LogText(Concat(pieces...));
+    }
+}
+
+/// A computer clan's report: shown like Say, in fast mode for the log alone.
+template <class... Pieces>
+void Report(const Pieces&... pieces) {
+    if (SomebodyListens()) {
+        ReportText(Concat(pieces...));
+    }
+}
+
+}  // namespace plasmos

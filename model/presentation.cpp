@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/presentation.h"
+
+#include "model/game_state.h"
+
+namespace plasmos {
+
+namespace {
+
+[[noreturn]] void RaiseNobodyToAsk() {
+    throw RuntimeError(5, "Invalid procedure call: nobody is there to be asked");
+}
+
+class SilentBoard final : public Presentation {
+public:
+    bool WantsText() const override { return false; }
+    void Open(Question&) override { RaiseNobodyToAsk(); }
+    void Close(Question&) override {}
+    void Wait() override { RaiseNobodyToAsk(); }
+};
+
+SilentBoard silentBoard;
+
+}  // namespace
+
+std::string_view QuestionKindName(QuestionKind kind) {
+    constexpr std::string_view names[] = {"yesno", "square", "number", "amoeba", "food", "victim", "genes", "box"};
+    return names[static_cast<std::size_t>(kind)];
+}
+
+Presentation& Board() {
+    return game.Window != nullptr ? *game.Window : silentBoard;
+}
+
+}  // namespace plasmos

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/question.h"
+
+namespace plasmos {
+
+/// What the rules need of whoever shows the game: the window, the simulator's robot, a test's script.
+/// Everything but the questions may be left out. The shown values are read from the current game.
+///
+/// Clans count from 1, squares from 1, row by row; pauses are in units of 75 ms.
+class Presentation {
+public:
+    Presentation() = default;
+    virtual ~Presentation() = default;
+    Presentation(const Presentation&) = delete;
+    Presentation& operator=(const Presentation&) = delete;
+
+    /// Whether narration is to be put into words for this presentation.
+    virtual bool WantsText() const { return true; }
+
+    // ---- the message line and the log ----
+    /// Replaces the text of the message line. The colours are those of the clan; 0: no clan's.
+    virtual void ShowMessage(std::string_view /*text*/, int /*clan*/) {}
+    /// The text of the message line as it stands.
+    virtual std::string Message() const { return {}; }
+    /// Empties the log and begins it with the game's header line.
+    virtual void StartLog(std::string_view /*header*/) {}
+    /// One line of narration by the acting clan, for the log.
+    virtual void Log(std::string_view /*line*/) {}
+    /// A phase of the turn begins ("Movement", "Environment", ...); Turn is set.
+    virtual void ShowPhase(std::string_view /*phase*/) {}
+
+    // ---- labels ----
+    virtual void ShowCaption(std::string_view /*caption*/) {}
+    virtual void ShowTurn() {}
+    virtual void ShowBP(int /*clan*/) {}
+    virtual void ShowUV() {}
+    virtual void ShowDrift() {}
+    /// Order of play and scores.
+    virtual void ShowOrder() {}
+    /// The clan that acts now.
+    virtual void ShowCurrentClan(int /*clan*/) {}
+    /// A clan's genes and the mutation level in their tool tip.
+    virtual void ShowGenes(int /*clan*/) {}
+    /// Automatic eating and tentacle use: check marks, labels and what is enabled follow the clan.
+    virtual void ShowAutoFlags(int /*clan*/) {}
+    /// The game is over: nothing automatic can be switched on until the next.
+    virtual void DisableAutoEating() {}
+
+    // ---- the text box for the replay number ----
+    /// Hides the box and gives what was typed into it.
+    virtual std::string TakeReplayText() { return {}; }
+
+    // ---- the puddle ----
+    virtual void DrawBoard() {}
+    virtual void DrawSquare(int /*square*/) {}
+    virtual void DrawPiece(int /*clan*/, int /*amoeba*/) {}
+    /// The acting piece is outlined, or no longer.
+    virtual void OutlinePiece(int /*clan*/, int /*amoeba*/, bool /*on*/) {}
+    /// A piece has moved; the state has it on the new square already.
+    virtual void AnimateMove(int /*clan*/, int /*amoeba*/, int /*from*/, int /*to*/) {}
+    /// A piece has left the board for good; it is off the board already.
+    virtual void AnimateDeath(int /*clan*/, int /*amoeba*/, int /*square*/) {}
+
+    // ---- time ----
+    /// Lets the person follow; no longer than 75 ms a unit, and nothing in fast mode.
+    virtual void Pause(int /*units*/) {}
+
+    // ---- questions ----
+    /// Shows a question; from now on its handlers may be called.
+    virtual void Open(Question& question) = 0;
+    /// The rule has changed what the open question shows.
+    virtual void Refresh(Question& /*question*/) {}
+    /// The question is over; its object is about to go.
+    virtual void Close(Question& question) = 0;
+    /// Returns when something has happened, after 100 ms at the latest. Throws ProgramEnd when the
+    /// person has closed the window.
+    virtual void Wait() = 0;
+};
+
+/// The current presentation. Without one it is a silent board, of which nothing can be asked.
+Presentation& Board();
+
+}  // namespace plasmos

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/step.h"
+
+#include "model/consistency.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr bool IsDecision(Step step) {
+    switch (step) {
+        case Step::Move:
+        case Step::Feed:
+        case Step::Adapt:
+        case Step::BuyGenes:
+        case Step::Divide:
+        case Step::Attack: return true;
+        default: return false;
+    }
+}
+
+}  // namespace
+
+std::string_view StepName(Step step) {
+    constexpr std::string_view names[] = {"NewGame",  "Move",   "Feed",   "Environment", "Adapt",
+                                          "BuyGenes", "Divide", "Deaths", "Attack",      "Score"};
+    return names[static_cast<std::size_t>(step)];
+}
+
+void BeginStep(Step step, int clan, int amoeba) {
+    game.Decisions += IsDecision(step) ? 1 : 0;
+    if (game.Listener != nullptr) {
+        game.Listener->OnBegin(step, clan, amoeba);
+    }
+}
+
+void EndStep(Step step, int clan, int amoeba) {
+#ifndef NDEBUG
+    if (const auto fault = CheckConsistency(step == Step::Score); !fault.empty()) {
+        throw RuntimeError(51, Concat("Internal error: after ", StepName(step), ": ", fault));
+    }
+#endif
+    if (game.Listener != nullptr) {
+        game.Listener->OnEnd(step, clan, amoeba);
+    }
+}
+
+}  // namespace plasmos

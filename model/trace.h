@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+#include "model/game_state.h"
+
+namespace plasmos {
+
+/// Whether this game keeps files; without them no trace line needs to be built.
+inline bool TracesAreKept() {
+    return game.Files != nullptr;
+}
+
+/// Appends a text as one line: kind "rnd" or "rand" to the random-number file, "crt" nowhere, every
+/// other kind to the move file. A text that ends in a line break leaves an empty line after it.
+/// A line that fails is tried three times, 50 ms apart, before it is an error.
+void WriteTrace(std::string_view text, std::string_view kind);
+
+/// Empties the move file.
+void EmptyMoveFile();
+
+/// The six lines of an error record, each with its line end.
+std::string ErrorRecord(const RuntimeError& error, int clan, int amoeba);
+
+/// Appends an error record to the error file. It never fails: what cannot be written goes to standard
+/// error, and so does the record of a game that keeps no files.
+void AppendErrorRecord(const RuntimeError& error, int clan, int amoeba);
+
+/// Appends an error record and ends the program.
+[[noreturn]] void WriteErrorRecord(const RuntimeError& error, int clan, int amoeba);
+
+/// The error being handled, as one of the game's own; call it inside a catch block. The end of the
+/// program is no error and is thrown on.
+RuntimeError CurrentError();
+
+/// Runs a phase. An error in it is recorded for the clan and piece that act, and ends the program.
+template <class Body>
+void GuardPhase(Body&& body) {
+    try {
+        body();
+    } catch (const ProgramEnd&) {
+        throw;
+    } catch (...) {
+        WriteErrorRecord(CurrentError(), game.CurPlayer, game.CurAmoeba);
+    }
+}
+
+}  // namespace plasmos

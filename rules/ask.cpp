@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/ask.h"
+
+#include <algorithm>
+
+#include "model/narration.h"
+#include "model/observer.h"
+#include "model/presentation.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int StatementPause = 10;
+
+/// Nothing answers any more: what is clicked after a question belongs to no later one.
+void ForgetAnswer() {
+    game.Reply = 0;
+    game.ReplyY = -1;
+}
+
+void LogBox(const std::string& text) {
+    if (SomebodyListens()) {
+        LogText(text);
+    }
+}
+
+}  // namespace
+
+bool YesNoQuestion::Answered() const {
+    return game.Reply == ReplyYes || game.Reply == ReplyNo;
+}
+
+bool SquareQuestion::Answered() const {
+    return game.Reply != -1 || game.ReplyY != -1;
+}
+
+OpenQuestion::OpenQuestion(Question& question) : question_(question) {
+    if (game.Listener != nullptr) {
+        if (question.Kind == QuestionKind::Box) {
+            game.Listener->OnBox(question.Text);
+        } else {
+            game.Listener->OnAsk(question);
+        }
+    }
+    Board().Open(question_);
+}
+
+OpenQuestion::~OpenQuestion() {
+    Board().Close(question_);
+}
+
+void OpenQuestion::Wait() {
+    while (!question_.Answered()) {
+        Board().Wait();
+    }
+}
+
+void NoteAnswer(const Question& question, std::string_view value, bool accepted) {
+    if (game.Listener != nullptr) {
+        game.Listener->OnAnswer(question, value, accepted);
+    }
+}
+
+void yesb_Click() {
+    game.Reply = ReplyYes;
+}
+
+void nob_Click() {
+    game.Reply = ReplyNo;
+}
+
+void Picture1_MouseUp(int x, int y) {
+    if (!game.WantSquare) {
+        return;
+    }
+    game.Reply = x;
+    game.ReplyY = y;
+}
+
+bool AskYesNo(int clan, const std::string& text) {
+    YesNoQuestion question(clan, text);
+    game.Reply = 0;
+    Board().ShowMessage(text, clan);
+    OpenQuestion open(question);
+    open.Wait();
+    const bool yes = game.Reply == ReplyYes;
+    NoteAnswer(question, Concat(game.Reply), true);
+    ForgetAnswer();
+    return yes;
+}
+
+int SquareAt(int x, int y) {
+    if (x < 0 || y < 0) {
+        return 0;
+    }
+    const int col = x / SquareUnits;
+    const int row = y / SquareUnits;
+    if (col >= game.NumCols || row >= game.NumRows) {
+        return 0;
+    }
+    return row * game.NumCols + col + 1;
+}
+
+int AskSquare(int clan, const std::string& text, const std::vector<int>& offered) {
+    std::vector<int> squares = offered;
+    std::sort(squares.begin(), squares.end());
+    squares.erase(std::unique(squares.begin(), squares.end()), squares.end());
+    if (squares.empty()) {
+        throw RuntimeError(5, "Invalid procedure call: no square can be offered");
+    }
+    if (squares.size() == 1) {
+        return squares.front();
+    }
+    SquareQuestion question(clan, text, squares);
+    Board().ShowMessage(text, clan);
+    game.Reply = game.ReplyY = -1;
+    game.WantSquare = true;
+    OpenQuestion open(question);
+    for (;;) {
+        open.Wait();
+        const int square = game.ReplyY < 0 ? 0 : SquareAt(game.Reply, game.ReplyY);
+        const bool accepted = std::binary_search(squares.begin(), squares.end(), square);
+        NoteAnswer(question, Concat(square), accepted);
+        game.Reply = game.ReplyY = -1;
+        if (accepted) {
+            game.WantSquare = false;
+            ForgetAnswer();
+            return square;
+        }
+    }
+}
+
+void ShowBox(int clan, const std::string& text) {
+    if (game.AutoPlay || game.Window == nullptr) {
+        LogBox(text);
+        return;
+    }
+    BoxQuestion box(clan, text);
+    OpenQuestion open(box);
+    open.Wait();
+}
+
+void ReportBox(const std::string& text) {
+    if (game.FastMode) {
+        LogBox(text);
+    } else {
+        ShowBox(game.CurPlayer, text);
+    }
+}
+
+void TellPerson(int clan, const std::string& text) {
+    Board().ShowMessage(text, clan);
+    LogBox(text);
+    Board().Pause(StatementPause);
+}
+
+void ClearMessage() {
+    Board().ShowMessage({}, 0);
+}
+
+}  // namespace plasmos
