@@ -21,6 +21,10 @@ void EventWait::Wake() {
 
 void EventWait::End() {
     ended_ = true;
+    Interrupt();
+}
+
+void EventWait::Interrupt() {
     if (loop_ != nullptr) {
         loop_->exit(Woken);
     }

@@ -16,6 +16,8 @@ public:
 
     /// There may be an answer.
     void Wake();
+    /// Whatever is waited for is over.
+    void Interrupt();
     /// The program is to end: no wait lasts any more.
     void End();
     bool Ended() const { return ended_; }

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "ui/clan_panel.h"
-#include "ui/environment_card.h"
+#include "ui/environment_view.h"
 #include "ui/log_view.h"
 #include "ui/question_card.h"
 #include "ui/question_panel.h"
@@ -22,7 +22,7 @@ constexpr int PleasantLog = 130;
 }  // namespace
 
 SideStrip::SideStrip(QWidget* parent)
-    : QWidget(parent), Environment(new EnvironmentCard(this)), Start(new StartCard(this)),
+    : QWidget(parent), Environment(new EnvironmentView(this)), Start(new StartCard(this)),
       Question(new QuestionCard(this)), Clans(new ClanPanel(this)), Log(new LogView(this)) {
     SetPlaying(false);
 }

@@ -7,7 +7,7 @@
 namespace plasmos {
 
 class ClanPanel;
-class EnvironmentCard;
+class EnvironmentView;
 class LogView;
 class QuestionCard;
 class QuestionPanel;
@@ -19,7 +19,7 @@ class SideStrip : public QWidget {
 public:
     explicit SideStrip(QWidget* parent);
 
-    EnvironmentCard* Environment;
+    EnvironmentView* Environment;
     StartCard* Start;
     QuestionCard* Question;
     ClanPanel* Clans;

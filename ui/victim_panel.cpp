@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/victim_panel.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QPainter>
 

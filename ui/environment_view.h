@@ -6,14 +6,17 @@
 namespace plasmos {
 
 /// Turn, drift and UV level, the last against every clan's mutation level.
-class EnvironmentCard : public Card {
+class EnvironmentView : public Card {
 public:
-    explicit EnvironmentCard(QWidget* parent);
+    explicit EnvironmentView(QWidget* parent);
 
     QLabel* turnlab;
     QLabel* driftlab;
     QLabel* UVlab;
 
+    void ShowPhase(const QString& phase);
+    /// No game is shown.
+    void Clear();
     /// Shows the drift and the UV level of the state.
     void ShowDrift();
     void ShowUV();
@@ -28,6 +31,8 @@ private:
     void DrawTurns(QPainter& painter) const;
     void DrawArrow(QPainter& painter) const;
     void DrawLevels(QPainter& painter) const;
+    QString phase_;
+
     double DriftLeft() const { return width() * 0.41; }
     double UvLeft() const { return width() * 0.69; }
 };

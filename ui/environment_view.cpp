@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/environment_card.h"
+#include "ui/environment_view.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/dice.h"
 #include "model/game_state.h"
 #include "rules/environment.h"
 #include "ui/palette.h"
@@ -55,7 +56,7 @@ void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius)
     }
 }
 
-EnvironmentCard::EnvironmentCard(QWidget* parent)
+EnvironmentView::EnvironmentView(QWidget* parent)
     : Card(parent),
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, look::Ink)),
       driftlab(MakeLabel(this, QStringLiteral("driftlab"), 14, true, look::Ink)),
@@ -67,17 +68,29 @@ EnvironmentCard::EnvironmentCard(QWidget* parent)
     UVlab->setContextMenuPolicy(Qt::PreventContextMenu);
 }
 
-void EnvironmentCard::ShowDrift() {
+void EnvironmentView::ShowPhase(const QString& phase) {
+    phase_ = phase;
+    update();
+}
+
+void EnvironmentView::Clear() {
+    turnlab->clear();
+    phase_.clear();
+    ShowDrift();
+    ShowUV();
+}
+
+void EnvironmentView::ShowDrift() {
     driftlab->setText(game.NumPlayers > 0 ? ToQt(DirectionText(game.Drift)) : QString());
     update();
 }
 
-void EnvironmentCard::ShowUV() {
+void EnvironmentView::ShowUV() {
     UVlab->setText(game.NumPlayers > 0 || game.UVLevel > 0 ? QString::number(game.UVLevel) : QString());
     update();
 }
 
-void EnvironmentCard::resizeEvent(QResizeEvent*) {
+void EnvironmentView::resizeEvent(QResizeEvent*) {
     const int left = Pad + 2;
     turnlab->setGeometry(left, 8, static_cast<int>(DriftLeft()) - left - 4, 28);
     const int drift = static_cast<int>(DriftLeft()) + 42;
@@ -85,7 +98,7 @@ void EnvironmentCard::resizeEvent(QResizeEvent*) {
     UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 52, 30);
 }
 
-void EnvironmentCard::DrawTurns(QPainter& painter) const {
+void EnvironmentView::DrawTurns(QPainter& painter) const {
     const double step = std::min(16.5, (DriftLeft() - Pad - 14) / LastTurn);
     for (int turn = 1; turn <= LastTurn; ++turn) {
         const QPointF centre(Pad + 8 + step * (turn - 1), 48);
@@ -96,12 +109,16 @@ void EnvironmentCard::DrawTurns(QPainter& painter) const {
     if (game.NumPlayers > 0) {
         painter.setFont(LookFont(11));
         painter.setPen(QColor(look::Faint));
-        painter.drawText(QPointF(Pad + 3, 76), QStringLiteral("replay %1").arg(QString::number(
-                                                   static_cast<double>(game.ReplayNo), 'g', QLocale::FloatingPointShortest)));
+        QStringList words;
+        if (!phase_.isEmpty()) {
+            words << phase_;
+        }
+        words << QStringLiteral("replay %1").arg(ToQt(ReplayText(game.ReplayNo)));
+        painter.drawText(QPointF(Pad + 3, 76), words.join(QStringLiteral(" · ")));
     }
 }
 
-void EnvironmentCard::DrawArrow(QPainter& painter) const {
+void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.setFont(LookFont(11));
     painter.setPen(QColor(look::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
@@ -111,7 +128,7 @@ void EnvironmentCard::DrawArrow(QPainter& painter) const {
     }
 }
 
-void EnvironmentCard::DrawLevels(QPainter& painter) const {
+void EnvironmentView::DrawLevels(QPainter& painter) const {
     const QRectF bar(UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11);
     QLinearGradient levels(bar.topLeft(), bar.topRight());
     levels.setColorAt(0, QColor(0x8FD3FF));
@@ -143,7 +160,7 @@ void EnvironmentCard::DrawLevels(QPainter& painter) const {
     }
 }
 
-void EnvironmentCard::paintEvent(QPaintEvent* event) {
+void EnvironmentView::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
