@@ -19,9 +19,9 @@ constexpr int Corners = 9;
 constexpr double BodyShare = 0.9;
 
 QRadialGradient BodyGradient(const ClanShades& shades, QPointF centre, double radius) {
-    QRadialGradient gradient(centre - QPointF(0.28, 0.38) * radius, radius * 1.55);
+    QRadialGradient gradient(centre - QPointF(0.34, 0.46) * radius, radius * 1.6);
     gradient.setColorAt(0, shades.Light);
-    gradient.setColorAt(0.55, shades.Body);
+    gradient.setColorAt(0.42, shades.Body);
     gradient.setColorAt(1, shades.Dark);
     return gradient;
 }
@@ -46,7 +46,7 @@ void DrawCracks(QPainter& painter, int damage, QPointF centre, double radius) {
 void DrawNucleus(QPainter& painter, const BlobLook& blob, QPointF centre, double radius) {
     const ClanShades& shades = ShadesOf(blob.Clan);
     const QPointF nucleus = centre - QPointF(0, radius * 0.1);
-    painter.setBrush(QColor(255, 255, 255, shades.Ink == QColor(Qt::white) ? 70 : 130));
+    painter.setBrush(QColor(255, 255, 255, shades.Ink == QColor(Qt::white) ? 38 : 120));
     painter.setPen(QPen(QColor(shades.Dark.red(), shades.Dark.green(), shades.Dark.blue(), 110), radius * 0.04));
     painter.drawEllipse(nucleus, radius * 0.5, radius * 0.5);
     QFont font = LookFont(radius * 0.62, true);

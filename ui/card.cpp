@@ -8,6 +8,28 @@
 
 namespace plasmos {
 
+namespace {
+
+/// A colour with a share of white; dark ones keep themselves, for their text is light.
+QColor Mixed(const QColor& colour, double white) {
+    const double share = colour.lightness() < 140 && colour.blue() > 200 && colour.red() < 60 ? white * 0.25 : white;
+    const auto mix = [share](int part) { return static_cast<int>(part + (255 - part) * share); };
+    return QColor(mix(colour.red()), mix(colour.green()), mix(colour.blue()));
+}
+
+}  // namespace
+
+void PillLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0, 0, 0, 60), 1));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.6, height() / 2.6);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(font());
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
 void Card::SetColours(const QColor& background, const QColor& edge) {
     background_ = background;
     edge_ = edge;
@@ -18,7 +40,10 @@ void Card::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(edge_, 1.2));
-    painter.setBrush(background_);
+    QLinearGradient soft(0, 0, 0, height());
+    soft.setColorAt(0, Mixed(background_, 0.42));
+    soft.setColorAt(1, Mixed(background_, 0.12));
+    painter.setBrush(soft);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
 }
 

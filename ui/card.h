@@ -22,6 +22,15 @@ private:
     QColor edge_ = QColor(0xDD, 0xD8, 0xCB);
 };
 
+/// A label that fills a rounded rectangle with its palette's window colour.
+class PillLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 /// A label with wrapped text that takes a smaller letter when the text does not fit.
 class FitLabel : public QLabel {
 public:

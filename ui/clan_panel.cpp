@@ -32,9 +32,9 @@ ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
         const auto index = static_cast<std::size_t>(i);
         gList[index] = new GeneChips(this, i + 1);
         bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
-        orderlab[index] = MakeLabel(this, QStringLiteral("orderlab%1").arg(i), 15, true, look::Ink);
-        orderlab[index]->setAlignment(Qt::AlignCenter);
-        orderlab[index]->setAutoFillBackground(true);
+        orderlab[index] = new PillLabel(this);
+        orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
+        orderlab[index]->setFont(LookFont(15, true));
         bplab[index]->setToolTip(QStringLiteral("Bio-points"));
         orderlab[index]->setToolTip(QStringLiteral("Score"));
     }

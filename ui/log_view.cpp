@@ -17,13 +17,20 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
     setFont(LookFont(12));
     setPlaceholderText(QStringLiteral("The game log"));
     document()->setDocumentMargin(8);
+    QScrollBar* bar = verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) { following_ = value >= bar->maximum() - 4; });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int most) {
+        if (following_) {
+            bar->setValue(most);
+        }
+    });
     setStyleSheet(QStringLiteral("QTextEdit{background:white;color:#22272B;border:1px solid #DDD8CB;border-radius:9px}"));
 }
 
 void LogView::Start(const QString& header) {
     clear();
     heading_.clear();
-    empty_ = true;
+    empty_ = following_ = true;
     for (const QString& line : header.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const QString text = line.trimmed();
         if (!text.isEmpty()) {
@@ -49,8 +56,6 @@ void LogView::Line(const QString& line, int clan) {
 }
 
 void LogView::Append(const QString& sign, int clan, const QString& text, bool heading) {
-    QScrollBar* bar = verticalScrollBar();
-    const bool follow = bar->value() >= bar->maximum() - 4;
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     QTextBlockFormat block;
@@ -65,9 +70,6 @@ void LogView::Append(const QString& sign, int clan, const QString& text, bool he
     letters.setForeground(heading ? QColor(look::Teal) : QColor(look::Ink));
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
     cursor.insertText(text, letters);
-    if (follow) {
-        bar->setValue(bar->maximum());
-    }
 }
 
 }  // namespace plasmos

@@ -21,6 +21,7 @@ private:
 
     QString heading_;
     bool empty_ = true;
+    bool following_ = true;  ///< the newest line stays in sight
 };
 
 }  // namespace plasmos

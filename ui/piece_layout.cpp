@@ -15,7 +15,7 @@ namespace {
 constexpr int SpotsAcross = 6;
 constexpr int SpotsDown = 5;
 // The lower third of a square belongs to the food.
-constexpr double PiecesBottom = 800;
+constexpr double PiecesBottom = 790;
 constexpr double Rim = 36;
 constexpr int Rounds = 24;
 
@@ -34,7 +34,7 @@ double Jitter(unsigned seed) {
 }
 
 double RadiusFor(std::size_t pieces) {
-    return pieces <= 2 ? 205 : pieces <= 4 ? 180 : pieces <= 7 ? 150 : pieces <= 12 ? 122 : 100;
+    return pieces <= 2 ? 240 : pieces <= 4 ? 200 : pieces <= 7 ? 162 : pieces <= 12 ? 126 : 100;
 }
 
 QPointF Inside(QPointF centre, double radius) {

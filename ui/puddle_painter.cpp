@@ -24,6 +24,13 @@ QRectF SquareRect(int square) {
     return QRectF(SquareCorner(square), QSizeF(SquareUnits, SquareUnits)).adjusted(Gap, Gap, -Gap, -Gap);
 }
 
+/// Left foot of a colour's stack.
+QPointF StackFoot(int square, int clan) {
+    constexpr double Left = 66;
+    const double pitch = std::min(150.0, (SquareUnits - 2 * Left + 30) / std::max(game.NumPlayers, 1));
+    return SquareCorner(square) + QPointF(Left + pitch * (clan - 1), SquareUnits - 52);
+}
+
 }  // namespace
 
 void DrawWater(QPainter& painter, const QRectF& puddle) {
@@ -111,29 +118,34 @@ void DrawCube(QPainter& painter, int clan, const QRectF& cube) {
 }
 
 void DrawFood(QPainter& painter, int square) {
-    const QPointF corner = SquareCorner(square);
-    const double columns = std::max(game.NumPlayers, 1);
-    const double left = 66;
-    const double pitch = std::min(150.0, (SquareUnits - 2 * left) / columns + 6);
-    const double bottom = SquareUnits - 52;
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        const int count = game.Food[square][clan];
-        const double x = corner.x() + left + pitch * (clan - 1);
-        if (count == 0) {
+        const QPointF foot = StackFoot(square, clan);
+        const int shown = std::min(game.Food[square][clan], CubesHigh);
+        if (shown == 0) {
             painter.setPen(QPen(QColor(255, 255, 255, 70), 12, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(QPointF(x + 24, corner.y() + bottom - 8), QPointF(x + Cube - 24, corner.y() + bottom - 8));
+            painter.drawLine(foot + QPointF(24, -8), foot + QPointF(Cube - 24, -8));
+        }
+        for (int i = 0; i < shown; ++i) {
+            DrawCube(painter, clan, QRectF(foot.x(), foot.y() - Cube - CubeStep * i, Cube, Cube));
+        }
+    }
+}
+
+void DrawFoodCounts(QPainter& painter, int square) {
+    for (int clan = 1; clan <= game.NumPlayers && !game.Blocked[square]; ++clan) {
+        const int count = game.Food[square][clan];
+        if (count <= CubesHigh) {
             continue;
         }
-        const int shown = std::min(count, CubesHigh);
-        for (int i = 0; i < shown; ++i) {
-            DrawCube(painter, clan, QRectF(x, corner.y() + bottom - Cube - CubeStep * i, Cube, Cube));
-        }
-        if (count > CubesHigh) {
-            const QRectF above(x - 60, corner.y() + bottom - CubeStep * CubesHigh - 92, Cube + 120, 90);
-            painter.setFont(LookFont(84, true));
-            painter.setPen(QColor(0x0F, 0x3D, 0x45));
-            painter.drawText(above, Qt::AlignCenter, QStringLiteral("×%1").arg(count));
-        }
+        const double wide = count > 9 ? 168 : 122;
+        const QPointF foot = StackFoot(square, clan);
+        const QRectF tag(foot.x() + Cube / 2 - wide / 2, foot.y() - CubeStep * CubesHigh - 84, wide, 82);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0xE6, 0xF6, 0xF3, 205));
+        painter.drawRoundedRect(tag, 34, 34);
+        painter.setFont(LookFont(80, true));
+        painter.setPen(QColor(0x0F, 0x3D, 0x45));
+        painter.drawText(tag, Qt::AlignCenter, QStringLiteral("×%1").arg(count));
     }
 }
 

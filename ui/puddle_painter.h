@@ -17,8 +17,10 @@ void DrawGlass(QPainter& painter, int square);
 void DrawStone(QPainter& painter, int square);
 /// The square's number in its corner, small and bold.
 void DrawSquareNumber(QPainter& painter, int square);
-/// Cubes stacked by colour, with a count above a stack that is higher than it shows.
+/// Cubes stacked by colour.
 void DrawFood(QPainter& painter, int square);
+/// The count above every stack that is higher than it shows.
+void DrawFoodCounts(QPainter& painter, int square);
 /// One cube of a clan's colour with its sign.
 void DrawCube(QPainter& painter, int clan, const QRectF& cube);
 /// The amber glow of an offered square; brighter under the pointer or the arrow keys.

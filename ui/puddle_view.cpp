@@ -80,8 +80,9 @@ void PuddleView::FadeAway(int clan, int amoeba, int square, int milliseconds) {
         update();
         return;
     }
-    const QPointF centre = SquareCorner(square) + SpotCentre(amoeba * 3, square, 180);
-    const QRectF from(centre - QPointF(180, 180), QSizeF(360, 360));
+    constexpr double Radius = 200;
+    const QPointF centre = SquareCorner(square) + SpotCentre(amoeba * 3, square, Radius);
+    const QRectF from(centre - QPointF(Radius, Radius), QSizeF(2 * Radius, 2 * Radius));
     motions_.push_back({clan, amoeba, game.Amoeba[amoeba][clan].Damage, true, from, milliseconds, {}});
     motions_.back().Clock.start();
     motionTimer_.start();
@@ -218,6 +219,9 @@ void PuddleView::paintEvent(QPaintEvent*) {
     painter.scale(Scale(), Scale());
     DrawSquares(painter);
     DrawPieces(painter);
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        DrawFoodCounts(painter, square);
+    }
 }
 
 void PuddleView::mousePressEvent(QMouseEvent* event) {

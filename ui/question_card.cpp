@@ -20,7 +20,6 @@ void SetLabelColours(QLabel* label, int clan) {
     palette.setColor(QPalette::Window, LabelBackground(clan));
     palette.setColor(QPalette::WindowText, LabelText(clan));
     label->setPalette(palette);
-    label->setAutoFillBackground(clan != 0);
 }
 
 QLabel* MakePill(QWidget* parent, const char* name, const char* text) {

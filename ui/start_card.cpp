@@ -65,7 +65,8 @@ void StartCard::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double pitch = std::min(52.0, (width() - 2.0 * Pad) / MaxClans);
-    for (int clan = 1; clan <= MaxClans; ++clan) {
+    const int clans = winner_ > 0 ? game.NumPlayers : MaxClans;
+    for (int clan = 1; clan <= clans; ++clan) {
         const QPointF centre(Pad + pitch * (clan - 0.5), 66);
         BlobLook blob{clan, clan, 0, clan == winner_, winner_ != 0 && clan != winner_, 1};
         DrawBlob(painter, blob, centre, 21);
