@@ -46,11 +46,11 @@ bool ClanPanel::Shown() const {
 }
 
 int ClanPanel::FullHeight() const {
-    return static_cast<int>((FullCard + Gap) * game.NumPlayers);
+    return static_cast<int>((FullCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
 }
 
 int ClanPanel::LeastHeight() const {
-    return static_cast<int>((LeastCard + Gap) * game.NumPlayers);
+    return static_cast<int>((LeastCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
 }
 
 double ClanPanel::CardHeight() const {

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 
 #include "model/game_state.h"
+#include "model/presentation.h"
 #include "ui/choice_panels.h"
 #include "ui/palette.h"
 
@@ -99,7 +100,7 @@ void GenePanel::MakeFoot() {
 void GenePanel::Reread() {
     rereading_ = true;
     text_->setText(ToQt(form_.Text));
-    text_->setVisible(!form_.Text.empty());
+    text_->setVisible(Board().Message() != form_.Text);
     for (int gene = 1; gene <= GeneCount; ++gene) {
         const GeneForm::CheckBox& source = form_.gcheck[gene];
         QCheckBox* box = boxes_[static_cast<std::size_t>(gene)];

@@ -16,19 +16,30 @@ namespace {
 
 constexpr double Gap = 14;
 constexpr double Corner = 90;
-constexpr double Cube = 122;
-constexpr double CubeStep = 128;
-constexpr int CubesHigh = 3;
 
 QRectF SquareRect(int square) {
     return QRectF(SquareCorner(square), QSizeF(SquareUnits, SquareUnits)).adjusted(Gap, Gap, -Gap, -Gap);
 }
 
+/// How food is stacked: where a square is small on the screen, one bigger cube stands for its colour.
+struct Stacks {
+    double Cube = 122;
+    double Letters = 80;
+    int High = 3;
+};
+
+Stacks StacksOf(const QPainter& painter) {
+    constexpr double SmallSquare = 92;
+    const bool small = painter.worldTransform().m11() * SquareUnits < SmallSquare;
+    return small ? Stacks{146, 172, 1} : Stacks{};
+}
+
 /// Left foot of a colour's stack.
-QPointF StackFoot(int square, int clan) {
-    constexpr double Left = 66;
-    const double pitch = std::min(150.0, (SquareUnits - 2 * Left + 30) / std::max(game.NumPlayers, 1));
-    return SquareCorner(square) + QPointF(Left + pitch * (clan - 1), SquareUnits - 52);
+QPointF StackFoot(const Stacks& stacks, int square, int clan) {
+    constexpr double Left = 62;
+    const double most = stacks.High > 1 ? 150 : 185;
+    const double room = (SquareUnits - 2 * Left - stacks.Cube) / std::max(game.NumPlayers - 1, 1);
+    return SquareCorner(square) + QPointF(Left + std::min(most, room) * (clan - 1), SquareUnits - 52);
 }
 
 }  // namespace
@@ -118,34 +129,39 @@ void DrawCube(QPainter& painter, int clan, const QRectF& cube) {
 }
 
 void DrawFood(QPainter& painter, int square) {
+    const Stacks stacks = StacksOf(painter);
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        const QPointF foot = StackFoot(square, clan);
-        const int shown = std::min(game.Food[square][clan], CubesHigh);
+        const QPointF foot = StackFoot(stacks, square, clan);
+        const int shown = std::min(game.Food[square][clan], stacks.High);
         if (shown == 0) {
             painter.setPen(QPen(QColor(255, 255, 255, 70), 12, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(foot + QPointF(24, -8), foot + QPointF(Cube - 24, -8));
+            painter.drawLine(foot + QPointF(24, -8), foot + QPointF(stacks.Cube - 24, -8));
         }
         for (int i = 0; i < shown; ++i) {
-            DrawCube(painter, clan, QRectF(foot.x(), foot.y() - Cube - CubeStep * i, Cube, Cube));
+            const double top = foot.y() - stacks.Cube - (stacks.Cube + 6) * i;
+            DrawCube(painter, clan, QRectF(foot.x(), top, stacks.Cube, stacks.Cube));
         }
     }
 }
 
 void DrawFoodCounts(QPainter& painter, int square) {
+    const Stacks stacks = StacksOf(painter);
     for (int clan = 1; clan <= game.NumPlayers && !game.Blocked[square]; ++clan) {
         const int count = game.Food[square][clan];
-        if (count <= CubesHigh) {
+        if (count <= stacks.High) {
             continue;
         }
-        const double wide = count > 9 ? 168 : 122;
-        const QPointF foot = StackFoot(square, clan);
-        const QRectF tag(foot.x() + Cube / 2 - wide / 2, foot.y() - CubeStep * CubesHigh - 84, wide, 82);
+        const QString text = (stacks.High > 1 ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
+        const double wide = stacks.Letters * (0.75 * static_cast<double>(text.size())) + 8;
+        const QPointF foot = StackFoot(stacks, square, clan);
+        const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
+                         foot.y() - (stacks.Cube + 6) * stacks.High - stacks.Letters - 4, wide, stacks.Letters + 2);
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0xE6, 0xF6, 0xF3, 205));
-        painter.drawRoundedRect(tag, 34, 34);
-        painter.setFont(LookFont(80, true));
+        painter.drawRoundedRect(tag, stacks.Letters * 0.4, stacks.Letters * 0.4);
+        painter.setFont(LookFont(stacks.Letters, true));
         painter.setPen(QColor(0x0F, 0x3D, 0x45));
-        painter.drawText(tag, Qt::AlignCenter, QStringLiteral("×%1").arg(count));
+        painter.drawText(tag, Qt::AlignCenter | Qt::TextDontClip, text);
     }
 }
 

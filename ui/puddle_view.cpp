@@ -171,7 +171,26 @@ void PuddleView::DrawSquares(QPainter& painter) const {
     }
 }
 
+// Before the first game one amoeba of every clan waits in the water.
+void PuddleView::DrawWaiting(QPainter& painter) const {
+    std::vector<int> free;
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        if (!game.Blocked[square]) {
+            free.push_back(square);
+        }
+    }
+    for (int clan = 1; clan <= MaxClans; ++clan) {
+        const auto place = (static_cast<std::size_t>(clan) * 2 - 1) * free.size() / (2 * MaxClans);
+        const QPointF corner = SquareCorner(free[place]);
+        const double aside = clan % 2 == 0 ? 480 : 720;
+        DrawBlob(painter, {clan, clan, 0, false, false, 1}, corner + QPointF(aside, 600), 330);
+    }
+}
+
 void PuddleView::DrawPieces(QPainter& painter) const {
+    if (game.NumPlayers == 0) {
+        DrawWaiting(painter);
+    }
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
             const QRectF marker = MarkerOf(clan, amoeba);

@@ -61,6 +61,7 @@ private:
     double Scale() const;
     void DrawBackground();
     void DrawSquares(QPainter& painter) const;
+    void DrawWaiting(QPainter& painter) const;
     void DrawPieces(QPainter& painter) const;
     void DrawMotions(QPainter& painter) const;
     bool Moves(int clan, int amoeba) const;

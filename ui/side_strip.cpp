@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/game_state.h"
 #include "ui/clan_panel.h"
 #include "ui/environment_view.h"
 #include "ui/log_view.h"
@@ -45,8 +46,10 @@ void SideStrip::resizeEvent(QResizeEvent*) {
 
 int SideStrip::ArrangeHead() {
     const int environment = Environment->sizeHint().height();
+    const bool shown = playing_ || game.NumPlayers > 0;
     Environment->setGeometry(0, 0, width(), environment);
-    int top = environment + Gap;
+    Environment->setVisible(shown);
+    int top = shown ? environment + Gap : 0;
     if (playing_) {
         const int question = panels_.empty() ? QuestionHeight : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
@@ -93,7 +96,7 @@ void SideStrip::Arrange() {
     if (clans) {
         const int wanted = std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least));
         Clans->setGeometry(0, top, width(), wanted);
-        top += wanted + Gap - 6;
+        top += wanted + Gap;
     }
     const int log = height() - top;
     Log->setVisible(log >= LeastLog);
