@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/move_amoeba.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <vector>
@@ -20,21 +19,16 @@ namespace plasmos {
 
 namespace {
 
-struct PieceId {
-    int Clan = 0;
-    int Amoeba = 0;
+/// A hitch-hiker or a dragged piece.
+struct Rider {
+    int Clan;
+    int Amoeba;
 };
 
-/// Hitch-hikers and a dragged piece; there are at most 42 pieces.
-struct RiderList {
-    Table<PieceId, 0, MaxClans * MaxPieces> Pieces;
-    int Count = 0;
-
-    void Add(int clan, int amoeba) { Pieces[++Count] = {clan, amoeba}; }
-};
+using RiderList = std::vector<Rider>;
 
 void LayFood(const TentacleLoad& load, int from, int to, int sign) {
-    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+    for (int colour = 1; load.HasFood && colour <= game.NumPlayers; ++colour) {
         game.Food[from][colour] -= sign * load.Food[colour];
         game.Food[to][colour] += sign * load.Food[colour];
     }
@@ -74,14 +68,14 @@ void AskRiders(int clan, int from, int to, RiderList& riders) {
     VictimForm form(clan, "HOLD", "Choose the Hitch-hiker(s):", from);
     ForPiecesIn(from, clan, [&](int amoeba) { form.Allow(clan, amoeba); });
     for (const VictimFigure& figure : AskVictims(form)) {
-        riders.Add(figure.Clan, figure.Amoeba);
+        riders.push_back({figure.Clan, figure.Amoeba});
     }
 }
 
 /// A computer clan's pieces ride when they cannot eat where they are and can at the destination.
 bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
     const CarriedFood carried(load, from, to);
-    return SuggestMenu(from, clan) == 0 && SuggestMenu(to, clan) > 0;
+    return !CanEat(from, clan) && CanEat(to, clan);
 }
 
 RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
@@ -93,7 +87,7 @@ RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
         if (!game.Players[clan].IsComputer) {
             AskRiders(clan, from, to, riders);
         } else if (WantsToRide(clan, from, to, load)) {
-            ForPiecesIn(from, clan, [&](int amoeba) { riders.Add(clan, amoeba); });
+            ForPiecesIn(from, clan, [&](int amoeba) { riders.push_back({clan, amoeba}); });
         }
     }
     return riders;
@@ -123,9 +117,9 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     PutPiece(clan, amoeba, destination, slot);
     LayFood(load, from, destination, 1);
     Sign(SignedEvent::Move, clan, amoeba, destination);
-    Board().AnimateMove(clan, amoeba, from, destination);
-    Board().DrawSquare(from);
-    Board().DrawSquare(destination);
+    Show(&Presentation::AnimateMove, clan, amoeba, from, destination);
+    Show(&Presentation::DrawSquare, from);
+    Show(&Presentation::DrawSquare, destination);
 }
 
 void MoveWithCompany(int clan, int amoeba, int destination) {
@@ -135,21 +129,16 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     MoveWithFood(clan, amoeba, destination, load);
     if (load.DraggedAmoeba != 0) {
         --game.BP[clan];
-        Board().ShowBP(clan);
-        riders.Add(clan, load.DraggedAmoeba);
+        Show(&Presentation::ShowBP, clan);
+        riders.push_back({clan, load.DraggedAmoeba});
     }
-    for (int i = 1; i <= riders.Count; ++i) {
-        const PieceId rider = riders.Pieces[i];
+    for (const Rider& rider : riders) {
         MoveAlone(rider.Clan, rider.Amoeba, destination);
         Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
     }
 }
 
 }  // namespace
-
-bool TentacleLoad::Empty() const {
-    return DraggedAmoeba == 0 && std::all_of(Food.begin(), Food.end(), [](int pieces) { return pieces == 0; });
-}
 
 int SquareCapacity(int square) {
     if (game.Occupancy[square][0] >= MaxSpots) {
@@ -205,7 +194,7 @@ void MoveBeside(int clan, int amoeba, int otherSlot) {
     }
     LiftPiece(clan, amoeba);
     PutPiece(clan, amoeba, square, nearest);
-    Board().DrawPiece(clan, amoeba);
+    Show(&Presentation::DrawPiece, clan, amoeba);
 }
 
 }  // namespace plasmos

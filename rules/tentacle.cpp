@@ -19,7 +19,7 @@ bool FeedsThere(int clan, int destination, int colour, int second) {
     const auto before = food;
     ++food[colour];
     food[second] += second != 0 ? 1 : 0;
-    const bool feeds = SuggestMenu(destination, clan) > 0;
+    const bool feeds = CanEat(destination, clan);
     food = before;
     return feeds;
 }
@@ -27,12 +27,12 @@ bool FeedsThere(int clan, int destination, int colour, int second) {
 /// The fewest foreign pieces that make a meal possible where there is none: single ones before pairs.
 TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     TentacleLoad load;
-    if (SuggestMenu(destination, clan) > 0) {
+    if (CanEat(destination, clan)) {
         return load;
     }
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         if (colour != clan && game.Food[from][colour] >= 1 && FeedsThere(clan, destination, colour, 0)) {
-            load.Food[colour] = 1;
+            load.Take(colour, 1);
             return load;
         }
     }
@@ -41,8 +41,8 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
             const int needed = first == second ? 2 : 1;
             const bool there = game.Food[from][first] >= needed && game.Food[from][second] >= needed;
             if (first != clan && second != clan && there && FeedsThere(clan, destination, first, second)) {
-                ++load.Food[first];
-                ++load.Food[second];
+                load.Take(first, 1);
+                load.Take(second, 1);
                 return load;
             }
         }
@@ -88,7 +88,7 @@ void AskFood(int clan, int from, TentacleLoad& load) {
         }
         NoteAnswer(form, Concat("carry ", form.Entry()), true);
         for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-            load.Food[colour] = form.Amount(colour);
+            load.Take(colour, form.Amount(colour));
         }
         break;
     }
