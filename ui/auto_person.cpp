@@ -41,7 +41,8 @@ void AutoPerson::Click(const char* name) {
 void AutoPerson::ClickSquare(int square) {
     const auto* puddle = board_.findChild<PuddleView*>();
     const QPointF corner = SquareCorner(square);
-    puddle->OnSquarePoint(static_cast<int>(corner.x()) + SquareUnits / 2, static_cast<int>(corner.y()) + SquareUnits / 2);
+    puddle->OnSquarePoint(static_cast<int>(corner.x()) + SquareUnits / 2,
+                          static_cast<int>(corner.y()) + SquareUnits / 2);
 }
 
 void AutoPerson::AnswerFood(FoodForm& form) {

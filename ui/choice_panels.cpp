@@ -32,7 +32,8 @@ QLabel* MakeText(QWidget* parent, const char* name, int pixels) {
 }
 
 NumberPanel::NumberPanel(QWidget* parent, AmNumfrm& form)
-    : QuestionPanel(parent, form, TitleOf(form.Caption, "How many?")), form_(form),
+    : QuestionPanel(parent, form, TitleOf(form.Caption, "How many?")),
+      form_(form),
       question_(MakeText(this, "amlab", 14)) {
     Body()->addWidget(question_);
     auto* grid = new QGridLayout;
@@ -71,7 +72,8 @@ QWidget* NumberPanel::FirstControl() {
 }
 
 AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
-    : QuestionPanel(parent, form, TitleOf(form.Caption, "Which amoeba?")), form_(form),
+    : QuestionPanel(parent, form, TitleOf(form.Caption, "Which amoeba?")),
+      form_(form),
       question_(MakeText(this, "amlab", 14)),
       none_(MakeButton(QStringLiteral("amoptb"), ToQt(AmChoicefrm::amoptb), false)) {
     Body()->addWidget(question_);
@@ -111,7 +113,9 @@ QWidget* AmoebaPanel::FirstControl() {
 }
 
 BoxPanel::BoxPanel(QWidget* parent, BoxQuestion& box)
-    : QuestionPanel(parent, box, QStringLiteral("Plasmos")), box_(box), text_(MakeText(this, "boxlab", 14)),
+    : QuestionPanel(parent, box, QStringLiteral("Plasmos")),
+      box_(box),
+      text_(MakeText(this, "boxlab", 14)),
       ok_(MakeButton(QStringLiteral("okb"), QStringLiteral("OK"), true)) {
     Body()->addWidget(text_);
     Body()->addWidget(ok_, 0, Qt::AlignRight);

@@ -187,7 +187,8 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
         painter.drawText(QPointF(left, card.top() + 39), Kind(clan));
     } else {
         const double after = QFontMetricsF(nameFont).horizontalAdvance(name) + 6;
-        painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter, Kind(clan));
+        painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                         Kind(clan));
     }
     DrawFigures(painter, clan, CardRect(place));
 }

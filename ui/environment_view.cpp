@@ -156,7 +156,8 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
         for (int other = 1; other < clan; ++other) {
             below += game.Players[other].MutationLevel == game.Players[clan].MutationLevel ? 1 : 0;
         }
-        DrawClanBadge(painter, clan, QPointF(at(game.Players[clan].MutationLevel), bar.bottom() + 8 + 7.0 * below), 5.6);
+        DrawClanBadge(painter, clan, QPointF(at(game.Players[clan].MutationLevel), bar.bottom() + 8 + 7.0 * below),
+                      5.6);
     }
 }
 

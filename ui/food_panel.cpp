@@ -32,16 +32,20 @@ QPixmap CubePicture(int clan, double ratio) {
 }
 
 QString TitleOf(const FoodForm& form) {
-    return (form.Mode == "TENTACLE" ? QStringLiteral("Carry food out of square %1") : QStringLiteral("Eat in square %1"))
+    return (form.Mode == "TENTACLE" ? QStringLiteral("Carry food out of square %1")
+                                    : QStringLiteral("Eat in square %1"))
         .arg(form.Square);
 }
 
 }  // namespace
 
 FoodPanel::FoodPanel(QWidget* parent, FoodForm& form)
-    : QuestionPanel(parent, form, TitleOf(form)), form_(form),
-      suggest_(MakeButton(QStringLiteral("suggestb"), QString(), false)), hosts_(MakeText(this, "hostlab", 12)),
-      legal_(MakeText(this, "legallab", 12)), paropt_(new QRadioButton(QStringLiteral("Parasitism"), this)),
+    : QuestionPanel(parent, form, TitleOf(form)),
+      form_(form),
+      suggest_(MakeButton(QStringLiteral("suggestb"), QString(), false)),
+      hosts_(MakeText(this, "hostlab", 12)),
+      legal_(MakeText(this, "legallab", 12)),
+      paropt_(new QRadioButton(QStringLiteral("Parasitism"), this)),
       sfsopt_(new QRadioButton(QStringLiteral("Struggle for survival"), this)),
       eatb_(MakeButton(QStringLiteral("eatb"), QString(), true)),
       victimb_(MakeButton(QStringLiteral("victimb"), QStringLiteral("Victim..."), false)) {

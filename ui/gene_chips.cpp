@@ -69,7 +69,7 @@ bool GeneChips::Arrange(int form, std::vector<Chip>& chips) const {
             x = 0;
             y += ChipHeight + 2;
         }
-        chips.push_back({gene, QRectF(x, y, wide, ChipHeight), text});
+        chips.push_back({gene, QRectF(x, y, wide, ChipHeight), text, form});
         x += wide + gap;
     }
     return y + ChipHeight <= height() + 1;
@@ -92,9 +92,7 @@ void GeneChips::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(QColor(0xDDD7C8), 1));
         painter.setBrush(QColor(0xF3EFE4));
         painter.drawRoundedRect(chip.Rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
-        const bool full = chip.Text == ChipText(chip.Gene, FullNames);
-        const bool tiny = !full && chip.Rect.width() < 28;
-        painter.setFont(ChipFont(full ? FullNames : tiny ? TinyCodes : Codes));
+        painter.setFont(ChipFont(chip.Form));
         painter.setPen(QColor(0x3C3A33));
         painter.drawText(chip.Rect, Qt::AlignCenter, chip.Text);
     }

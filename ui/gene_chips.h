@@ -27,6 +27,7 @@ private:
         int Gene;
         QRectF Rect;
         QString Text;
+        int Form;
     };
 
     bool Arrange(int form, std::vector<Chip>& chips) const;

@@ -28,8 +28,12 @@ QString TitleOf() {
 }  // namespace
 
 GenePanel::GenePanel(QWidget* parent, GeneForm& form)
-    : QuestionPanel(parent, form, TitleOf()), form_(form), text_(MakeText(this, "genelab", 12)),
-      payLabel_(MakeText(this, "payLab", 13)), EnvBP_(new QLineEdit(this)), ofLab_(MakeText(this, "ofLab", 13)),
+    : QuestionPanel(parent, form, TitleOf()),
+      form_(form),
+      text_(MakeText(this, "genelab", 12)),
+      payLabel_(MakeText(this, "payLab", 13)),
+      EnvBP_(new QLineEdit(this)),
+      ofLab_(MakeText(this, "ofLab", 13)),
       UVdiffLab_(MakeText(this, "UVdiffLab", 13)),
       UVdiff_(MakeLabel(this, QStringLiteral("UVdiff"), 18, true, look::Ink)),
       bpCaption_(MakeText(this, "bpCaption", 13)),
@@ -87,8 +91,8 @@ void GenePanel::MakeFoot() {
     }
     auto* foot = new QHBoxLayout;
     foot->setSpacing(6);
-    for (QWidget* item : std::initializer_list<QWidget*>{payLabel_, EnvBP_, ofLab_, UVdiffLab_, UVdiff_, bpCaption_,
-                                                         BPlabel_}) {
+    for (QWidget* item :
+         std::initializer_list<QWidget*>{payLabel_, EnvBP_, ofLab_, UVdiffLab_, UVdiff_, bpCaption_, BPlabel_}) {
         foot->addWidget(item);
     }
     foot->addStretch(1);

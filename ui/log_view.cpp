@@ -24,7 +24,8 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
             bar->setValue(most);
         }
     });
-    setStyleSheet(QStringLiteral("QTextEdit{background:white;color:#22272B;border:1px solid #DDD8CB;border-radius:9px}"));
+    setStyleSheet(
+        QStringLiteral("QTextEdit{background:white;color:#22272B;border:1px solid #DDD8CB;border-radius:9px}"));
 }
 
 void LogView::Start(const QString& header) {

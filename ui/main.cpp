@@ -8,9 +8,9 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/platform.h"
+#include "ui/end_signals.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
-#include "ui/end_signals.h"
 #include "ui/uboard.h"
 
 int main(int argc, char** argv) {
@@ -27,8 +27,9 @@ int main(int argc, char** argv) {
     game.Settings = &settings;
     const std::string fault = PrepareDataFolder();
     UBoard board;
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &board,
-                     [&board](QSessionManager&) { board.close(); }, Qt::DirectConnection);
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
+        Qt::DirectConnection);
     const EndSignals endSignals([&board] { board.close(); });
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);

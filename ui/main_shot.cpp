@@ -82,7 +82,8 @@ bool ReadSize(const QString& text, QSize& size) {
     if (sides.size() == 2) {
         size = QSize(sides[0].toInt(&width), sides[1].toInt(&height));
     }
-    return width && height && size.width() >= 300 && size.height() >= 200 && size.width() <= 8000 && size.height() <= 8000;
+    return width && height && size.width() >= 300 && size.height() >= 200 && size.width() <= 8000 &&
+           size.height() <= 8000;
 }
 
 /// What is wanted; nothing where the arguments make no sense, with the reason in `why`.
@@ -141,7 +142,10 @@ int TakeShot(const Wish& wish) {
         }
         person.Answer(question);
     };
-    QTimer::singleShot(0, &board, [&board] { board.gob_Click(); QCoreApplication::exit(0); });
+    QTimer::singleShot(0, &board, [&board] {
+        board.gob_Click();
+        QCoreApplication::exit(0);
+    });
     QApplication::exec();
     if (!taken) {
         saved = board.grab().save(wish.File);
@@ -161,7 +165,10 @@ int PlayDemo(const Wish& wish) {
     board.SetSpeed(0);
     board.resize(wish.Size);
     board.show();
-    QTimer::singleShot(0, &board, [&board] { board.watch_Click(); QCoreApplication::exit(0); });
+    QTimer::singleShot(0, &board, [&board] {
+        board.watch_Click();
+        QCoreApplication::exit(0);
+    });
     QApplication::exec();
     board.Take(QStringLiteral("last.png"));
     for (const QString& path : board.Pictures()) {

@@ -26,7 +26,8 @@ constexpr int LongestName = 20;
 
 ZyPicture::ZyPicture(QWidget* parent, OptionsModel& model) : QWidget(parent), model_(model) {
     setObjectName(QStringLiteral("optZyPict"));
-    setToolTip(QStringLiteral("Left button: place or remove a stone. Right button: pick a stone, then its new square."));
+    setToolTip(
+        QStringLiteral("Left button: place or remove a stone. Right button: pick a stone, then its new square."));
     Follow();
 }
 
@@ -150,9 +151,8 @@ QWidget* OptionsDialog::MakeNamesPage() {
         auto* name = new QLineEdit(ToQt(model_.Names[index]), page);
         name->setObjectName(QStringLiteral("pname%1").arg(clan));
         name->setMaxLength(LongestName);
-        connect(name, &QLineEdit::textChanged, this, [this, index](const QString& text) {
-            model_.Names[index] = text.toStdString();
-        });
+        connect(name, &QLineEdit::textChanged, this,
+                [this, index](const QString& text) { model_.Names[index] = text.toStdString(); });
         pname_[index] = name;
         form->addRow(QStringLiteral("%1 Clan %2").arg(SignCharacter(clan)).arg(clan), name);
     }

@@ -79,7 +79,7 @@ QPainterPath SignPath(int clan, QPointF centre, double radius) {
 }
 
 QString SignCharacter(int clan) {
-    static const std::array<QString, 7> signs = {QString(),      QStringLiteral("●"), QStringLiteral("▲"),
+    static const std::array<QString, 7> signs = {QString(),           QStringLiteral("●"), QStringLiteral("▲"),
                                                  QStringLiteral("■"), QStringLiteral("◆"), QStringLiteral("✚"),
                                                  QStringLiteral("★")};
     return signs[clan >= 1 && clan <= MaxClans ? static_cast<std::size_t>(clan) : 0];

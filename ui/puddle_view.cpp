@@ -129,8 +129,12 @@ bool PuddleView::Moves(int clan, int amoeba) const {
 
 void PuddleView::DrawBackground() {
     QString key = QStringLiteral("%1x%2x%3 %4x%5 %6:")
-                      .arg(width()).arg(height()).arg(devicePixelRatioF())
-                      .arg(game.NumRows).arg(game.NumCols).arg(gridlines_);
+                      .arg(width())
+                      .arg(height())
+                      .arg(devicePixelRatioF())
+                      .arg(game.NumRows)
+                      .arg(game.NumCols)
+                      .arg(gridlines_);
     for (int square = 1; square <= game.NumSquares; ++square) {
         key += QLatin1Char(game.Blocked[square] ? '1' : '0');
     }

@@ -26,7 +26,8 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
     auto* label = MakeLabel(parent, QString::fromLatin1(name), 10, true, look::Ink);
     label->setText(QString::fromLatin1(text));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(QStringLiteral("background:rgba(255,255,255,215);color:#2C6E78;border-radius:8px;padding:1px 6px"));
+    label->setStyleSheet(
+        QStringLiteral("background:rgba(255,255,255,215);color:#2C6E78;border-radius:8px;padding:1px 6px"));
     label->hide();
     return label;
 }

@@ -61,9 +61,10 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
     head->addWidget(title_, 1);
     close_->setToolTip(QStringLiteral("Close (Esc)"));
     close_->setFocusPolicy(Qt::NoFocus);
-    close_->setStyleSheet(QStringLiteral("QPushButton{border:none;background:transparent;color:#7A7669;font-size:18px;"
-                                         "padding:0;min-height:24px;min-width:24px;max-width:24px}"
-                                         "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
+    close_->setStyleSheet(
+        QStringLiteral("QPushButton{border:none;background:transparent;color:#7A7669;font-size:18px;"
+                       "padding:0;min-height:24px;min-width:24px;max-width:24px}"
+                       "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
     body_->setSpacing(6);

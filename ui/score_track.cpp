@@ -19,8 +19,8 @@ constexpr int Spaces = 60;
 /// Spaces along the top; as many along the bottom, the rest along the two sides.
 int SpacesAcross() {
     const int half = Spaces / 2;
-    const int across = static_cast<int>(std::lround(static_cast<double>(half) * game.NumCols /
-                                                    (game.NumCols + game.NumRows)));
+    const int across =
+        static_cast<int>(std::lround(static_cast<double>(half) * game.NumCols / (game.NumCols + game.NumRows)));
     return std::clamp(across, 4, half - 4);
 }
 
@@ -50,7 +50,8 @@ void ScoreTrack::Arrange() {
     const double margin = 2 * (lane_ + 9);
     const double square = std::floor(std::min((width() - margin) / game.NumCols, (height() - margin) / game.NumRows));
     const QSizeF puddle(std::max(square, 8.0) * game.NumCols, std::max(square, 8.0) * game.NumRows);
-    const QPoint corner(static_cast<int>((width() - puddle.width()) / 2), static_cast<int>((height() - puddle.height()) / 2));
+    const QPoint corner(static_cast<int>((width() - puddle.width()) / 2),
+                        static_cast<int>((height() - puddle.height()) / 2));
     puddle_->setGeometry(QRect(corner, puddle.toSize()));
     const double rim = lane_ + 8;
     frame_ = QRectF(puddle_->geometry()).adjusted(-rim, -rim, rim, rim);

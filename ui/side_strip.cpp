@@ -23,8 +23,12 @@ constexpr int PleasantLog = 130;
 }  // namespace
 
 SideStrip::SideStrip(QWidget* parent)
-    : QWidget(parent), Environment(new EnvironmentView(this)), Start(new StartCard(this)),
-      Question(new QuestionCard(this)), Clans(new ClanPanel(this)), Log(new LogView(this)) {
+    : QWidget(parent),
+      Environment(new EnvironmentView(this)),
+      Start(new StartCard(this)),
+      Question(new QuestionCard(this)),
+      Clans(new ClanPanel(this)),
+      Log(new LogView(this)) {
     SetPlaying(false);
 }
 

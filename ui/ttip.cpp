@@ -40,7 +40,8 @@ std::string TipTextAt(int x, int y) {
 }
 
 ToolTips::ToolTips(PuddleView* puddle)
-    : QObject(puddle), puddle_(puddle),
+    : QObject(puddle),
+      puddle_(puddle),
       TTwin_(new QLabel(puddle->window(), Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput)),
       ttTimer_(new QTimer(this)) {
     TTwin_->setObjectName(QStringLiteral("TTwin"));

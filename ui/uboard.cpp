@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
+#include <QThread>
 #include <algorithm>
 
 #include "flow/play_game.h"
@@ -88,13 +89,15 @@ void UBoard::BuildStrip() {
     connect(strip_->Start->gob, &QPushButton::clicked, this, [this] { gob_Click(); });
     connect(strip_->Start->watchb, &QPushButton::clicked, this, [this] { watch_Click(); });
     connect(strip_->Start->txtReplay, &QLineEdit::returnPressed, this, [this] { gob_Click(); });
-    for (QPushButton* button : {strip_->Start->gob, strip_->Start->watchb, strip_->Question->yesb, strip_->Question->nob}) {
+    for (QPushButton* button :
+         {strip_->Start->gob, strip_->Start->watchb, strip_->Question->yesb, strip_->Question->nob}) {
         RefuseRepeats(button);
         button->setAutoDefault(true);
     }
     connect(strip_->Question->yesb, &QPushButton::clicked, this, [this] { Answer(yesb_Click); });
     connect(strip_->Question->nob, &QPushButton::clicked, this, [this] { Answer(nob_Click); });
-    for (const auto& [key, button] : {std::pair{Qt::Key_Y, strip_->Question->yesb}, std::pair{Qt::Key_N, strip_->Question->nob}}) {
+    for (const auto& [key, button] :
+         {std::pair{Qt::Key_Y, strip_->Question->yesb}, std::pair{Qt::Key_N, strip_->Question->nob}}) {
         auto* shortcut = new QShortcut(QKeySequence(key), this);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
@@ -133,7 +136,11 @@ void UBoard::Play(void (*play)()) {
     SetPlaying(false);
     if (exitCode >= 0) {
         wait_.End();
-        QCoreApplication::exit(exitCode);
+        close();
+        // Without a loop to end there is no program to end, as in a test of the window.
+        if (QThread::currentThread()->loopLevel() > 0) {
+            QCoreApplication::exit(exitCode);
+        }
     }
 }
 
@@ -208,7 +215,8 @@ void UBoard::SaveWindow() {
     if (game.Settings == nullptr || isMinimized()) {
         return;
     }
-    const std::pair<const char*, int> values[] = {{"left", x()}, {"top", y()}, {"width", width()}, {"height", height()}};
+    const std::pair<const char*, int> values[] = {
+        {"left", x()}, {"top", y()}, {"width", width()}, {"height", height()}};
     for (const auto& [key, value] : values) {
         if (!game.Settings->Save("board", key, Concat(value))) {
             qWarning("The window's position could not be saved in %s", game.Settings->Where().c_str());

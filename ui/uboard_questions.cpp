@@ -85,8 +85,8 @@ void UBoard::Close(Question& question) {
         }
     }
     std::unique_ptr<QuestionPanel> gone;
-    const auto found = std::find_if(asked_.begin(), asked_.end(),
-                                    [&question](const Asked& asked) { return asked.What == &question; });
+    const auto found =
+        std::find_if(asked_.begin(), asked_.end(), [&question](const Asked& asked) { return asked.What == &question; });
     if (found != asked_.end()) {
         gone = std::move(found->Panel);
         asked_.erase(found);

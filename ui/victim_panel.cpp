@@ -48,7 +48,9 @@ void FigureButton::paintEvent(QPaintEvent*) {
 }
 
 VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
-    : QuestionPanel(parent, form, ToQt(form.Text)), form_(form), vfamlab_(MakeText(this, "vfamlab", 14)),
+    : QuestionPanel(parent, form, ToQt(form.Text)),
+      form_(form),
+      vfamlab_(MakeText(this, "vfamlab", 14)),
       doneb_(MakeButton(QStringLiteral("doneb"), QStringLiteral("Done"), true)) {
     auto* picture = new SquarePicture(this);
     picture->setObjectName(QStringLiteral("vfpict"));
