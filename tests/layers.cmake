@@ -3,6 +3,8 @@
 # Checks that includes point one way: model <- rules, ai <- flow <- ui, sim; and that what lies below
 # the window includes no header of Qt. Run with -D SOURCES=<folder of the sources>.
 
+cmake_minimum_required(VERSION 3.25)
+
 set(allowed_model model)
 set(allowed_rules model rules ai)
 set(allowed_ai model rules ai)
