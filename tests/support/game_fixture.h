@@ -28,7 +28,9 @@ void Put(int clan, int amoeba, int square, int slot = 0);
 
 /// Gives genes by code, without BP and whatever the families say.
 void Give(int clan, std::initializer_list<std::string_view> codes);
-inline void Give(int clan, std::string_view code) { Give(clan, {code}); }
+inline void Give(int clan, std::string_view code) {
+    Give(clan, {code});
+}
 
 /// The food on a square, one number for each clan's colour 1, 2, ...
 void Feed(int square, std::initializer_list<int> food);
