@@ -22,6 +22,10 @@ struct ProgramEnd {
     int ExitCode = 0;
 };
 
+/// The person leaves the game in the middle of it; the window stays. It unwinds every rule up to the
+/// game driver and is never an error.
+struct GameLeft {};
+
 /// Raises error 9, "Subscript out of range".
 [[noreturn]] void RaiseSubscriptError();
 

@@ -31,6 +31,8 @@ public:
         return *this;
     }
 
+    constexpr FixedText& operator=(const char* text) { return *this = std::string_view(text); }
+
     constexpr operator std::string_view() const { return {text_, length_}; }
     constexpr std::string_view View() const { return {text_, length_}; }
     std::string String() const { return std::string(View()); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <exception>
+#include <string>
 #include <string_view>
 
 #include "model/game_state.h"
@@ -30,8 +32,8 @@ void AppendErrorRecord(const RuntimeError& error, int clan, int amoeba);
 /// Appends an error record and ends the program.
 [[noreturn]] void WriteErrorRecord(const RuntimeError& error, int clan, int amoeba);
 
-/// The error being handled, as one of the game's own; call it inside a catch block. The end of the
-/// program is no error and is thrown on.
+/// The error being handled, as one of the game's own; call it inside a catch block for std::exception
+/// (the ends of program and game are none).
 RuntimeError CurrentError();
 
 /// Runs a phase. An error in it is recorded for the clan and piece that act, and ends the program.
@@ -39,9 +41,7 @@ template <class Body>
 void GuardPhase(Body&& body) {
     try {
         body();
-    } catch (const ProgramEnd&) {
-        throw;
-    } catch (...) {
+    } catch (const std::exception&) {
         WriteErrorRecord(CurrentError(), game.CurPlayer, game.CurAmoeba);
     }
 }

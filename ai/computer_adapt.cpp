@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ai/computer_adapt.h"
+
+#include <utility>
+
+#include "ai/computer_genes.h"
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "rules/ask.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int ScoreWithoutRay = 33;
+constexpr int PersonalityWithoutRay = 0xFFF7F;
+/// Ray Protection counts as 4 while a clan adapts; giving it up lowers the excess by that at once.
+constexpr int RayCredit = 4;
+constexpr int PayableExcess = 6;
+constexpr int ComfortableBP = 5;
+
+struct GeneList {
+    Table<int, 0, GeneCount> Genes;
+    int Count = 0;
+
+    void Add(int gene) { Genes[++Count] = gene; }
+};
+
+class Adaptation {
+public:
+    explicit Adaptation(int clan) : clan_(clan) {}
+
+    void Run() {
+        ListGenes();
+        if (!GiveUpFront()) {
+            GiveUpProtected();
+        }
+    }
+
+private:
+    int Excess() const { return game.Players[clan_].MutationLevel - game.UVLevel - credit_; }
+
+    void Pay() {
+        game.BP[clan_] -= Excess();
+        Board().ShowBP(clan_);
+    }
+
+    void ListGenes() {
+        for (int gene = 1; gene <= GeneCount; ++gene) {
+            if (!game.Genes[gene][clan_]) {
+                continue;
+            }
+            const bool favourite = IsFavourite(clan_, gene) && gene != GeneNumber("ray");
+            if (gene != GeneNumber("div") && !favourite) {
+                InsertByPrice(gene);
+            }
+        }
+        if (HasGene(clan_, "div")) {
+            protected_.Add(GeneNumber("div"));
+        }
+        for (int gene = 1; gene <= GeneCount; ++gene) {
+            const bool favourite = IsFavourite(clan_, gene) && gene != GeneNumber("ray") && gene != GeneNumber("div");
+            if (game.Genes[gene][clan_] && favourite) {
+                protected_.Add(gene);
+            }
+        }
+    }
+
+    /// Cheapest first, equal prices in gene order.
+    void InsertByPrice(int gene) {
+        front_.Add(gene);
+        const auto cost = [&](int place) { return game.Catalogue[front_.Genes[place]].Cost; };
+        for (int place = front_.Count; place > 1 && cost(place) < cost(place - 1); --place) {
+            std::swap(front_.Genes[place], front_.Genes[place - 1]);
+        }
+    }
+
+    void Discard(int gene) {
+        DiscardGene(gene);
+        credit_ += gene == GeneNumber("ray") ? RayCredit : 0;
+    }
+
+    /// True: the excess is settled.
+    bool GiveUpFront() {
+        for (int place = 1; place <= front_.Count; ++place) {
+            const int gene = front_.Genes[place];
+            if (SomebodyListens()) {
+                ReportBox(Concat(game.Players[clan_].Name, " loses: ", GeneName(gene)));
+            }
+            Discard(gene);
+            if (Excess() <= 0) {
+                return true;
+            }
+            if (Excess() < PayableExcess && game.BP[clan_] > ComfortableBP) {
+                Pay();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void GiveUpProtected() {
+        for (int place = 1; place <= protected_.Count + 1; ++place) {
+            if (Excess() <= 0) {
+                return;
+            }
+            if (game.BP[clan_] >= Excess()) {
+                Pay();
+                return;
+            }
+            if (place > protected_.Count) {
+                return;
+            }
+            const int gene = protected_.Genes[place];
+            if (SomebodyListens()) {
+                ReportBox(Concat("Player ", clan_, " discards: ", GeneName(gene)));
+            }
+            Discard(gene);
+        }
+    }
+
+    int clan_;
+    int credit_ = 0;
+    GeneList front_;
+    GeneList protected_;
+};
+
+}  // namespace
+
+void ComputerAdaptEnvironment() {
+    const int clan = game.CurPlayer;
+    if (game.Players[clan].Score > ScoreWithoutRay) {
+        game.Players[clan].Personality &= PersonalityWithoutRay;
+    }
+    Adaptation(clan).Run();
+}
+
+}  // namespace plasmos

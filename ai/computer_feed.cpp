@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ai/computer_feed.h"
+
+#include "ai/fight.h"
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "rules/feeding.h"
+#include "rules/menus.h"
+
+namespace plasmos {
+
+namespace {
+
+bool IsFighter(int clan) {
+    return HasGene(clan, "sfs") || HasGene(clan, "agg");
+}
+
+bool CanEscape(int clan) {
+    return HasGene(clan, "esc") && (HasGene(clan, "str") || game.BP[clan] >= 1);
+}
+
+bool CanDefend(int clan) {
+    return HasGene(clan, "def") && game.BP[clan] >= 1;
+}
+
+bool IsFleet(int clan) {
+    return HasGene(clan, "str") && HasGene(clan, "esc") && (HasGene(clan, "mv1") || HasGene(clan, "mv2"));
+}
+
+/// Another clan with a piece in the square and without armour.
+bool IsPrey(int eater, int clan, int square) {
+    return clan != eater && game.Occupancy[square][clan] > 0 && !HasGene(clan, "arm");
+}
+
+/// With difficulty "Normal" the clans are looked at in the order of play; else from a clan drawn by
+/// die on, and those that can escape or defend are passed over.
+int FirstChoice(int eater, int square) {
+    const int offset = RollDie(game.NumPlayers) - 1;
+    const bool normal = game.Menu.normmen;
+    for (int i = 1; i <= game.NumPlayers; ++i) {
+        const int wrapped = i + offset > game.NumPlayers ? i + offset - game.NumPlayers : i + offset;
+        const int clan = normal ? ClanAtPlace(i) : wrapped;
+        if (IsPrey(eater, clan, square) && (normal || (!CanEscape(clan) && !CanDefend(clan)))) {
+            return clan;
+        }
+    }
+    return 0;
+}
+
+int SecondChoice(int eater, int square) {
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        const int clan = ClanAtPlace(place);
+        if (IsPrey(eater, clan, square) && !IsFleet(clan)) {
+            return clan;
+        }
+    }
+    return 0;
+}
+
+/// The struggle for survival. True: the amoeba is still hungry.
+bool Struggle(int clan, int square) {
+    int victim = FirstChoice(clan, square);
+    if (victim == 0) {
+        victim = SecondChoice(clan, square);
+    }
+    if (victim == 0) {
+        return true;
+    }
+    --game.BP[clan];
+    Board().ShowBP(clan);
+    bool hungry = true;
+    AttackToEat(victim, square, clan, hungry, 0);
+    return hungry;
+}
+
+}  // namespace
+
+void ComputerFeedAmoeba(int clan, int /*amoeba*/, int square) {
+    if (const int menu = SuggestMenu(square, clan); menu >= 1) {
+        EatSuggestion(menu, square);
+        return;
+    }
+    const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(clan, square);
+    if (mayStruggle && !Struggle(clan, square)) {
+        return;
+    }
+    if (HasGene(clan, "par")) {
+        const ParasiteMeal meal = FindParasiteMeal(square, clan);
+        if (meal.Menu != 0) {
+            EatAsParasite(meal, square);
+            return;
+        }
+    }
+    Starve(square);
+}
+
+}  // namespace plasmos

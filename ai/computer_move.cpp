@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ai/computer_move.h"
+
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "rules/menus.h"
+#include "rules/move_amoeba.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int RestPause = 15;
+constexpr int MovePause = 5;
+/// The amoeba in this square jumps to the next one when a 6 leaves it without a candidate.
+constexpr int JumpFrom = 24;
+constexpr int JumpTo = 19;
+
+bool HasSpeed(int clan) {
+    return HasGene(clan, "spe") || HasGene(clan, "per");
+}
+
+/// One pass of the decision: where the amoeba goes, and in which mood.
+class MovePass {
+public:
+    MovePass(int clan, int amoeba, bool second)
+        : clan_(clan), amoeba_(amoeba), second_(second), origin_(piece().Square) {}
+
+    /// Works out the destination, moves there, and tells whether a direction die was rolled.
+    bool Run() {
+        const bool hungryHere = second_ || SuggestMenu(origin_, clan_) == 0;
+        driftSquare_ = FindDriftSquare();
+        if (!hungryHere || (game.BP[clan_] <= 0 && !HasGene(clan_, "str"))) {
+            DriftAlong(hungryHere);
+        } else {
+            MoveActively();
+        }
+        Finish();
+        return rolledDirection_;
+    }
+
+private:
+    const Piece& piece() const { return game.Amoeba[amoeba_][clan_]; }
+    bool Has(GeneCode gene) const { return HasGene(clan_, gene); }
+
+    template <class... Pieces>
+    void Feel(int destination, const Pieces&... line) {
+        destination_ = destination;
+        if (SomebodyListens()) {
+            line_ = Concat(line...);
+        }
+    }
+
+    int FindDriftSquare() const {
+        if (game.Drift != WhereItWants) {
+            return MoveDestination(origin_);
+        }
+        if (SuggestMenu(origin_, clan_) > 0) {
+            return origin_;
+        }
+        const SquareList reachable = Neighbours(origin_, clan_);
+        SquareList feeding;
+        for (int i = 1; i <= reachable.Count; ++i) {
+            if (SuggestMenu(reachable.Squares[i], clan_) >= 1) {
+                feeding.Add(reachable.Squares[i]);
+            }
+        }
+        return feeding.Count == 0 ? origin_ : feeding.Squares[RollDie(feeding.Count)];
+    }
+
+    void DriftAlong(bool hungryHere) {
+        if (hungryHere) {
+            Feel(driftSquare_, piece().Name, " moves resignedly into ", driftSquare_);
+        } else {
+            found_ = true;
+            Feel(driftSquare_, piece().Name, " moves happily into ", driftSquare_);
+        }
+    }
+
+    bool HasPreyIn(int square) const {
+        for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+            if (clan != clan_ && game.Occupancy[square][clan] > 0 && !HasGene(clan, "arm")) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void FindCandidates() {
+        const bool fighter = Has("sfs") || Has("agg");
+        const bool hunting = Has("par") && game.ParasiteHunt;
+        const SquareList reachable = Neighbours(origin_, clan_);
+        for (int i = 1; i <= reachable.Count; ++i) {
+            const int square = reachable.Squares[i];
+            if (SuggestMenu(square, clan_) >= 1 || (fighter && HasPreyIn(square)) || hunting) {
+                candidates_.Add(square);
+            }
+        }
+    }
+
+    void Pay() {
+        --game.BP[clan_];
+        Board().ShowBP(clan_);
+    }
+
+    void MoveActively() {
+        FindCandidates();
+        if (candidates_.Count > 0 && Has("mv2")) {
+            if (!Has("str") && !second_) {
+                Pay();
+            }
+            found_ = true;
+            const int destination = candidates_.Squares[RollDie(candidates_.Count)];
+            Feel(destination, piece().Name, " smugly moves into ", destination);
+        } else if (candidates_.Count == 0 && Has("mv2") && HasSpeed(clan_)) {
+            LookAround();
+        } else if (!MaySteer()) {
+            Feel(driftSquare_, piece().Name, " moves disconsolately into ", driftSquare_);
+        } else {
+            if (!Has("str") && !(HasSpeed(clan_) && second_)) {
+                Pay();
+            }
+            Steer();
+        }
+    }
+
+    void LookAround() {
+        int destination = 0;
+        for (int direction = 1; direction <= 4 && destination == 0; ++direction) {
+            const int neighbour = NeighbourByDie(origin_, direction);
+            if (HasFoodNextDoor(neighbour, clan_)) {
+                found_ = true;
+                destination = neighbour;
+            }
+        }
+        if (destination == 0) {
+            destination = NeighbourByDie(origin_, RollDie(4));
+        }
+        Feel(destination, piece().Name, " moves pensively into ", destination);
+    }
+
+    bool MaySteer() const {
+        if (HasSpeed(clan_) || candidates_.Count > 1) {
+            return true;
+        }
+        return candidates_.Count == 1 && Has("mv1") && (Has("str") || piece().Damage == 1 || RollDie(2) == 2);
+    }
+
+    void Steer() {
+        if (candidates_.Count == 0 && second_) {
+            const int destination = NeighbourByDie(origin_, RollDie(5));
+            Feel(destination, piece().Name, " just doesn't care anymore.");
+            return;
+        }
+        rolledDirection_ = true;
+        const int roll = RollDie(6);
+        if (roll == 6) {
+            const int destination = FindFreely();
+            Feel(destination, piece().Name, " moves triumphantly into square ", destination);
+            return;
+        }
+        const int target = NeighbourByDie(origin_, roll);
+        const bool wanted = candidates_.Has(target);
+        if (Has("mv1") && !wanted) {
+            SteerAgain();
+        } else if (wanted) {
+            found_ = true;
+            Feel(target, piece().Name, " moves joyously into ", target);
+        } else {
+            Feel(target, piece().Name, " moves reluctantly into ", target);
+        }
+    }
+
+    void SteerAgain() {
+        const int roll = RollDie(6);
+        if (roll == 6) {
+            const int destination = FindFreely();
+            Feel(destination, piece().Name, " sashays nonchalantly into square ", destination, ".");
+            return;
+        }
+        const int target = NeighbourByDie(origin_, roll);
+        if (candidates_.Has(target)) {
+            found_ = true;
+            Feel(target, "Amoeba ", amoeba_, " relievedly moves to ", target);
+        } else {
+            Feel(target, piece().Name, " sadly moves into ", target);
+        }
+    }
+
+    /// A 6: any candidate, else any neighbour; from square 24 it is square 19 where that is a real one.
+    int FindFreely() {
+        found_ = true;
+        if (candidates_.Count > 0) {
+            return candidates_.Squares[RollDie(candidates_.Count)];
+        }
+        if (origin_ == JumpFrom && IsValidSquare(JumpTo)) {
+            return JumpTo;
+        }
+        return NeighbourByDie(origin_, RollDie(4));
+    }
+
+    void Finish() {
+        if (destination_ != origin_) {
+            if (SomebodyListens()) {
+                SayText(line_);
+            }
+        } else {
+            Say(piece().Name, " remains ", found_ ? "contentedly" : "dejectedly", " in ", destination_);
+            Board().Pause(RestPause);
+        }
+        MoveAmoeba(clan_, amoeba_, destination_);
+        Board().Pause(MovePause);
+    }
+
+    int clan_;
+    int amoeba_;
+    bool second_;
+    int origin_;
+    int driftSquare_ = 0;
+    int destination_ = 0;
+    bool found_ = false;
+    bool rolledDirection_ = false;
+    SquareList candidates_;
+    std::string line_;
+};
+
+}  // namespace
+
+bool HasFoodNextDoor(int square, int clan) {
+    for (int direction = 1; direction <= 4; ++direction) {
+        if (SuggestMenu(NeighbourByDie(square, direction), clan) >= 1) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void ComputerMoveAmoeba(int clan, int amoeba) {
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    if (HasGene(clan, "hol") && SuggestMenu(piece.Square, clan) > 0) {
+        Say(piece.Name, " clings to the bottom in ", piece.Square);
+        Board().Pause(RestPause);
+        return;
+    }
+    const bool rolled = MovePass(clan, amoeba, false).Run();
+    if (rolled && HasSpeed(clan) && SuggestMenu(piece.Square, clan) == 0) {
+        MovePass(clan, amoeba, true).Run();
+    }
+}
+
+}  // namespace plasmos

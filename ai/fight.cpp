@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ai/fight.h"
+
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "model/signature.h"
+#include "rules/aggression.h"
+#include "rules/ask.h"
+#include "rules/feeding.h"
+#include "rules/move_amoeba.h"
+#include "rules/victim_form.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int EatenPause = 15;
+constexpr int FoodOfTheEaten = 1;
+constexpr int FoodOfTheTorn = 2;
+
+const Piece& Attacker() {
+    return game.Amoeba[game.CurAmoeba][game.CurPlayer];
+}
+
+/// The clan's piece in a square with the lowest (or highest) damage; the lowest number on a tie.
+int PickByDamage(int clan, int square, bool highest) {
+    int picked = 0;
+    for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        if (piece.Square != square) {
+            continue;
+        }
+        const int best = picked == 0 ? 0 : game.Amoeba[picked][clan].Damage;
+        if (picked == 0 || (highest ? piece.Damage > best : piece.Damage < best)) {
+            picked = amoeba;
+        }
+    }
+    return picked;
+}
+
+/// The victim's clan answers by its genes: escape first, then defence. True: the victim got away.
+bool GetsAway(int clan, int amoeba) {
+    if (HasGene(clan, "esc") && EscapeAmoeba(clan, amoeba)) {
+        return true;
+    }
+    return HasGene(clan, "def") && DefendAmoeba(clan, amoeba);
+}
+
+struct Victim {
+    int Clan = 0;
+    int Amoeba = 0;
+};
+
+/// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
+Victim PickByPerson(int attacker, int square) {
+    VictimForm form(attacker, "AGGRESS", "Choose the Attack-victim:", square);
+    for (const VictimFigure& figure : form.Figures) {
+        if (IsVictim(attacker, figure.Clan, square)) {
+            form.Allow(figure.Clan, figure.Amoeba);
+        }
+    }
+    Board().ShowMessage(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
+    const auto picked = AskVictims(form);
+    game.DialogMode = "";
+    if (picked.empty()) {
+        return {};
+    }
+    --game.BP[attacker];
+    Board().ShowBP(attacker);
+    return {picked.front().Clan, picked.front().Amoeba};
+}
+
+void Outcome(const Victim& victim, int square) {
+    if (HasGene(victim.Clan, "arm")) {
+        ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
+        Board().DrawPiece(victim.Clan, victim.Amoeba);
+        return;
+    }
+    AddFoodOfAllColours(square, FoodOfTheTorn);
+    SayMore(game.Amoeba[victim.Amoeba][victim.Clan].Name, " torn viciously to pieces!!!");
+    Board().Pause(EatenPause);
+    RemoveAmoeba(victim.Clan, victim.Amoeba);
+    Board().Pause(EatenPause);
+}
+
+/// Whom the second attack goes against: the same clan if it still has a piece in the square, else the
+/// lowest-numbered clan that is a victim there; 0: nobody.
+int SecondVictimClan(int clan, int square) {
+    if (!HasVictim(game.CurPlayer, square)) {
+        return 0;
+    }
+    if (game.Occupancy[square][clan] > 0) {
+        return clan;
+    }
+    for (int other = 1; other <= game.NumPlayers; ++other) {
+        if (IsVictim(game.CurPlayer, other, square)) {
+            return other;
+        }
+    }
+    return 0;
+}
+
+/// One attack against a victim that is known. True: the victim got away.
+bool Resolve(const Victim& victim, int square) {
+    const int attacker = game.CurPlayer;
+    MoveBeside(attacker, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
+    Sign(SignedEvent::Attack, attacker, victim.Clan, victim.Amoeba);
+    Say(Attacker().Name, " picking a fight with ", game.Amoeba[victim.Amoeba][victim.Clan].Name, " in ", square);
+    const bool gotAway = GetsAway(victim.Clan, victim.Amoeba);
+    if (!gotAway) {
+        Outcome(victim, square);
+    }
+    Board().DrawSquare(square);
+    return gotAway;
+}
+
+}  // namespace
+
+void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, int victimAmoeba) {
+    stillHungry = true;
+    if (!game.Players[victimClan].IsComputer) {
+        ShowBox(victimClan, Concat(game.Players[victimClan].Name, ": You are being attacked!"));
+    }
+    const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(victimClan, square, false);
+    MoveBeside(victimClan, amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
+    Sign(SignedEvent::Attack, attacker, victimClan, amoeba);
+    if (GetsAway(victimClan, amoeba)) {
+        return;
+    }
+    stillHungry = false;
+    AddFoodOfAllColours(square, FoodOfTheEaten);
+    Say(game.Amoeba[amoeba][victimClan].Name, " Eaten!");
+    Board().Pause(EatenPause);
+    RemoveAmoeba(victimClan, amoeba);
+}
+
+void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
+    const int attacker = game.CurPlayer;
+    Victim victim{victimClan, victimAmoeba};
+    for (int attack = 1; attack <= 2; ++attack) {
+        if (!game.Players[attacker].IsComputer) {
+            if (game.BP[attacker] < 1) {
+                return;
+            }
+            victim = PickByPerson(attacker, square);
+        } else if (victim.Amoeba == 0) {
+            victim.Amoeba = PickByDamage(victim.Clan, square, HasGene(victim.Clan, "arm"));
+        }
+        if (victim.Amoeba == 0) {
+            return;
+        }
+        const bool gotAway = Resolve(victim, square);
+        if (!gotAway || !HasGene(attacker, "per")) {
+            return;
+        }
+        victim = {SecondVictimClan(victim.Clan, square), 0};
+        if (victim.Clan == 0) {
+            return;
+        }
+    }
+}
+
+}  // namespace plasmos

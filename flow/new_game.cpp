@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flow/new_game.h"
+
+#include <utility>
+
+#include "flow/names.h"
+#include "flow/personalities.h"
+#include "flow/scoring.h"
+#include "model/dice.h"
+#include "model/encoding.h"
+#include "model/genes.h"
+#include "model/platform.h"
+#include "model/presentation.h"
+#include "model/settings_store.h"
+#include "model/step.h"
+#include "model/strings.h"
+#include "model/trace.h"
+#include "rules/ask.h"
+#include "rules/choice_forms.h"
+#include "rules/directions.h"
+#include "rules/division.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int StartingBP = 4;
+constexpr int StartingFood = 2;
+constexpr int LongestName = 20;
+constexpr int UVValues[LastCard + 1] = {6, 8, 9, 9, 10, 10, 10, 11, 12, 13, 14};
+constexpr std::int32_t ClanColours[MaxClans + 1] = {0, 0xFF0000, 0xFF00FF, 0x00FFFF, 0x0000FF, 0x0BB000, 0x0080FF};
+
+void ChooseReplayNumber() {
+    const std::string typed = Board().TakeReplayText();
+    if (game.HasRequestedReplay) {
+        game.ReplayNo = game.RequestedReplay;
+    } else if (!ParseReplayNumber(typed, game.ReplayNo)) {
+        game.ReplayNo = static_cast<float>(SecondsSinceMidnight());
+    }
+    SeedRandom(game.ReplayNo);
+    if (game.Window != nullptr) {
+        Board().ShowCaption(Concat("The Puddle  (", ReplayText(game.ReplayNo), ")"));
+    }
+}
+
+int GetPlayerCount() {
+    if (game.RequestedClans != 0) {
+        return game.RequestedClans;
+    }
+    if (game.AutoPlay) {
+        return RollDie(4) + 2;
+    }
+    for (;;) {
+        const int count = AskPlayerCount();
+        if (count >= 3 && count <= 6) {
+            ClearMessage();
+            return count;
+        }
+        Board().ShowMessage("Invalid response!", 0);
+    }
+}
+
+std::string ClanName(int clan) {
+    const auto fallback = Concat("Player ", clan);
+    if (game.Settings == nullptr) {
+        return fallback;
+    }
+    const auto name = FirstCharacters(game.Settings->Get("players", Concat("name", clan), {}), LongestName);
+    return Trim(name).empty() ? fallback : name;
+}
+
+void SetUpClan(int clan) {
+    game.AmoebaCount[clan] = 0;
+    game.BP[clan] = StartingBP;
+    game.Players[clan].IsComputer = true;
+    game.Players[clan].Name = ClanName(clan);
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        game.Food[square][clan] = game.Blocked[square] ? 0 : StartingFood;
+    }
+}
+
+void SeatPersons() {
+    if (game.AutoPlay) {
+        return;
+    }
+    game.Players[3].IsComputer = false;
+    if (game.Menu.twoplayermen) {
+        game.Players[2].IsComputer = false;
+    }
+}
+
+void ShufflePlayOrder() {
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        game.PlayOrder[place] = place;
+    }
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        std::swap(game.PlayOrder[place], game.PlayOrder[RollDie(game.NumPlayers)]);
+    }
+}
+
+void PlaceOne(int place) {
+    game.CurPlayer = ClanAtPlace(place);
+    Board().ShowCurrentClan(game.CurPlayer);
+    CreateAmoeba(game.CurPlayer);
+}
+
+void SetUpGame() {
+    EmptyMoveFile();
+    ChooseReplayNumber();
+    BuildEnvDeck();
+    ShuffleEnvDeck();
+    game.Drift = game.EnvDeck[0].DriftDirection;
+    Board().ShowDrift();
+    game.NumPlayers = GetPlayerCount();
+    game.MaxAmoeba = game.NumPlayers >= 5 ? 6 : 7;
+    FillScoreTables();
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        SetUpClan(clan);
+    }
+    SeatPersons();
+    DealPersonalities();
+    ResetGenes();
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        Board().ShowBP(clan);
+        Board().ShowGenes(clan);
+        Board().ShowAutoFlags(clan);
+    }
+    PlaceStartPieces();
+    game.GameOver = false;
+}
+
+}  // namespace
+
+void BuildEnvDeck() {
+    for (int card = 0; card <= LastCard; ++card) {
+        game.EnvDeck[card] = {UVValues[card], DirectionFromDie(RollDie(6))};
+    }
+}
+
+void ShuffleEnvDeck() {
+    for (int card = 0; card <= LastCard; ++card) {
+        const int uv = RollDie(LastCard + 1) - 1;
+        std::swap(game.EnvDeck[card].UV, game.EnvDeck[uv].UV);
+        const int drift = RollDie(LastCard + 1) - 1;
+        std::swap(game.EnvDeck[card].DriftDirection, game.EnvDeck[drift].DriftDirection);
+    }
+    game.UVLevel = game.EnvDeck[0].UV;
+    Board().ShowUV();
+}
+
+int AskPlayerCount() {
+    AmNumfrm form(0, "Choose 3 to 6 players", "How many players would you like for this game of Zymarra?", 0, -1);
+    for (int count = 3; count <= 6; ++count) {
+        form.amopt[count].Visible = form.amopt[count].Enabled = true;
+    }
+    OpenQuestion open(form);
+    open.Wait();
+    const int count = game.Reply;
+    NoteAnswer(form, Concat(count), count >= 3 && count <= 6);
+    game.Reply = 0;
+    return count;
+}
+
+void PlaceStartPieces() {
+    for (int clan = 1; clan <= MaxClans; ++clan) {
+        game.Players[clan].Colour = ClanColours[clan];
+    }
+    LoadAmoebaNames();
+    ShufflePlayOrder();
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        game.Players[ClanAtPlace(place)].Score = game.NumPlayers + place - 1;
+    }
+    Board().ShowOrder();
+    Board().DrawBoard();
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        PlaceOne(place);
+    }
+    Board().DrawBoard();
+    for (int place = game.NumPlayers; place >= 1; --place) {
+        PlaceOne(place);
+    }
+}
+
+void NewGame() {
+    ResetTables();
+    RunStep(Step::NewGame, 0, 0, [] { SetUpGame(); });
+}
+
+}  // namespace plasmos

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace plasmos {
+
+/// Deals every computer clan its personality by die, no card twice ("Eater" is in the deck twice). With
+/// three clans the "Miser" is left out; with difficulty "Normal" Ray Protection becomes a favourite of
+/// all. Where no "Eater" was dealt, everybody's favourites are thinned out.
+void DealPersonalities();
+
+}  // namespace plasmos

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flow/play_game.h"
+
+#include <exception>
+
+#include "flow/new_game.h"
+#include "flow/scoring.h"
+#include "model/dice.h"
+#include "model/game_files.h"
+#include "model/narration.h"
+#include "model/observer.h"
+#include "model/platform.h"
+#include "model/presentation.h"
+#include "model/trace.h"
+#include "rules/aggression.h"
+#include "rules/ask.h"
+#include "rules/division.h"
+#include "rules/environment.h"
+#include "rules/movement.h"
+#include "rules/new_genes.h"
+
+namespace plasmos {
+
+namespace {
+
+void WriteHeader() {
+    if (!TracesAreKept() && game.Window == nullptr) {
+        return;
+    }
+    const auto header = Concat("Game: ", ReplayText(game.ReplayNo), " ", DateAndTime());
+    WriteTrace(Concat("\n\n", header, "\n"), "");
+    Board().StartLog(header);
+}
+
+/// Ends this game and tells the person what happened and where; the window stays usable.
+void EndBrokenGame(const RuntimeError& error) {
+    const int clan = game.CurPlayer;
+    AppendErrorRecord(error, clan, game.CurAmoeba);
+    if (game.Window == nullptr) {
+        throw ProgramEnd{1};
+    }
+    const auto name = game.Players[clan].Name.String();
+    const auto where = clan != 0 ? Concat("\nClan ", clan, " (", name, ")") : std::string();
+    game.AutoPlay = false;
+    BoxQuestion box(
+        0, Concat("This game cannot go on.\nError #", error.Number, ": ", std::string_view(error.what()), where));
+    OpenQuestion open(box);
+    open.Wait();
+}
+
+template <class Game>
+void PlayGuarded(Game&& play) {
+    try {
+        if (game.Files != nullptr) {
+            game.Files->MakeFolder();
+        }
+        play();
+    } catch (const GameLeft&) {
+        Board().DisableAutoEating();
+    } catch (const std::exception&) {
+        EndBrokenGame(CurrentError());
+    }
+}
+
+}  // namespace
+
+void PlayRound() {
+    MovementPhase();
+    EnvironmentPhase();
+    NewGenesPhase();
+    DivisionPhase();
+    AggressionPhase();
+    ScorePhase();
+}
+
+void AnnounceWinner() {
+    Board().DisableAutoEating();
+    const auto& winner = game.Players[ClanAtPlace(1)].Name;
+    if (SomebodyListens()) {
+        ShowBox(0, Concat("Clan ", winner, " wins!"));
+    }
+}
+
+void PlayOneGame() {
+    NewGame();
+    WriteHeader();
+    for (game.Turn = 1; game.Turn <= LastTurn; ++game.Turn) {
+        Board().ShowTurn();
+        PlayRound();
+        if (game.GameOver) {
+            break;
+        }
+    }
+    AnnounceWinner();
+    if (game.Listener != nullptr) {
+        game.Listener->OnOver();
+    }
+}
+
+void PlayGame() {
+    PlayGuarded([] {
+        game.AutoPlay = false;
+        do {
+            PlayOneGame();
+        } while (game.AutoPlay);
+    });
+}
+
+void PlayUnattended() {
+    game.AutoPlay = true;
+    PlayGuarded([] { PlayOneGame(); });
+    game.AutoPlay = false;
+}
+
+}  // namespace plasmos

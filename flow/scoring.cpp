@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flow/scoring.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "model/signature.h"
+#include "model/step.h"
+#include "model/trace.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int MostGenesScored = 7;
+constexpr int GenesBeforeDouble = 17;
+
+constexpr int AmoebaPointsFew[8] = {0, 0, 0, 1, 2, 4, 5, 6};
+constexpr int AmoebaPointsMany[8] = {0, 0, 1, 2, 4, 5, 6, 7};
+constexpr int GenePoints[8] = {0, 0, 0, 1, 2, 3, 4, 4};
+
+/// The first clan in clan-number order that shares the clan's space; 0: none.
+bool SharesSpace(int clan) {
+    for (int other = 1; other <= game.NumPlayers; ++other) {
+        if (other != clan && game.Players[other].Score == game.Players[clan].Score) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// One space on, and over every space that is taken.
+void AdvanceOne(int clan) {
+    do {
+        ++game.Players[clan].Score;
+    } while (SharesSpace(clan));
+}
+
+/// One more pass over the other clans: each that shares the space moves the clan one on. The pass is
+/// made again only when no other clan had a different score.
+void LeaveSharedSpace(int clan) {
+    bool differed = false;
+    while (!differed) {
+        for (int other = 1; other <= game.NumPlayers; ++other) {
+            if (other == clan) {
+                continue;
+            }
+            if (game.Players[other].Score == game.Players[clan].Score) {
+                ++game.Players[clan].Score;
+            } else {
+                differed = true;
+            }
+        }
+    }
+}
+
+void ScoreClan(int clan) {
+    game.CurPlayer = clan;
+    const int steps = game.ScoreByGenes[CountScoredGenes(clan)] + game.ScoreByAmoebaCount[game.AmoebaCount[clan]];
+    for (int step = 1; step <= steps; ++step) {
+        AdvanceOne(clan);
+    }
+    LeaveSharedSpace(clan);
+    Sign(SignedEvent::Score, clan, game.Players[clan].Score);
+    Board().ShowOrder();
+}
+
+void SortPlayOrder() {
+    const auto score = [](int place) { return game.Players[game.PlayOrder[place]].Score; };
+    for (int place = 1; place <= game.NumPlayers - 1; ++place) {
+        int best = place;
+        for (int other = place + 1; other <= game.NumPlayers; ++other) {
+            if (score(other) > score(best)) {
+                best = other;
+            }
+        }
+        if (best != place) {
+            std::swap(game.PlayOrder[place], game.PlayOrder[best]);
+        }
+    }
+    Board().ShowOrder();
+}
+
+void TestVictory() {
+    for (int clan = 1; clan <= game.NumPlayers && game.Menu.victorymen; ++clan) {
+        if (game.Players[clan].Score >= VictoryScore) {
+            game.GameOver = true;
+        }
+    }
+}
+
+}  // namespace
+
+int CountScoredGenes(int clan) {
+    int count = 0;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (game.Genes[gene][clan] && gene != GeneNumber("ray")) {
+            count += count >= GenesBeforeDouble ? 2 : 1;
+        }
+    }
+    return std::min(count, MostGenesScored);
+}
+
+void FillScoreTables() {
+    const bool many = game.NumPlayers >= 5;
+    for (int count = 0; count <= 7; ++count) {
+        game.ScoreByAmoebaCount[count] = many ? AmoebaPointsMany[count] : AmoebaPointsFew[count];
+        game.ScoreByGenes[count] = GenePoints[count];
+    }
+}
+
+void RecordFoodHistory() {
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+            game.FoodHistory[square][clan][game.Turn] = game.Food[square][clan];
+        }
+    }
+}
+
+void ScorePhase() {
+    GuardPhase([] {
+        Board().ShowPhase("Scoring");
+        RunStep(Step::Score, 0, 0, [] {
+            for (int place = 1; place <= game.NumPlayers; ++place) {
+                ScoreClan(ClanAtPlace(place));
+            }
+            SortPlayOrder();
+            TestVictory();
+            RecordFoodHistory();
+        });
+    });
+}
+
+}  // namespace plasmos

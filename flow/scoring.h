@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace plasmos {
+
+/// The last phase of a turn: scoring, re-ordering, victory test, food history.
+void ScorePhase();
+
+/// Copies the food on the board into the history of this turn.
+void RecordFoodHistory();
+
+/// Points for amoebas and for genes, by the number of clans in play.
+void FillScoreTables();
+
+/// Genes of a clan that count for the score, at most 7; Ray Protection never counts.
+int CountScoredGenes(int clan);
+
+}  // namespace plasmos

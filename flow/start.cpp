@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flow/start.h"
+
+#include <algorithm>
+
+#include "model/board_size.h"
+#include "model/game_files.h"
+#include "model/game_state.h"
+#include "model/settings_store.h"
+
+namespace plasmos {
+
+std::string PrepareDataFolder() {
+    if (game.Files == nullptr) {
+        return {};
+    }
+    try {
+        game.Files->MakeFolder();
+        return {};
+    } catch (const RuntimeError& error) {
+        return Concat("The data folder cannot be made.\n", std::string_view(error.what()));
+    }
+}
+
+BoardSize ReadBoardSettings() {
+    BoardSize board;
+    if (game.Settings == nullptr) {
+        return board;
+    }
+    const auto& store = *game.Settings;
+    board.Rows = GetNumber(store, "board", "rows", DefaultSide, MinSide, MaxSide);
+    board.Cols = GetNumber(store, "board", "cols", DefaultSide, MinSide, MaxSide);
+    if (board.Rows * board.Cols > MaxBoardSquares) {
+        board.Rows = board.Cols = DefaultSide;
+    }
+    board.Blocks = ParseBlocks(store.Get("board", "blocks", {}), board.Rows * board.Cols);
+    TrimBlocks(board);
+    return board;
+}
+
+void LoadBoard() {
+    const BoardSize board = ReadBoardSettings();
+    SetBoard(board.Rows, board.Cols, BlocksText(board.Blocks));
+}
+
+}  // namespace plasmos

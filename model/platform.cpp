@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/platform.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <thread>
+
+namespace plasmos {
+
+namespace {
+
+std::tm LocalTime(std::time_t seconds) {
+    std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &seconds);
+#else
+    localtime_r(&seconds, &local);
+#endif
+    return local;
+}
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+}  // namespace
+
+std::string DataFolderPath() {
+    if (auto chosen = Environment("PLASMOS_DATA"); !chosen.empty()) {
+        return chosen;
+    }
+#ifdef _WIN32
+    return "C:\\QX\\Plasmo6";
+#else
+    if (const auto home = Environment("XDG_DATA_HOME"); !home.empty() && home.front() == '/') {
+        return home + "/QX/Plasmo6";
+    }
+    return Environment("HOME") + "/.local/share/QX/Plasmo6";
+#endif
+}
+
+std::string DateAndTime() {
+    const std::tm local = LocalTime(std::time(nullptr));
+    char text[32];
+    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local)};
+}
+
+double SecondsSinceMidnight() {
+    using std::chrono::system_clock;
+    const auto now = system_clock::now();
+    const std::tm local = LocalTime(system_clock::to_time_t(now));
+    const auto whole = std::chrono::time_point_cast<std::chrono::seconds>(now);
+    const std::chrono::duration<double> part = now - whole;
+    return local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec + part.count();
+}
+
+bool HasUpDownControls() {
+    return true;
+}
+
+void SleepMilliseconds(int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+}  // namespace plasmos

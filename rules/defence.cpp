@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
+#include "ai/computer_escape.h"
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "rules/aggression.h"
+#include "rules/ask.h"
+#include "rules/move_amoeba.h"
+#include "rules/movement.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int DefencePause = 10;
+
+void Pay(int clan) {
+    --game.BP[clan];
+    Board().ShowBP(clan);
+}
+
+bool AgreesToDefend(int clan, int amoeba, bool again) {
+    if (game.BP[clan] < 1) {
+        return false;
+    }
+    if (game.Players[clan].IsComputer) {
+        return true;
+    }
+    return AskYesNo(clan, Concat(game.Players[clan].Name,
+                                 again ? ": would you like to pay another BP for " : ": would you like to pay 1BP for ",
+                                 game.Amoeba[amoeba][clan].Name, " to Defend itself against the attack?"));
+}
+
+/// Two dice, rolled again as long as they are equal; the defence succeeds when the first is lower.
+bool RollDefence() {
+    for (int draw = 1; draw <= MaxDraws; ++draw) {
+        const int first = RollDie(6);
+        const int second = RollDie(6);
+        if (first != second) {
+            return first < second;
+        }
+    }
+    return true;
+}
+
+bool DefendOnce(int clan, int amoeba) {
+    Pay(clan);
+    const bool beatenOff = RollDefence();
+    if (beatenOff) {
+        const Piece& attacker = game.Amoeba[game.CurAmoeba][game.CurPlayer];
+        if (SomebodyListens()) {
+            ReportBox(Concat(attacker.Name, " has been beaten off by ", game.Amoeba[amoeba][clan].Name, "!"));
+        }
+    } else {
+        SayMore("Amoeba's defense failed.");
+    }
+    Board().Pause(DefencePause);
+    return beatenOff;
+}
+
+bool AgreesToEscape(int clan, int amoeba) {
+    const auto& name = game.Amoeba[amoeba][clan].Name;
+    const auto& clanName = game.Players[clan].Name;
+    return AskYesNo(
+        clan, HasGene(clan, "str")
+                  ? Concat(clanName, ": Would ", name, " like to attempt to Escape the attack?")
+                  : Concat(clanName, ": Would you like to pay 1BP for ", name, " to attempt to Escape the attack?"));
+}
+
+void PayForEscape(int clan) {
+    if (!HasGene(clan, "str")) {
+        Pay(clan);
+    }
+}
+
+bool EscapePerson(int clan, int amoeba) {
+    if (!AgreesToEscape(clan, amoeba)) {
+        return false;
+    }
+    const int square = game.Amoeba[amoeba][clan].Square;
+    PayForEscape(clan);
+    MoveAlone(clan, amoeba, FindPersonsDestination(clan, amoeba, false));
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const bool escaped = piece.Square != square;
+    TellPerson(clan, escaped ? Concat("Your amoeba ", piece.Name, " escapes to ", piece.Square, ".")
+                             : Concat("Your amoeba ", piece.Name, " failed to escape."));
+    return escaped;
+}
+
+bool EscapeComputer(int clan, int amoeba) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    PayForEscape(clan);
+    MoveAlone(clan, amoeba, FindEscapeSquare(clan, amoeba));
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    if (piece.Square == square) {
+        return false;
+    }
+    Say(piece.Name, " escaped to ", piece.Square, "!");
+    return true;
+}
+
+}  // namespace
+
+bool DefendAmoeba(int clan, int amoeba) {
+    if (game.Amoeba[amoeba][clan].Damage >= DamageLimit(clan)) {
+        return false;
+    }
+    if (!AgreesToDefend(clan, amoeba, false)) {
+        return false;
+    }
+    if (DefendOnce(clan, amoeba)) {
+        return true;
+    }
+    return HasGene(clan, "per") && AgreesToDefend(clan, amoeba, true) && DefendOnce(clan, amoeba);
+}
+
+bool EscapeAmoeba(int clan, int amoeba) {
+    if (game.BP[clan] < 1) {
+        return false;
+    }
+    if (!game.Players[clan].IsComputer) {
+        return EscapePerson(clan, amoeba);
+    }
+    if (game.Amoeba[amoeba][clan].Damage >= DamageLimit(clan)) {
+        return false;
+    }
+    return EscapeComputer(clan, amoeba);
+}
+
+}  // namespace plasmos

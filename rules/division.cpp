@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/division.h"
+
+#include <algorithm>
+
+#include "ai/computer_divide.h"
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "model/step.h"
+#include "model/trace.h"
+#include "rules/ask.h"
+#include "rules/choice_forms.h"
+#include "rules/move_amoeba.h"
+
+namespace plasmos {
+
+namespace {
+
+int FreeSlot(int clan) {
+    for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+        if (game.Amoeba[amoeba][clan].Square == 0) {
+            return amoeba;
+        }
+    }
+    return 0;
+}
+
+template <class Test>
+std::vector<int> SquaresWhere(Test&& test) {
+    std::vector<int> squares;
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        if (IsValidSquare(square) && test(square)) {
+            squares.push_back(square);
+        }
+    }
+    return squares;
+}
+
+bool IsNextToOwn(int square, int clan) {
+    for (int direction = 1; direction <= 4; ++direction) {
+        const int next = game.NextTo[square][direction];
+        if (next != square && game.Occupancy[next][clan] > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool IsEmptySquare(int square) {
+    return game.Occupancy[square][0] == 0;
+}
+
+/// A square of the board is drawn until it is a real one that holds no amoeba.
+int DrawStartSquare() {
+    for (int draw = 1; draw <= MaxDraws; ++draw) {
+        const int square = RollDie(game.NumSquares);
+        if (IsValidSquare(square) && IsEmptySquare(square)) {
+            return square;
+        }
+    }
+    const auto empty = SquaresWhere(IsEmptySquare);
+    return empty.empty() ? 0 : empty.front();
+}
+
+int ChooseSquareFor(int clan) {
+    const bool inPlay = game.Turn >= 1;
+    if (!game.Players[clan].IsComputer) {
+        return PlacingSquares(clan, inPlay).empty() ? 0 : ChoosePlaceSquare(clan, inPlay);
+    }
+    if (!inPlay) {
+        return DrawStartSquare();
+    }
+    if (HasGene(clan, "spo") || game.AmoebaCount[clan] < 2) {
+        return ComputerPlaceSquare(clan);
+    }
+    return ComputerPlaceBeside(clan);
+}
+
+void TraceCreation(int clan, int amoeba, int square) {
+    if (TracesAreKept()) {
+        WriteTrace(Concat("Amoeba Created! Player: ", clan, " (", game.Players[clan].Name, ") Moeba: ", amoeba,
+                          "  square: ", square),
+                   "crt");
+    }
+}
+
+void Complete(int clan, int amoeba, int square) {
+    game.Amoeba[amoeba][clan].Damage = 0;
+    const int slot = SquareCapacity(square);
+    PutPiece(clan, amoeba, square, slot);
+    ++game.AmoebaCount[clan];
+    Sign(SignedEvent::Birth, clan, amoeba, square);
+    Board().DrawSquare(square);
+    Board().DrawPiece(clan, amoeba);
+    Board().ShowCurrentClan(clan);
+    if (game.Players[clan].IsComputer) {
+        TraceCreation(clan, amoeba, square);
+    }
+}
+
+int AskHowMany(int clan, int affordable) {
+    AmNumfrm form(clan, "Amoeba-number form", "How many amoebas would you like to create?", -1, 0);
+    form.Activate();
+    form.LimitTo(affordable);
+    Board().ShowMessage(form.Text, clan);
+    OpenQuestion open(form);
+    open.Wait();
+    const int count = game.Reply;
+    NoteAnswer(form, Concat(count), true);
+    game.Reply = 0;
+    return count;
+}
+
+void DividePerson(int clan, int price) {
+    int affordable = std::min(game.BP[clan] / price, game.MaxAmoeba - game.AmoebaCount[clan]);
+    if (affordable < 1) {
+        return;
+    }
+    const auto& name = game.Players[clan].Name;
+    if (AskYesNo(clan, Concat("Clan ", name, ", would you like to Divide new Plasmos onto the board?"))) {
+        if (game.AmoebaCount[clan] == 0) {
+            ShowBox(clan, Concat("Your first amoeba will be free of cost; all further amoebas will cost you ", price,
+                                 " BPs as normal."));
+            ++affordable;
+        }
+        const int count = AskHowMany(clan, affordable);
+        for (int i = 1; i <= count && DivideOnce(clan, price); ++i) {
+        }
+    }
+    ClearMessage();
+}
+
+}  // namespace
+
+int DivisionIncome() {
+    return game.NumPlayers >= 5 ? 11 : 10;
+}
+
+int DivisionPrice(int clan) {
+    return HasGene(clan, "div") ? 4 : 6;
+}
+
+std::vector<int> PlacingSquares(int clan, bool inPlay) {
+    const auto withoutOwn = [&](int square) { return game.Occupancy[square][clan] == 0; };
+    std::vector<int> squares;
+    if (game.AmoebaCount[clan] == 0 || !inPlay) {
+        squares = SquaresWhere(IsEmptySquare);
+    } else if (HasGene(clan, "spo") || game.AmoebaCount[clan] < 2) {
+        squares = SquaresWhere(withoutOwn);
+    } else {
+        squares = SquaresWhere([&](int square) { return IsNextToOwn(square, clan); });
+    }
+    return squares.empty() ? SquaresWhere(withoutOwn) : squares;
+}
+
+int ChoosePlaceSquare(int clan, bool inPlay) {
+    return AskSquare(clan, "Choose a square in which to place your amoeba:", PlacingSquares(clan, inPlay));
+}
+
+bool CreateAmoeba(int clan) {
+    const int amoeba = FreeSlot(clan);
+    if (amoeba == 0) {
+        return false;
+    }
+    const int square = ChooseSquareFor(clan);
+    if (square == 0) {
+        return false;
+    }
+    Complete(clan, amoeba, square);
+    return true;
+}
+
+bool DivideOnce(int clan, int price) {
+    if (FreeSlot(clan) == 0 || PlacingSquares(clan, true).empty()) {
+        return false;
+    }
+    if (game.AmoebaCount[clan] >= 1) {
+        game.BP[clan] -= price;
+        Board().ShowBP(clan);
+    }
+    return CreateAmoeba(clan);
+}
+
+void DivisionPhase() {
+    GuardPhase([] {
+        Board().ShowPhase("Division");
+        for (int place = 1; place <= game.NumPlayers; ++place) {
+            const int clan = ClanAtPlace(place);
+            game.CurPlayer = clan;
+            RunStep(Step::Divide, clan, 0, [&] {
+                Board().ShowCurrentClan(clan);
+                game.BP[clan] += DivisionIncome();
+                Board().ShowBP(clan);
+                if (game.Players[clan].IsComputer) {
+                    ComputerDivide(DivisionPrice(clan));
+                } else {
+                    DividePerson(clan, DivisionPrice(clan));
+                }
+            });
+        }
+    });
+}
+
+}  // namespace plasmos

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/environment.h"
+
+#include "ai/computer_adapt.h"
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "model/step.h"
+#include "model/trace.h"
+#include "rules/ask.h"
+#include "rules/gene_form.h"
+
+namespace plasmos {
+
+namespace {
+
+void TurnCard() {
+    const EnvironmentCard& card = game.EnvDeck[game.Turn];
+    game.Drift = card.DriftDirection;
+    game.UVLevel = card.UV;
+    Board().ShowDrift();
+    Board().ShowUV();
+}
+
+void AdaptPerson(int clan) {
+    const std::string text =
+        "The environment has changed.\n"
+        "You must pay the difference in BP between your amoebas' mutation-point value and the environmental "
+        "UV-level, and/or discard genes until the difference is reduced to 0 or below.";
+    GeneForm form(clan, text);
+    form.PrepareEnvironment();
+    Board().ShowMessage(text, clan);
+    {
+        OpenQuestion open(form);
+        open.Wait();
+        while (form.RefusalPending) {
+            form.RefuseDone();
+            Board().Refresh(form);
+            open.Wait();
+        }
+    }
+    ClearMessage();
+}
+
+void AdaptComputer(int clan, int excess) {
+    if (game.BP[clan] > excess) {
+        game.BP[clan] -= excess;
+        Board().ShowBP(clan);
+    } else {
+        ComputerAdaptEnvironment();
+    }
+}
+
+void Adapt(int clan) {
+    game.CurPlayer = clan;
+    const int excess = game.Players[clan].MutationLevel - game.UVLevel;
+    if (excess <= 0) {
+        return;
+    }
+    RunStep(Step::Adapt, clan, 0, [&] {
+        Board().ShowCurrentClan(clan);
+        if (game.Players[clan].IsComputer) {
+            AdaptComputer(clan, excess);
+        } else {
+            AdaptPerson(clan);
+        }
+        game.DialogMode = "";
+    });
+}
+
+}  // namespace
+
+std::string_view DirectionText(int direction) {
+    if (direction == 1)
+        return "Right";
+    if (direction == game.NumCols)
+        return "Down";
+    if (direction == -1)
+        return "Left";
+    if (direction == -game.NumCols)
+        return "Up";
+    if (direction == 0)
+        return "in place";
+    return direction == WhereItWants ? "where it wants" : "";
+}
+
+void EnvironmentPhase() {
+    GuardPhase([] {
+        Board().ShowPhase("Environment");
+        RunStep(Step::Environment, 0, 0, [] { TurnCard(); });
+        for (int place = 1; place <= game.NumPlayers; ++place) {
+            Adapt(ClanAtPlace(place));
+        }
+    });
+}
+
+}  // namespace plasmos

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/feeding.h"
+
+#include <algorithm>
+
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "model/signature.h"
+#include "rules/menus.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Excretion = 2;
+constexpr int StarvePause = 10;
+constexpr int LastLentColour = 6;
+
+const Piece& Eater() {
+    return game.Amoeba[game.CurAmoeba][game.CurPlayer];
+}
+
+Table<int, 0, 7> DigitsOf(int menu) {
+    Table<int, 0, 7> reversed;
+    int count = 0;
+    for (; menu > 0 && count < 7; menu /= 10) {
+        reversed[++count] = menu % 10;
+    }
+    Table<int, 0, 7> digits;
+    for (int i = 1; i <= count; ++i) {
+        digits[i] = reversed[count + 1 - i];
+    }
+    return digits;
+}
+
+/// The lowest colour from one upward that the square lacks and that is not the eater's; 6 ends it.
+int NextLentColour(int colour, int square, int clan) {
+    while (colour < LastLentColour && (colour == clan || game.Food[square][colour] > 0)) {
+        ++colour;
+    }
+    return colour;
+}
+
+}  // namespace
+
+bool IsVictim(int eater, int clan, int square) {
+    if (clan == eater || game.Occupancy[square][clan] == 0) {
+        return false;
+    }
+    const bool armour = HasGene(eater, "sfs") && HasGene(clan, "arm");
+    const bool poor = HasGene(eater, "par") && game.BP[clan] == 0;
+    return !armour && !poor;
+}
+
+bool HasVictim(int eater, int square) {
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        if (IsVictim(eater, clan, square)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool IsHost(int eater, int clan, int square) {
+    return clan != eater && game.Occupancy[square][clan] > 0 && game.BP[clan] >= 1;
+}
+
+ParasiteMeal FindParasiteMeal(int square, int clan) {
+    ParasiteMeal meal;
+    if (!HasGene(clan, "par")) {
+        return meal;
+    }
+    const auto before = game.Food[square];
+    int colour = NextLentColour(1, square, clan);
+    for (int host = 1; host <= game.NumPlayers && meal.HostCount < 2 && meal.Menu == 0; ++host) {
+        if (!IsHost(clan, host, square)) {
+            continue;
+        }
+        meal.Hosts[++meal.HostCount] = host;
+        ++game.Food[square][colour];
+        meal.Menu = SuggestMenu(square, clan);
+        if (meal.Menu == 0) {
+            colour = NextLentColour(std::min(colour + 1, LastLentColour), square, clan);
+        }
+    }
+    game.Food[square] = before;
+    OrderEqualAmounts();
+    for (int& eaten : game.MenuColours) {
+        eaten = game.Food[square][eaten] == 0 ? 0 : eaten;
+    }
+    return meal;
+}
+
+void EatMenu(int menu, int square) {
+    if (menu == 0) {
+        return;
+    }
+    const int clan = game.CurPlayer;
+    const auto digits = DigitsOf(menu);
+    for (int i = 1; i <= 7 && digits[i] > 0; ++i) {
+        const int colour = game.MenuColours[i];
+        if (colour != 0) {
+            game.Food[square][colour] -= digits[i];
+        }
+    }
+    game.Food[square][clan] += Excretion;
+    Sign(SignedEvent::Meal, clan, square, menu);
+    Say(Eater().Name, " eats ", menu, " in ", square);
+    Board().DrawSquare(square);
+}
+
+void EatSuggestion(int menu, int square) {
+    OrderEqualAmounts();
+    EatMenu(menu, square);
+}
+
+void EatAsParasite(const ParasiteMeal& meal, int square) {
+    for (int i = 1; i <= meal.HostCount; ++i) {
+        --game.BP[meal.Hosts[i]];
+        Board().ShowBP(meal.Hosts[i]);
+    }
+    if (meal.HostCount == 2) {
+        Say(Eater().Name, " parasitizing off of clan ", game.Players[meal.Hosts[1]].Name, " and clan ",
+            game.Players[meal.Hosts[2]].Name);
+    } else {
+        Say(Eater().Name, " parasitizing off of clan ", game.Players[meal.Hosts[1]].Name);
+    }
+    EatMenu(meal.Menu, square);
+}
+
+void Starve(int square) {
+    SayMore(Eater().Name, " starves in ", square);
+    ++game.Amoeba[game.CurAmoeba][game.CurPlayer].Damage;
+    Board().DrawPiece(game.CurPlayer, game.CurAmoeba);
+    Board().Pause(StarvePause);
+}
+
+Table<int, 0, MaxClans> SuggestedAmounts(int square, int clan) {
+    Table<int, 0, MaxClans> amounts;
+    const auto digits = DigitsOf(SuggestMenu(square, clan));
+    OrderEqualAmounts();
+    for (int i = 1; i <= 6 && digits[i] > 0; ++i) {
+        amounts[game.MenuColours[i]] += digits[i];
+    }
+    return amounts;
+}
+
+}  // namespace plasmos

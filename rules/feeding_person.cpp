@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ai/fight.h"
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "rules/ask.h"
+#include "rules/feeding.h"
+#include "rules/food_form.h"
+#include "rules/menus.h"
+#include "rules/victim_form.h"
+
+namespace plasmos {
+
+namespace {
+
+bool IsFighter(int clan) {
+    return HasGene(clan, "sfs") || HasGene(clan, "agg");
+}
+
+int CountHosts(int clan, int square) {
+    int hosts = 0;
+    for (int host = 1; host <= game.NumPlayers && hosts < 2; ++host) {
+        hosts += IsHost(clan, host, square) ? 1 : 0;
+    }
+    return hosts;
+}
+
+bool CanParasitize(int clan, int square) {
+    return FindParasiteMeal(square, clan).Menu != 0;
+}
+
+void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
+    const int clan = form.Clan;
+    const int square = form.Square;
+    form.SuggestedMenu = menu;
+    form.SuggestedAmounts = SuggestedAmounts(square, clan);
+    form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;
+    form.paroptEnabled = CanParasitize(clan, square);
+    if (form.paroptEnabled) {
+        form.HostCount = Concat(CountHosts(clan, square));
+    }
+    form.Text = Concat("Your amoeba may eat the suggested menu in square ", square,
+                       ", or using your amoebas' genes you may design your own.");
+    form.UpdateButtons();
+}
+
+/// One person's feeding with its dialog open.
+class FeedingTurn {
+public:
+    FeedingTurn(FoodForm& form, OpenQuestion& open) : form_(form), open_(open) {}
+
+    void Run() {
+        while (!done_) {
+            open_.Wait();
+            const auto pressed = form_.Pressed;
+            form_.Resume();
+            switch (pressed) {
+                case FoodForm::Button::Eat: Eat(); break;
+                case FoodForm::Button::Victim: form_.sfsoptValue ? Struggle() : PickHost(); break;
+                case FoodForm::Button::Closed: CloseForm(); break;
+                case FoodForm::Button::None: break;
+            }
+            if (!done_) {
+                Board().Refresh(form_);
+            }
+        }
+    }
+
+    /// What is left to do once the dialog is gone.
+    enum class Outcome { Starves, Eats, Fights };
+    Outcome Ends = Outcome::Starves;
+    int Menu = 0;
+    VictimFigure Victim;
+
+private:
+    void End(Outcome outcome, std::string_view answer) {
+        Ends = outcome;
+        done_ = true;
+        NoteAnswer(form_, answer, true);
+    }
+
+    void Refuse(const std::string& message) {
+        NoteAnswer(form_, Concat("eat ", form_.Entry()), false);
+        ShowBox(form_.Clan, message);
+        form_.Text = "Please try again.";
+        Board().ShowMessage(form_.Text, form_.Clan);
+    }
+
+    bool TakesTooMuch() const {
+        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+            if (colour != form_.Clan && form_.Amount(colour) > game.Food[form_.Square][colour]) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool AmountTooLarge() const {
+        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+            if (colour != form_.Clan && form_.Amount(colour) > 9) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    std::string NotLegal(int menu) const {
+        LegalEat(menu);
+        return Concat("The menu you chose was not legal.\nPossible menus are: ", game.LegalMenus,
+                      " (depending on the food and amounts in square!)");
+    }
+
+    void Eat() {
+        const int menu = MakeEatStr(form_);
+        if (menu == 0 && form_.SuggestedMenu == 0) {
+            End(Outcome::Starves, "starve");
+        } else if (TakesTooMuch()) {
+            Refuse("You cannot eat more food than is in the square; please try again.");
+        } else if (AmountTooLarge() || !LegalEat(menu)) {
+            Refuse(NotLegal(menu));
+        } else {
+            Menu = menu;
+            End(Outcome::Eats, Concat("eat ", form_.Entry()));
+        }
+    }
+
+    void CloseForm() {
+        if (form_.SuggestedMenu == 0) {
+            End(Outcome::Starves, "starve");
+        } else {
+            Refuse(NotLegal(0));
+        }
+    }
+
+    void PickHost() {
+        VictimForm victims(form_.Clan, "PARASITE", "Choose your Parasite-victim:", form_.Square);
+        const int next = form_.fdtxt[0].Visible ? 2 : 1;
+        for (const VictimFigure& figure : victims.Figures) {
+            if (IsHost(form_.Clan, figure.Clan, form_.Square) && figure.Clan != form_.Hosts[1] && next <= 2) {
+                victims.Allow(figure.Clan, figure.Amoeba);
+            }
+        }
+        if (form_.fdtxt[7].Visible || !victims.HasChoice()) {
+            return;
+        }
+        const auto picked = AskVictims(victims);
+        if (!picked.empty()) {
+            form_.Hosts[next] = picked.front().Clan;
+            form_.fdtxt[next == 1 ? 0 : 7].Visible = true;
+            form_.fdtxt[next == 1 ? 0 : 7].Text = "1";
+            form_.UpdateButtons();
+        }
+    }
+
+    void Struggle() {
+        VictimForm victims(form_.Clan, "SFS", "Choose your Attack-victim:", form_.Square);
+        for (const VictimFigure& figure : victims.Figures) {
+            if (IsVictim(form_.Clan, figure.Clan, form_.Square)) {
+                victims.Allow(figure.Clan, figure.Amoeba);
+            }
+        }
+        const auto picked = AskVictims(victims);
+        if (!picked.empty()) {
+            Victim = picked.front();
+            End(Outcome::Fights, Concat("fight ", Victim.Tag()));
+        }
+    }
+
+    FoodForm& form_;
+    OpenQuestion& open_;
+    bool done_ = false;
+};
+
+void EatTyped(const FoodForm& form, int menu) {
+    MakeEatStr(form);
+    if (form.fdtxt[0].Visible) {
+        ParasiteMeal meal;
+        meal.Menu = menu;
+        meal.Hosts = form.Hosts;
+        meal.HostCount = form.fdtxt[7].Visible ? 2 : 1;
+        EatAsParasite(meal, form.Square);
+    } else {
+        EatMenu(menu, form.Square);
+    }
+}
+
+void Fight(int square, int clan, const VictimFigure& victim) {
+    --game.BP[clan];
+    Board().ShowBP(clan);
+    bool hungry = true;
+    AttackToEat(victim.Clan, square, clan, hungry, victim.Amoeba);
+    if (hungry) {
+        Starve(square);
+    }
+}
+
+void FeedByDialog(FoodForm& form) {
+    FeedingTurn::Outcome ends{};
+    int menu = 0;
+    VictimFigure victim;
+    {
+        OpenQuestion open(form);
+        FeedingTurn turn(form, open);
+        turn.Run();
+        ends = turn.Ends;
+        menu = turn.Menu;
+        victim = turn.Victim;
+    }
+    ClearMessage();
+    switch (ends) {
+        case FeedingTurn::Outcome::Eats: EatTyped(form, menu); break;
+        case FeedingTurn::Outcome::Fights: Fight(form.Square, form.Clan, victim); break;
+        case FeedingTurn::Outcome::Starves: Starve(form.Square); break;
+    }
+}
+
+}  // namespace
+
+void FeedAmoeba(int square, int clan) {
+    const bool victim = HasVictim(clan, square);
+    const int menu = SuggestMenu(square, clan);
+    const bool alternative = (IsFighter(clan) || HasGene(clan, "par")) && victim;
+    if (menu == 0 && !alternative) {
+        Starve(square);
+        return;
+    }
+    FoodForm form(clan, "", square);
+    PrepareFoodForm(form, menu, victim);
+    if (menu == 0 && !form.sfsoptEnabled && !form.paroptEnabled) {
+        Starve(square);
+        return;
+    }
+    Board().ShowMessage(form.Text, clan);
+    FeedByDialog(form);
+}
+
+}  // namespace plasmos

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/menus.h"
+
+#include <utility>
+
+#include "model/genes.h"
+
+namespace plasmos {
+
+namespace {
+
+struct LegalMenuRow {
+    std::string_view Standard, WithSub, WithFru;
+};
+
+/// By number of clans, 3 to 6. Six clans eat like five.
+constexpr Table<LegalMenuRow, 3, 6> LegalMenuTable = [] {
+    Table<LegalMenuRow, 3, 6> rows{};
+    rows[3] = {" 21,", " 4, 31,", " 2, 3, 11,"};
+    rows[4] = {" 111,", " 22, 31,", " 3, 11, 21,"};
+    rows[5] = {" 1111,", " 221, 311,", " 22, 31, 111, 21, 211,"};
+    rows[6] = {" 1111,", " 221, 311,", " 22, 31, 111, 21, 211,"};
+    return rows;
+}();
+
+constexpr bool Between(int least, int food, int most) {
+    return least < food && food < most;
+}
+
+int SuggestWithBoth(int food) {
+    switch (game.NumPlayers) {
+        case 3:
+            if (Between(1, food, 10))
+                return 2;
+            if (Between(10, food, 21))
+                return 11;
+            if (Between(20, food, 31))
+                return 21;
+            return food > 30 ? 31 : 0;
+        case 4:
+            if (Between(2, food, 11))
+                return 3;
+            if (food == 11 || food == 21 || food == 22)
+                return food;
+            if (Between(30, food, 111))
+                return 31;
+            return food > 110 ? 111 : 0;
+        default:
+            if (food == 22)
+                return 22;
+            if (Between(30, food, 100))
+                return 31;
+            if (food == 111 || food == 211)
+                return food;
+            if (food == 221 || food == 222)
+                return 221;
+            if (Between(310, food, 1110))
+                return 311;
+            return food > 1110 ? 1111 : 0;
+    }
+}
+
+int SuggestWithFru(int food) {
+    switch (game.NumPlayers) {
+        case 3:
+            if (Between(1, food, 10))
+                return 2;
+            if (Between(10, food, 20))
+                return 11;
+            return food > 20 ? 21 : 0;
+        case 4:
+            if (Between(10, food, 110))
+                return 11;
+            return food > 110 ? 111 : 0;
+        default:
+            if (Between(110, food, 1110))
+                return 111;
+            return food > 1110 ? 1111 : 0;
+    }
+}
+
+int SuggestWithSub(int food) {
+    switch (game.NumPlayers) {
+        case 3:
+            if (Between(3, food, 10))
+                return 4;
+            if (Between(20, food, 30))
+                return 21;
+            return food > 30 ? 31 : 0;
+        case 4:
+            if (Between(21, food, 31))
+                return 22;
+            if (Between(30, food, 110))
+                return 31;
+            return food > 110 ? 111 : 0;
+        default:
+            if (Between(220, food, 311))
+                return 221;
+            if (Between(310, food, 1000))
+                return 311;
+            return food > 1110 ? 1111 : 0;
+    }
+}
+
+int SuggestPlain(int food) {
+    switch (game.NumPlayers) {
+        case 3: return food > 20 ? 21 : 0;
+        case 4: return food > 110 ? 111 : 0;
+        default: return food > 1110 ? 1111 : 0;
+    }
+}
+
+}  // namespace
+
+bool LegalEat(int menu) {
+    const LegalMenuRow& row = LegalMenuTable[game.NumPlayers];
+    game.LegalMenus = row.Standard;
+    if (HasGene(game.CurPlayer, "sub")) {
+        game.LegalMenus += row.WithSub;
+    }
+    if (HasGene(game.CurPlayer, "fru")) {
+        game.LegalMenus += row.WithFru;
+    }
+    return game.LegalMenus.View().find(Concat(" ", menu, ",")) != std::string_view::npos;
+}
+
+int SortMenuDigits(Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours) {
+    for (int i = 1; i <= game.NumPlayers - 2 && amounts[i] != 0; ++i) {
+        int best = i;
+        for (int j = i + 1; j <= game.NumPlayers - 1 && amounts[j] != 0; ++j) {
+            if (amounts[j] > amounts[best]) {
+                best = j;
+            }
+        }
+        if (best != i) {
+            std::swap(amounts[i], amounts[best]);
+            std::swap(colours[i], colours[best]);
+        }
+    }
+    int menu = 0;
+    for (int i = 1; i <= 6 && amounts[i] != 0; ++i) {
+        menu = menu * 10 + amounts[i];
+    }
+    return menu;
+}
+
+int SuggestMenu(int square, int clan) {
+    game.MenuAmounts = {};
+    game.MenuColours = {};
+    int place = 0;
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        const int pieces = game.Food[square][colour];
+        if (colour != clan && pieces >= 1) {
+            ++place;
+            game.MenuAmounts[place] = pieces > 9 ? 9 : pieces;
+            game.MenuColours[place] = colour;
+        }
+    }
+    const int food = SortMenuDigits(game.MenuAmounts, game.MenuColours);
+    const bool frugal = HasGene(clan, "fru");
+    if (HasGene(clan, "sub")) {
+        return frugal ? SuggestWithBoth(food) : SuggestWithSub(food);
+    }
+    return frugal ? SuggestWithFru(food) : SuggestPlain(food);
+}
+
+void OrderEqualAmounts() {
+    const auto score = [](int place) {
+        const int colour = game.MenuColours[place];
+        return colour == 0 ? 0 : game.Players[colour].Score;
+    };
+    for (int i = 1; i <= 6 && game.MenuAmounts[i] != 0; ++i) {
+        for (int j = i; j > 1 && game.MenuAmounts[j] == game.MenuAmounts[j - 1] && score(j) > score(j - 1); --j) {
+            std::swap(game.MenuColours[j], game.MenuColours[j - 1]);
+        }
+    }
+}
+
+}  // namespace plasmos

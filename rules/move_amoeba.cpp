@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/move_amoeba.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <vector>
+
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "model/signature.h"
+#include "model/trace.h"
+#include "rules/ask.h"
+#include "rules/menus.h"
+#include "rules/victim_form.h"
+
+namespace plasmos {
+
+namespace {
+
+struct PieceId {
+    int Clan = 0;
+    int Amoeba = 0;
+};
+
+/// Hitch-hikers and a dragged piece; there are at most 42 pieces.
+struct RiderList {
+    Table<PieceId, 0, MaxClans * MaxPieces> Pieces;
+    int Count = 0;
+
+    void Add(int clan, int amoeba) { Pieces[++Count] = {clan, amoeba}; }
+};
+
+void LayFood(const TentacleLoad& load, int from, int to, int sign) {
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        game.Food[from][colour] -= sign * load.Food[colour];
+        game.Food[to][colour] += sign * load.Food[colour];
+    }
+}
+
+/// The food lies at the destination while this lives, for rules that look ahead.
+class CarriedFood {
+public:
+    CarriedFood(const TentacleLoad& load, int from, int to) : load_(load), from_(from), to_(to) {
+        LayFood(load_, from_, to_, 1);
+    }
+    ~CarriedFood() { LayFood(load_, from_, to_, -1); }
+    CarriedFood(const CarriedFood&) = delete;
+    CarriedFood& operator=(const CarriedFood&) = delete;
+
+private:
+    const TentacleLoad& load_;
+    int from_;
+    int to_;
+};
+
+template <class Visit>
+void ForPiecesIn(int square, int clan, Visit&& visit) {
+    for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+        if (game.Amoeba[amoeba][clan].Square == square) {
+            visit(amoeba);
+        }
+    }
+}
+
+void AskRiders(int clan, int from, int to, RiderList& riders) {
+    const auto text = Concat(game.Players[clan].Name, ": there is an amoeba moving from square ", from, " to ", to,
+                             "\nWould any of your amoebas like to hitch a ride?");
+    if (!AskYesNo(clan, text)) {
+        return;
+    }
+    VictimForm form(clan, "HOLD", "Choose the Hitch-hiker(s):", from);
+    ForPiecesIn(from, clan, [&](int amoeba) { form.Allow(clan, amoeba); });
+    for (const VictimFigure& figure : AskVictims(form)) {
+        riders.Add(figure.Clan, figure.Amoeba);
+    }
+}
+
+/// A computer clan's pieces ride when they cannot eat where they are and can at the destination.
+bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
+    const CarriedFood carried(load, from, to);
+    return SuggestMenu(from, clan) == 0 && SuggestMenu(to, clan) > 0;
+}
+
+RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
+    RiderList riders;
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        if (clan == mover || game.Occupancy[from][clan] == 0 || !HasGene(clan, "hol")) {
+            continue;
+        }
+        if (!game.Players[clan].IsComputer) {
+            AskRiders(clan, from, to, riders);
+        } else if (WantsToRide(clan, from, to, load)) {
+            ForPiecesIn(from, clan, [&](int amoeba) { riders.Add(clan, amoeba); });
+        }
+    }
+    return riders;
+}
+
+void TraceSpot(int clan, int slot, bool moved) {
+    if (TracesAreKept()) {
+        const bool computer = moved && game.Players[clan].IsComputer;
+        WriteTrace(Concat(computer ? "mposition " : "position ", slot, "\n"), "");
+    }
+}
+
+void TraceMove(int clan, int amoeba, int destination) {
+    if (TracesAreKept()) {
+        WriteTrace(Concat("Turn: ", game.Turn, "   Amoeba ", clan, ", ", amoeba, " moving to square ", destination),
+                   "");
+    }
+}
+
+/// Everything that can fail comes first, the tables change last.
+void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& load) {
+    const int from = game.Amoeba[amoeba][clan].Square;
+    TraceMove(clan, amoeba, destination);
+    const int slot = SquareCapacity(destination);
+    TraceSpot(clan, slot, true);
+    LiftPiece(clan, amoeba);
+    PutPiece(clan, amoeba, destination, slot);
+    LayFood(load, from, destination, 1);
+    Sign(SignedEvent::Move, clan, amoeba, destination);
+    Board().AnimateMove(clan, amoeba, from, destination);
+    Board().DrawSquare(from);
+    Board().DrawSquare(destination);
+}
+
+void MoveWithCompany(int clan, int amoeba, int destination) {
+    const int from = game.Amoeba[amoeba][clan].Square;
+    const TentacleLoad load = ChooseTentacleLoad(clan, amoeba, destination);
+    RiderList riders = ChooseRiders(clan, from, destination, load);
+    MoveWithFood(clan, amoeba, destination, load);
+    if (load.DraggedAmoeba != 0) {
+        --game.BP[clan];
+        Board().ShowBP(clan);
+        riders.Add(clan, load.DraggedAmoeba);
+    }
+    for (int i = 1; i <= riders.Count; ++i) {
+        const PieceId rider = riders.Pieces[i];
+        MoveAlone(rider.Clan, rider.Amoeba, destination);
+        Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
+    }
+}
+
+}  // namespace
+
+bool TentacleLoad::Empty() const {
+    return DraggedAmoeba == 0 && std::all_of(Food.begin(), Food.end(), [](int pieces) { return pieces == 0; });
+}
+
+int SquareCapacity(int square) {
+    if (game.Occupancy[square][0] >= MaxSpots) {
+        ReportBox(Concat("How did you ever manage to squeeze ", "30", " amoebas in square ", square, "?!?!?"));
+        return 0;
+    }
+    const std::uint32_t taken = game.SpotsTaken[square];
+    for (int draw = 1; draw <= MaxDraws; ++draw) {
+        const int spot = RollDie(MaxSpots);
+        if ((taken >> static_cast<unsigned>(spot) & 1U) == 0) {
+            return spot;
+        }
+    }
+    int lowest = 1;
+    while ((taken >> static_cast<unsigned>(lowest) & 1U) != 0) {
+        ++lowest;
+    }
+    return lowest;
+}
+
+void MoveAlone(int clan, int amoeba, int destination) {
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    if (piece.Square == destination) {
+        TraceSpot(clan, piece.Slot, false);
+    } else {
+        MoveWithFood(clan, amoeba, destination, {});
+    }
+}
+
+void MoveAmoeba(int clan, int amoeba, int destination) {
+    try {
+        if (game.Amoeba[amoeba][clan].Square == destination) {
+            TraceSpot(clan, game.Amoeba[amoeba][clan].Slot, false);
+        } else {
+            MoveWithCompany(clan, amoeba, destination);
+        }
+    } catch (const std::exception&) {
+        AppendErrorRecord(CurrentError(), clan, amoeba);
+    }
+}
+
+void MoveBeside(int clan, int amoeba, int otherSlot) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    int nearest = 0;
+    for (int spot = 1; spot <= MaxSpots; ++spot) {
+        const bool free = (game.SpotsTaken[square] >> static_cast<unsigned>(spot) & 1U) == 0;
+        if (free && (nearest == 0 || std::abs(spot - otherSlot) < std::abs(nearest - otherSlot))) {
+            nearest = spot;
+        }
+    }
+    if (nearest == 0) {
+        return;
+    }
+    LiftPiece(clan, amoeba);
+    PutPiece(clan, amoeba, square, nearest);
+    Board().DrawPiece(clan, amoeba);
+}
+
+}  // namespace plasmos

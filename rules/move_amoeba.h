@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/game_state.h"
+
+namespace plasmos {
+
+/// What an amoeba with a tentacle takes along when it leaves a square.
+struct TentacleLoad {
+    Table<int, 0, MaxClans> Food;  ///< pieces of each colour
+    int DraggedAmoeba = 0;         ///< a piece of its own clan; 0: none
+
+    bool Empty() const;
+};
+
+/// Moves one amoeba to a square, with what its tentacle takes along and with the hitch-hikers. Each
+/// move is traced. An error is recorded and leaves the piece where it is; the phase goes on.
+void MoveAmoeba(int clan, int amoeba, int destination);
+
+/// The same for a piece that rides, is dragged or escapes: no tentacle and no riders of its own.
+/// Errors are the caller's.
+void MoveAlone(int clan, int amoeba, int destination);
+
+/// The spot a piece gets in a square: RollDie(30) until it is free. A square with 30 pieces has none:
+/// a message tells so and the spot is 0, not drawn.
+int SquareCapacity(int square);
+
+/// What the amoeba's tentacle takes to the destination, asked or worked out; nothing without "ten".
+TentacleLoad ChooseTentacleLoad(int clan, int amoeba, int destination);
+
+/// The free spot in a piece's square nearest by number to another piece's spot becomes the piece's,
+/// the lower one on a tie; without a free spot it keeps its own.
+void MoveBeside(int clan, int amoeba, int otherSlot);
+
+}  // namespace plasmos

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/movement.h"
+
+#include "ai/computer_feed.h"
+#include "ai/computer_move.h"
+#include "model/presentation.h"
+#include "model/step.h"
+#include "model/trace.h"
+#include "rules/feeding.h"
+
+namespace plasmos {
+
+namespace {
+
+void FeedAfterMove(int clan, int amoeba) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    if (game.Players[clan].IsComputer || game.AutoFlags[clan][1]) {
+        ComputerFeedAmoeba(clan, amoeba, square);
+    } else {
+        FeedAmoeba(square, clan);
+    }
+}
+
+void ActAmoeba(int clan, int amoeba) {
+    game.CurAmoeba = amoeba;
+    Board().OutlinePiece(clan, amoeba, true);
+    RunStep(Step::Move, clan, amoeba, [&] {
+        if (game.Players[clan].IsComputer) {
+            ComputerMoveAmoeba(clan, amoeba);
+        } else {
+            MovePersonsAmoeba(clan, amoeba);
+        }
+    });
+    RunStep(Step::Feed, clan, amoeba, [&] { FeedAfterMove(clan, amoeba); });
+    Board().OutlinePiece(clan, amoeba, false);
+}
+
+}  // namespace
+
+void MovementPhase() {
+    GuardPhase([] {
+        Board().ShowPhase("Movement");
+        for (int place = game.NumPlayers; place >= 1; --place) {
+            const int clan = ClanAtPlace(place);
+            game.CurPlayer = clan;
+            Board().ShowCurrentClan(clan);
+            if (!game.Players[clan].IsComputer) {
+                Board().ShowAutoFlags(clan);
+            }
+            for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+                if (game.Amoeba[amoeba][clan].Square >= 1) {
+                    ActAmoeba(clan, amoeba);
+                }
+            }
+            Board().ShowCurrentClan(clan);
+        }
+    });
+}
+
+}  // namespace plasmos

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "rules/directions.h"
+
+namespace plasmos {
+
+/// Movement: every amoeba drifts with the current, unless its clan pays to try to move elsewhere, and
+/// feeds at once where it then stands. Clans act in the reverse of the order of play.
+void MovementPhase();
+
+/// One amoeba of a person's clan drifts, or moves after the offer; with "spe" or "per" twice.
+void MovePersonsAmoeba(int clan, int amoeba);
+
+/// Asks a person to click the square an amoeba is to move into. With `neighbours` the squares it
+/// reaches are offered, else those of `list`. The message line has its text back afterwards.
+int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list = {});
+
+/// How the direction of a person's move is found: by choice with "mv2", else by die (6 chooses),
+/// with "mv1" by two dice. `firstAttempt` chooses the words.
+int FindPersonsDestination(int clan, int amoeba, bool firstAttempt);
+
+}  // namespace plasmos

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <vector>
+
+#include "model/dice.h"
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "rules/ask.h"
+#include "rules/environment.h"
+#include "rules/move_amoeba.h"
+#include "rules/movement.h"
+
+namespace plasmos {
+
+namespace {
+
+bool HasSpeed(int clan) {
+    return HasGene(clan, "spe") || HasGene(clan, "per");
+}
+
+SquareList WithOwnSquare(SquareList list, int square) {
+    if (!list.Has(square)) {
+        list.Add(square);
+    }
+    return list;
+}
+
+/// Where the current takes the amoeba, in words; nothing when the drift lets it choose.
+std::string DriftMessage(int clan, int amoeba, int square, int destination) {
+    const auto& label = game.Amoeba[amoeba][clan].Name;
+    if (game.Drift == WhereItWants) {
+        return {};
+    }
+    return destination != square ? Concat(label, " will drift into ", destination, ".\n")
+                                 : Concat(label, " will remain in ", square, ".\n");
+}
+
+void PayForMove(int clan) {
+    --game.BP[clan];
+    Board().ShowBP(clan);
+}
+
+std::string OfferText(int clan, int amoeba, bool first) {
+    const auto& label = game.Amoeba[amoeba][clan].Name;
+    const bool free = HasGene(clan, "str") || !first;
+    return Concat("Would ", label,
+                  free ? " like to attempt to move elsewhere?" : " like to pay 1BP to attempt to move elsewhere?");
+}
+
+/// Whether the clan can make an attempt at all.
+bool MayAttempt(int clan, bool first) {
+    return !first || HasGene(clan, "str") || game.BP[clan] >= 1;
+}
+
+void DriftPersonsAmoeba(int clan, int amoeba) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    if (game.Drift != WhereItWants) {
+        MoveAmoeba(clan, amoeba, MoveDestination(square));
+        return;
+    }
+    const auto list = WithOwnSquare(Neighbours(square, clan), square);
+    MoveAmoeba(clan, amoeba, ChooseSquare(clan, amoeba, false, list));
+}
+
+/// One attempt: the question, the price, the move. False: the person did not want to.
+bool Attempt(int clan, int amoeba, bool first, const std::string& driftMessage) {
+    if (!MayAttempt(clan, first)) {
+        if (!driftMessage.empty()) {
+            TellPerson(clan, driftMessage.substr(0, driftMessage.size() - 1));
+        }
+        return false;
+    }
+    if (!AskYesNo(clan, driftMessage + OfferText(clan, amoeba, first))) {
+        return false;
+    }
+    const bool freeAttempt = HasGene(clan, "str") || (!first && HasSpeed(clan));
+    if (!freeAttempt) {
+        PayForMove(clan);
+    }
+    MoveAmoeba(clan, amoeba, FindPersonsDestination(clan, amoeba, first));
+    return true;
+}
+
+int RollDirection() {
+    return DirectionFromDie(RollDie(6));
+}
+
+int ChooseNeighbour(int clan, int amoeba) {
+    return ChooseSquare(clan, amoeba, true);
+}
+
+/// The second throw of a clan with "mv1", after a first that led to a square or to a choice.
+int ThrowAgain(int clan, int amoeba, int firstDirection, int square) {
+    const int secondDirection = RollDirection();
+    if (secondDirection == WhereItWants || firstDirection == WhereItWants) {
+        return ChooseNeighbour(clan, amoeba);
+    }
+    const int one = MoveDestination(square, firstDirection);
+    const int two = MoveDestination(square, secondDirection);
+    const auto& label = game.Amoeba[amoeba][clan].Name;
+    if (one == two) {
+        TellPerson(clan, Concat(label, one == square ? " will stay in " : " will move to ", one, " instead"));
+        return one;
+    }
+    SquareList both;
+    both.Add(one);
+    both.Add(two);
+    return ChooseSquare(clan, amoeba, false, both);
+}
+
+}  // namespace
+
+int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) {
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const SquareList offered = neighbours ? Neighbours(piece.Square, clan) : list;
+    const std::vector<int> squares(offered.Squares.begin() + 1, offered.Squares.begin() + 1 + offered.Count);
+    const std::string before = Board().Message();
+    const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares);
+    Board().ShowMessage(before, clan);
+    return chosen;
+}
+
+int FindPersonsDestination(int clan, int amoeba, bool firstAttempt) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    if (HasGene(clan, "mv2")) {
+        return ChooseNeighbour(clan, amoeba);
+    }
+    const int direction = RollDirection();
+    if (HasGene(clan, "mv1")) {
+        return ThrowAgain(clan, amoeba, direction, square);
+    }
+    const bool anyway = firstAttempt && direction == game.Drift;
+    TellPerson(clan,
+               Concat("Amoeba ", amoeba, " will move ", DirectionText(direction), anyway ? " anyway." : " instead."));
+    return direction == WhereItWants ? ChooseNeighbour(clan, amoeba) : MoveDestination(square, direction);
+}
+
+void MovePersonsAmoeba(int clan, int amoeba) {
+    const int square = game.Amoeba[amoeba][clan].Square;
+    const auto drift = DriftMessage(clan, amoeba, square, MoveDestination(square));
+    if (!Attempt(clan, amoeba, true, drift)) {
+        DriftPersonsAmoeba(clan, amoeba);
+    } else if (HasSpeed(clan)) {
+        Attempt(clan, amoeba, false, {});
+    }
+    ClearMessage();
+}
+
+}  // namespace plasmos

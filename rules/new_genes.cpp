@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/new_genes.h"
+
+#include "ai/computer_genes.h"
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "model/step.h"
+#include "model/trace.h"
+#include "rules/ask.h"
+#include "rules/gene_form.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int LastOfferedGene = 10;
+
+void BuyPerson(int clan) {
+    if (!OffersGenes(clan)) {
+        return;
+    }
+    const auto text = Concat("Clan ", game.Players[clan].Name, ", you have ", game.BP[clan],
+                             " BP.\nWould you like to buy new Genes?");
+    if (AskYesNo(clan, text)) {
+        GeneForm form(clan, text);
+        form.PrepareNewGenes();
+        OpenQuestion open(form);
+        open.Wait();
+    }
+    ClearMessage();
+}
+
+}  // namespace
+
+bool OffersGenes(int clan) {
+    for (int gene = 1; gene <= LastOfferedGene; ++gene) {
+        const GeneRecord& record = game.Catalogue[gene];
+        if (record.Cost > game.BP[clan]) {
+            return false;
+        }
+        if (!game.Genes[gene][clan] && record.Supply >= 1) {
+            return true;
+        }
+    }
+    return true;
+}
+
+void NewGenesPhase() {
+    GuardPhase([] {
+        Board().ShowPhase("New genes");
+        for (int place = 1; place <= game.NumPlayers; ++place) {
+            const int clan = ClanAtPlace(place);
+            game.CurPlayer = clan;
+            RunStep(Step::BuyGenes, clan, 0, [&] {
+                Board().ShowCurrentClan(clan);
+                if (game.Players[clan].IsComputer) {
+                    ComputerBuyGenes();
+                } else {
+                    BuyPerson(clan);
+                }
+            });
+        }
+    });
+}
+
+}  // namespace plasmos

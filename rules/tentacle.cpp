@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/genes.h"
+#include "model/presentation.h"
+#include "rules/ask.h"
+#include "rules/choice_forms.h"
+#include "rules/food_form.h"
+#include "rules/menus.h"
+#include "rules/move_amoeba.h"
+
+namespace plasmos {
+
+namespace {
+
+/// Pieces of food that a tentacle carries.
+constexpr int CarryingLimit = 2;
+
+bool FeedsThere(int clan, int destination, int colour, int second) {
+    auto& food = game.Food[destination];
+    const auto before = food;
+    ++food[colour];
+    food[second] += second != 0 ? 1 : 0;
+    const bool feeds = SuggestMenu(destination, clan) > 0;
+    food = before;
+    return feeds;
+}
+
+/// The fewest foreign pieces that make a meal possible where there is none: single ones before pairs.
+TentacleLoad WorkOutLoad(int clan, int from, int destination) {
+    TentacleLoad load;
+    if (SuggestMenu(destination, clan) > 0) {
+        return load;
+    }
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        if (colour != clan && game.Food[from][colour] >= 1 && FeedsThere(clan, destination, colour, 0)) {
+            load.Food[colour] = 1;
+            return load;
+        }
+    }
+    for (int first = 1; first <= game.NumPlayers; ++first) {
+        for (int second = first; second <= game.NumPlayers; ++second) {
+            const int needed = first == second ? 2 : 1;
+            const bool there = game.Food[from][first] >= needed && game.Food[from][second] >= needed;
+            if (first != clan && second != clan && there && FeedsThere(clan, destination, first, second)) {
+                ++load.Food[first];
+                ++load.Food[second];
+                return load;
+            }
+        }
+    }
+    return load;
+}
+
+/// Why an entry cannot be carried, or an empty text.
+std::string CarryingFault(const FoodForm& form) {
+    int sum = 0;
+    bool tooMuch = false;
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        sum += form.Amount(colour);
+        tooMuch = tooMuch || form.Amount(colour) > game.Food[form.Square][colour];
+    }
+    if (sum > CarryingLimit) {
+        return Concat("You may not carry more than ", CarryingLimit, " food.");
+    }
+    return tooMuch ? "You may not carry out more food than there is in the square!" : "";
+}
+
+void AskFood(int clan, int from, TentacleLoad& load) {
+    FoodForm form(clan, "TENTACLE", from);
+    form.Text = Concat("What will your amoeba carry out of square ", from, "? (At most ", CarryingLimit, " food.)");
+    form.UpdateButtons();
+    game.DialogMode = "TENTACLE";
+    Board().ShowMessage(form.Text, clan);
+    OpenQuestion open(form);
+    for (;;) {
+        open.Wait();
+        if (form.Pressed == FoodForm::Button::Closed) {
+            NoteAnswer(form, "carry nothing", true);
+            break;
+        }
+        form.Resume();
+        if (const auto fault = CarryingFault(form); !fault.empty()) {
+            NoteAnswer(form, Concat("carry ", form.Entry()), false);
+            ShowBox(clan, fault);
+            form.Text = "Please try again.";
+            Board().ShowMessage(form.Text, clan);
+            Board().Refresh(form);
+            continue;
+        }
+        NoteAnswer(form, Concat("carry ", form.Entry()), true);
+        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+            load.Food[colour] = form.Amount(colour);
+        }
+        break;
+    }
+    game.DialogMode = "";
+}
+
+void AskDragged(int clan, int amoeba, int from, TentacleLoad& load) {
+    AmChoicefrm form(clan, "Tentacle", "Which amoeba shall be dragged along?");
+    int count = 0;
+    int only = 0;
+    for (int other = 1; other <= game.MaxAmoeba; ++other) {
+        if (other != amoeba && game.Amoeba[other][clan].Square == from) {
+            form.Offer(other);
+            only = other;
+            ++count;
+        }
+    }
+    if (count == 0 || game.BP[clan] < 1) {
+        return;
+    }
+    const auto text =
+        Concat("Would ", game.Amoeba[amoeba][clan].Name, " like to pay 1BP to drag another amoeba of its clan along?");
+    if (AskYesNo(clan, text)) {
+        Board().ShowMessage(form.Text, clan);
+        game.Reply = -1;
+        load.DraggedAmoeba = count == 1 ? only : AskAmoeba(form);
+    }
+}
+
+bool AnyFoodIn(int square) {
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        if (game.Food[square][colour] > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+TentacleLoad ChooseTentacleLoad(int clan, int amoeba, int destination) {
+    const int from = game.Amoeba[amoeba][clan].Square;
+    if (!HasGene(clan, "ten")) {
+        return {};
+    }
+    if (game.Players[clan].IsComputer || game.AutoFlags[clan][2]) {
+        return WorkOutLoad(clan, from, destination);
+    }
+    TentacleLoad load;
+    if (AnyFoodIn(from)) {
+        AskFood(clan, from, load);
+    }
+    AskDragged(clan, amoeba, from, load);
+    ClearMessage();
+    return load;
+}
+
+}  // namespace plasmos
