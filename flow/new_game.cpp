@@ -96,6 +96,7 @@ void ShufflePlayOrder() {
     for (int place = 1; place <= game.NumPlayers; ++place) {
         std::swap(game.PlayOrder[place], game.PlayOrder[RollDie(game.NumPlayers)]);
     }
+    game.StartOrder = game.PlayOrder;
 }
 
 void PlaceOne(int place) {

@@ -123,6 +123,7 @@ struct GameTables {
 
     Table<Clan, 0, MaxClans> Players;
     Table<int, 0, MaxClans> PlayOrder;  ///< clan at each place; place 1 moves first
+    Table<int, 0, MaxClans> StartOrder;  ///< the order of play in which the game began, for statistics
     Table<int, 0, MaxClans> BP;
     Table<int, 0, MaxClans> AmoebaCount;
     Table<Table<bool, 0, MaxClans>, 0, GeneCount> Genes;  ///< [gene][clan]

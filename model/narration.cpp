@@ -7,7 +7,7 @@
 namespace plasmos {
 
 bool SomebodyListens() {
-    return game.Listener != nullptr || (game.Window != nullptr && game.Window->WantsText());
+    return (game.Listener != nullptr && game.Listener->WantsText()) || (game.Window != nullptr && game.Window->WantsText());
 }
 
 void LogText(const std::string& line) {

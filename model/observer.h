@@ -19,6 +19,9 @@ class Observer {
 public:
     virtual ~Observer() = default;
 
+    /// Whether lines are to be put into words for this observer.
+    virtual bool WantsText() const { return true; }
+
     virtual void OnRoll(int n, int face) = 0;
     /// Clan and amoeba are 0 where the step has none.
     virtual void OnBegin(Step step, int clan, int amoeba) = 0;

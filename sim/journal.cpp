@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sim/journal.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "model/dice.h"
+#include "model/game_state.h"
+#include "model/genes.h"
+#include "rules/ask.h"
+#include "rules/choice_forms.h"
+#include "rules/food_form.h"
+#include "rules/gene_form.h"
+#include "rules/victim_form.h"
+
+namespace plasmos {
+
+namespace {
+
+bool IsWholeNumber(std::string_view text) {
+    const auto digits = text.substr(!text.empty() && text.front() == '-' ? 1 : 0);
+    return !digits.empty() && digits.size() < 10 && digits.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+template <class... Pieces>
+void Append(std::string& text, const Pieces&... pieces) {
+    (AppendPiece(text, pieces), ...);
+}
+
+/// "name":[...] with the elements that put() writes for 1 to count.
+template <class Put>
+void AppendList(std::string& text, std::string_view name, int count, Put&& put) {
+    Append(text, ",\"", name, "\":[");
+    for (int i = 1; i <= count; ++i) {
+        Append(text, i == 1 ? "" : ",");
+        put(i);
+    }
+    Append(text, "]");
+}
+
+void AppendFoodFields(std::string& text, const FoodForm& form) {
+    Append(text, ",\"mode\":");
+    AppendJsonText(text, form.Mode);
+    Append(text, ",\"square\":", form.Square, ",\"suggested\":", form.SuggestedMenu);
+    AppendList(text, "inSquare", game.NumPlayers, [&](int colour) { Append(text, form.fdtxt[colour].InSquare); });
+    Append(text, ",\"legal\":");
+    AppendJsonText(text, form.LegalMenuLabel);
+    Append(text, ",\"parasitism\":", form.paroptEnabled ? "true" : "false",
+           ",\"struggle\":", form.sfsoptEnabled ? "true" : "false");
+}
+
+void AppendGeneFields(std::string& text, const GeneForm& form) {
+    Append(text, ",\"mode\":");
+    AppendJsonText(text, game.DialogMode);
+    Append(text, ",\"bp\":", game.BP[form.Clan], ",\"uvCost\":", form.UVdiff);
+    AppendList(text, "ticked", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Ticked ? 1 : 0); });
+    AppendList(text, "enabled", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Enabled ? 1 : 0); });
+}
+
+void AppendFields(std::string& text, const Question& question) {
+    switch (question.Kind) {
+        case QuestionKind::Square: {
+            const auto& offered = static_cast<const SquareQuestion&>(question).Offered;
+            AppendList(text, "offered", static_cast<int>(offered.size()),
+                       [&](int i) { Append(text, offered[static_cast<std::size_t>(i - 1)]); });
+            break;
+        }
+        case QuestionKind::Number: {
+            const auto& form = static_cast<const AmNumfrm&>(question);
+            bool first = true;
+            Append(text, ",\"allowed\":[");
+            for (int k = 0; k <= 7; ++k) {
+                if (form.amopt[k].Visible && form.amopt[k].Enabled) {
+                    Append(text, first ? "" : ",", k);
+                    first = false;
+                }
+            }
+            Append(text, "]");
+            break;
+        }
+        case QuestionKind::Food: AppendFoodFields(text, static_cast<const FoodForm&>(question)); break;
+        case QuestionKind::Genes: AppendGeneFields(text, static_cast<const GeneForm&>(question)); break;
+        default: break;
+    }
+}
+
+void AppendPiecesOf(std::string& text, int clan) {
+    AppendList(text, "amoebas", game.MaxAmoeba, [&](int amoeba) {
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        Append(text, "{\"name\":");
+        AppendJsonText(text, piece.Name);
+        Append(text, ",\"square\":", piece.Square, ",\"damage\":", piece.Damage, ",\"spot\":", piece.Slot, "}");
+    });
+}
+
+void AppendClan(std::string& text, int clan) {
+    const Clan& player = game.Players[clan];
+    Append(text, "{\"name\":");
+    AppendJsonText(text, player.Name);
+    Append(text, ",\"score\":", player.Score, ",\"bp\":", game.BP[clan], ",\"mutation\":", player.MutationLevel,
+           ",\"personality\":", player.Personality, ",\"personalityName\":");
+    AppendJsonText(text, player.PersonalityName);
+    Append(text, ",\"computer\":", player.IsComputer ? "true" : "false", ",\"genes\":[");
+    bool first = true;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (game.Genes[gene][clan]) {
+            Append(text, first ? "\"" : ",\"", GeneCodes[gene], "\"");
+            first = false;
+        }
+    }
+    Append(text, "]");
+    AppendPiecesOf(text, clan);
+    Append(text, "}");
+}
+
+}  // namespace
+
+void AppendJsonText(std::string& text, std::string_view value) {
+    const auto special = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\'; };
+    if (std::any_of(value.begin(), value.end(), special)) {
+        text += nlohmann::json(value).dump();
+    } else {
+        Append(text, "\"", value, "\"");
+    }
+}
+
+void AppendState(std::string& text) {
+    Append(text, "{\"turn\":", game.Turn, ",\"uv\":", game.UVLevel, ",\"drift\":", game.Drift,
+           ",\"gameOver\":", game.GameOver ? "true" : "false");
+    AppendList(text, "deck", LastCard + 1, [&](int i) {
+        const EnvironmentCard& card = game.EnvDeck[i - 1];
+        Append(text, "[", card.UV, ",", card.DriftDirection, "]");
+    });
+    AppendList(text, "order", game.NumPlayers, [&](int place) { Append(text, game.PlayOrder[place]); });
+    AppendList(text, "supply", GeneCount, [&](int gene) { Append(text, game.Catalogue[gene].Supply); });
+    AppendList(text, "food", game.NumSquares, [&](int square) {
+        Append(text, "[");
+        for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+            Append(text, clan == 1 ? "" : ",", game.Food[square][clan]);
+        }
+        Append(text, "]");
+    });
+    AppendList(text, "clans", game.NumPlayers, [&](int clan) { AppendClan(text, clan); });
+    Append(text, "}");
+}
+
+std::string GameRecord() {
+    std::string text = Concat("{\"t\":\"game\",\"replay\":", ReplayText(game.ReplayNo), ",\"clans\":", game.NumPlayers,
+                              ",\"rows\":", game.NumRows, ",\"cols\":", game.NumCols, ",\"blocks\":[");
+    const auto separate = [&] { Append(text, text.back() == '[' ? "" : ","); };
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        if (game.Blocked[square]) {
+            separate();
+            Append(text, square);
+        }
+    }
+    Append(text, "],\"difficulty\":\"", game.Menu.normmen ? "Normal" : "Easy",
+           "\",\"victory\":", game.Menu.victorymen ? "true" : "false", ",\"persons\":[");
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        if (!game.Players[clan].IsComputer) {
+            separate();
+            Append(text, clan);
+        }
+    }
+    Append(text, "]}\n");
+    return text;
+}
+
+void Journal::Start() {
+    text_.clear();
+}
+
+void Journal::OnRoll(int n, int face) {
+    Append(text_, "{\"t\":\"roll\",\"n\":", n, ",\"r\":", face, "}\n");
+}
+
+void Journal::OnBegin(Step step, int clan, int amoeba) {
+    Append(text_, "{\"t\":\"begin\",\"step\":\"", StepName(step), "\",\"turn\":", game.Turn);
+    if (clan != 0) {
+        Append(text_, ",\"clan\":", clan);
+    }
+    if (amoeba != 0) {
+        Append(text_, ",\"amoeba\":", amoeba);
+    }
+    Append(text_, "}\n");
+}
+
+void Journal::OnEnd(Step step, int /*clan*/, int /*amoeba*/) {
+    if (step == Step::NewGame) {
+        text_.insert(0, GameRecord());
+    }
+    Append(text_, "{\"t\":\"end\",\"step\":\"", StepName(step), "\",\"state\":");
+    AppendState(text_);
+    Append(text_, "}\n");
+}
+
+void Journal::OnSay(std::string_view line) {
+    Append(text_, "{\"t\":\"say\",\"text\":");
+    AppendJsonText(text_, line);
+    Append(text_, "}\n");
+}
+
+void Journal::OnBox(std::string_view text) {
+    Append(text_, "{\"t\":\"box\",\"text\":");
+    AppendJsonText(text_, text);
+    Append(text_, "}\n");
+}
+
+void Journal::OnAsk(const Question& question) {
+    Append(text_, "{\"t\":\"ask\",\"kind\":\"", QuestionKindName(question.Kind), "\",\"clan\":", question.Clan,
+           ",\"text\":");
+    AppendJsonText(text_, question.Text);
+    AppendFields(text_, question);
+    Append(text_, "}\n");
+}
+
+void Journal::OnAnswer(const Question& /*question*/, std::string_view value, bool accepted) {
+    Append(text_, "{\"t\":\"answer\",\"value\":");
+    if (IsWholeNumber(value)) {
+        Append(text_, value);
+    } else {
+        AppendJsonText(text_, value);
+    }
+    Append(text_, accepted ? "}\n" : ",\"accepted\":false}\n");
+}
+
+void Journal::OnOver() {
+    Append(text_, "{\"t\":\"over\",\"turns\":", std::min(game.Turn, LastTurn), ",\"winner\":", game.PlayOrder[1]);
+    AppendList(text_, "order", game.NumPlayers, [&](int place) { Append(text_, game.PlayOrder[place]); });
+    Append(text_, "}\n");
+}
+
+}  // namespace plasmos

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sim/options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+#include <thread>
+
+#include "model/board_size.h"
+#include "model/dice.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr std::int64_t MostGames = 16000000;
+constexpr std::int64_t BenchGames = 20000;
+constexpr int MostJobs = 256;
+/// From here on singles skip whole numbers, and games would be played twice.
+constexpr double ReplayBound = 16777216;
+
+std::string OneLine(std::string text) {
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    while (!text.empty() && text.back() == ' ') {
+        text.pop_back();
+    }
+    return text;
+}
+
+void CheckBoard(const SimOptions& options) {
+    BoardSize board{options.Rows, options.Cols, ParseBlocks(options.Blocks, options.Rows * options.Cols)};
+    const auto given = std::count(options.Blocks.begin(), options.Blocks.end(), ':') +
+                       (options.Blocks.empty() || options.Blocks.back() == ':' ? 0 : 1);
+    if (static_cast<std::size_t>(given) != board.Blocks.size()) {
+        throw UsageError(Concat("--blocks: \"", options.Blocks, "\" is no list of squares 1 to ",
+                                options.Rows * options.Cols, ", each once and followed by \":\", such as 7:12:"));
+    }
+    if (const auto fault = BoardFault(board); !fault.empty()) {
+        throw UsageError(Concat("--rows, --cols, --blocks: ", fault));
+    }
+}
+
+void CheckReplay(const SimOptions& options) {
+    const double first = options.FirstReplay;
+    const double games = static_cast<double>(options.Games);
+    if (first + games >= ReplayBound || first <= -ReplayBound) {
+        throw UsageError(Concat("--replay: the first replay number plus the number of games must stay below 16777216, ",
+                                "and the first above -16777216"));
+    }
+}
+
+void CheckJobs(SimOptions& options, bool jobsGiven) {
+    const bool single = !options.Data.empty() || options.Bench;
+    if (jobsGiven && single && options.Jobs != 1) {
+        throw UsageError(
+            Concat("--jobs: ", options.Bench ? "--bench" : "--data", " allows one job only, not ", options.Jobs));
+    }
+    if (!jobsGiven) {
+        const auto cores = static_cast<int>(std::thread::hardware_concurrency());
+        options.Jobs = single ? 1 : std::clamp(cores, 1, MostJobs);
+    }
+}
+
+void CheckBench(const CLI::App& app) {
+    if (app.count("--bench") == 0) {
+        return;
+    }
+    for (const char* other : {"--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows", "--cols",
+                              "--blocks", "--robot", "--format", "--output", "--journal", "--data", "--check"}) {
+        if (app.count(other) != 0) {
+            throw UsageError(Concat(other, ": --bench plays a fixed set of games; only --games goes with it"));
+        }
+    }
+}
+
+}  // namespace
+
+SimOptions ParseOptions(int argc, const char* const* argv) {
+    SimOptions options;
+    std::string replay = "1";
+    std::string difficulty = "normal";
+    const std::map<std::string, ResultFormat> formats{
+        {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
+    const std::map<std::string, ProgressMode> progress{
+        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
+
+    CLI::App app("Plays games of Plasmos without a window.", "plasmos-sim");
+    app.add_option("--games", options.Games, "number of games (default 100)")
+        ->check(CLI::Range(std::int64_t{1}, MostGames));
+    app.add_option("--replay", replay, "replay number of the first game (default 1)");
+    app.add_option("--clans", options.Clans, "number of clans, 3 to 6 (default: rolled)")->check(CLI::Range(3, 6));
+    app.add_option("--persons", options.Persons, "seats of the robot person: none, clan 3, or clans 3 and 2")
+        ->check(CLI::Range(0, 2));
+    app.add_option("--difficulty", difficulty, "easy or normal (default normal)")
+        ->check(CLI::IsMember({"easy", "normal"}));
+    app.add_flag("--victory", options.Victory, "a game ends when a clan reaches 42 points");
+    app.add_option("--rows", options.Rows, "rows of the board, 3 to 9 (default 5)")
+        ->check(CLI::Range(MinSide, MaxSide));
+    app.add_option("--cols", options.Cols, "columns of the board, 3 to 9 (default 5)")
+        ->check(CLI::Range(MinSide, MaxSide));
+    app.add_option("--blocks", options.Blocks, "blocked squares, such as 7:12:");
+    app.add_option("--robot", options.Robot, "seed of the robot person (default 1)");
+    app.add_option("--jobs", options.Jobs, "games at a time (default: the number of cores)")
+        ->check(CLI::Range(1, MostJobs));
+    app.add_option("--format", options.Format, "table, csv or json")->transform(CLI::CheckedTransformer(formats));
+    app.add_option("--output", options.Output, "file for the results (default: standard output)");
+    app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
+    app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
+    app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
+    app.add_flag("--check", options.Check, "looks through the whole state after every step");
+    app.add_option("--progress", options.Progress, "auto, always or never")
+        ->transform(CLI::CheckedTransformer(progress));
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        throw HelpWanted{app.help()};
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(OneLine(error.what()) + " (plasmos-sim --help tells what is allowed)");
+    }
+    for (const char* name : {"--output", "--journal", "--data"}) {
+        if (app.count(name) != 0 && app.get_option(name)->as<std::string>().empty()) {
+            throw UsageError(Concat(name, ": the name of a ", std::string_view(name) == "--data" ? "folder" : "file",
+                                    " is needed, not an empty text"));
+        }
+    }
+    if (!ParseReplayNumber(replay, options.FirstReplay)) {
+        throw UsageError(Concat("--replay: \"", replay, "\" is no decimal number that a single holds"));
+    }
+    options.Normal = difficulty == "normal";
+    if (options.Bench && app.count("--games") == 0) {
+        options.Games = BenchGames;
+    }
+    CheckBench(app);
+    CheckBoard(options);
+    CheckReplay(options);
+    CheckJobs(options, app.count("--jobs") != 0);
+    return options;
+}
+
+float ReplayOf(const SimOptions& options, std::int64_t index) {
+    return static_cast<float>(static_cast<double>(options.FirstReplay) + static_cast<double>(index));
+}
+
+}  // namespace plasmos

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace plasmos {
+
+enum class ResultFormat { Table, Csv, Json };
+enum class ProgressMode { Auto, Always, Never };
+
+/// What the simulator is told on its command line.
+struct SimOptions {
+    std::int64_t Games = 100;
+    float FirstReplay = 1;
+    int Clans = 0;  ///< 0: rolled, or chosen by the robot
+    int Persons = 0;
+    bool Normal = true;
+    bool Victory = false;
+    int Rows = 5;
+    int Cols = 5;
+    std::string Blocks;
+    std::uint64_t Robot = 1;
+    int Jobs = 1;
+    ResultFormat Format = ResultFormat::Table;
+    std::string Output;   ///< empty: standard output
+    std::string Journal;  ///< empty: none
+    std::string Data;     ///< empty: no files
+    bool Bench = false;
+    bool Check = false;
+    ProgressMode Progress = ProgressMode::Auto;
+};
+
+/// A command line that cannot be carried out: one line that says what is wrong and what is allowed.
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// Help was asked for; the text is for standard output.
+struct HelpWanted {
+    std::string Text;
+};
+
+/// Reads a command line. Throws UsageError or HelpWanted.
+SimOptions ParseOptions(int argc, const char* const* argv);
+
+/// The replay number of a game, 0-based.
+float ReplayOf(const SimOptions& options, std::int64_t index);
+
+}  // namespace plasmos

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sim/run.h"
+
+#include <atomic>
+#include <chrono>
+#include <cinttypes>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "model/dice.h"
+#include "model/game_files.h"
+#include "model/signature.h"
+#include "sim/options.h"
+#include "sim/output.h"
+#include "sim/results.h"
+#include "sim/simulate.h"
+
+namespace plasmos {
+
+namespace {
+
+std::atomic<bool> interrupted{false};
+
+constexpr int ExitFinding = 1;
+constexpr int ExitBadInput = 2;
+constexpr int ExitInterrupted = 130;
+
+using Clock = std::chrono::steady_clock;
+
+double SecondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+bool IsTerminal() {
+#ifdef _WIN32
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(fileno(stderr)) != 0;
+#endif
+}
+
+/// A bar on standard error.
+class ProgressBar {
+public:
+    ProgressBar(const SimOptions& options)
+        : games_(options.Games),
+          shown_(options.Progress == ProgressMode::Always || (options.Progress == ProgressMode::Auto && IsTerminal())) {
+    }
+
+    void Advance() {
+        ++done_;
+        if (shown_ && (SecondsSince(last_) > 0.1 || done_ == games_)) {
+            Draw();
+        }
+    }
+    void Clear() const {
+        if (shown_) {
+            std::fprintf(stderr, "\r%*s\r", Width + 40, "");
+        }
+    }
+
+private:
+    static constexpr int Width = 40;
+
+    void Draw() {
+        const auto filled = static_cast<int>(done_ * Width / games_);
+        std::fprintf(stderr, "\r[%s%s] %" PRId64 "/%" PRId64,
+                     std::string(static_cast<std::size_t>(filled), '#').c_str(),
+                     std::string(static_cast<std::size_t>(Width - filled), '.').c_str(), done_, games_);
+        std::fflush(stderr);
+        last_ = Clock::now();
+    }
+
+    std::int64_t games_;
+    bool shown_;
+    std::int64_t done_ = 0;
+    Clock::time_point last_ = Clock::now();
+};
+
+bool Interrupted() {
+    return interrupted.load(std::memory_order_relaxed);
+}
+
+std::unique_ptr<DataFolder> OpenData(const SimOptions& options) {
+    if (options.Data.empty()) {
+        return nullptr;
+    }
+    auto folder = std::make_unique<DataFolder>(options.Data);
+    try {
+        folder->MakeFolder();
+    } catch (const RuntimeError& error) {
+        throw OutputError(Concat("--data: ", std::string_view(error.what())));
+    }
+    return folder;
+}
+
+void TellFault(const SimOptions& options, const GameResult& result) {
+    std::fprintf(stderr, "plasmos-sim: game %s%s: %s\n", ReplayText(result.Replay).c_str(),
+                 options.Check ? " (checked)" : "", result.Fault.c_str());
+}
+
+int ExitCode(bool faulty) {
+    if (faulty) {
+        return ExitFinding;
+    }
+    return Interrupted() ? ExitInterrupted : 0;
+}
+
+int RunBench(const SimOptions& options) {
+    const auto start = Clock::now();
+    std::int64_t games = 0;
+    std::int64_t decisions = 0;
+    std::uint64_t signature = 0;
+    bool faulty = false;
+    SimulateGames(options, nullptr, Interrupted, [&](const GameResult& result) {
+        faulty = !result.Fault.empty();
+        if (faulty) {
+            TellFault(options, result);
+            return false;
+        }
+        ++games;
+        decisions += result.Decisions;
+        signature = FoldHash(signature, result.Signature);
+        return true;
+    });
+    const double seconds = SecondsSince(start);
+    std::printf("games=%" PRId64 " decisions=%" PRId64 " seconds=%.3f games_per_second=%.0f signature=%016" PRIx64 "\n",
+                games, decisions, seconds, static_cast<double>(games) / seconds, signature);
+    if (std::fflush(stdout) != 0) {
+        throw OutputError("standard output cannot be written");
+    }
+    return ExitCode(faulty);
+}
+
+int RunGames(const SimOptions& options) {
+    Output output(options.Output);
+    std::optional<Output> journal;
+    if (!options.Journal.empty()) {
+        journal.emplace(options.Journal);
+    }
+    const auto data = OpenData(options);
+    ResultWriter writer(options.Format);
+    ProgressBar progress(options);
+    output.Write(writer.Begin());
+    const auto start = Clock::now();
+    std::int64_t games = 0;
+    bool faulty = false;
+    SimulateGames(options, data.get(), Interrupted, [&](const GameResult& result) {
+        if (journal) {
+            journal->Write(result.Journal);
+        }
+        faulty = !result.Fault.empty();
+        if (faulty) {
+            progress.Clear();
+            TellFault(options, result);
+            return false;
+        }
+        output.Write(writer.Add(result));
+        ++games;
+        progress.Advance();
+        return true;
+    });
+    const double seconds = SecondsSince(start);
+    progress.Clear();
+    output.Write(writer.End());
+    output.Commit();
+    if (journal) {
+        journal->Commit();
+    }
+    std::fprintf(stderr, "%" PRId64 " games in %.2f s, %.0f games per second\n", games, seconds,
+                 static_cast<double>(games) / seconds);
+    return ExitCode(faulty);
+}
+
+}  // namespace
+
+void InterruptSimulator() {
+    interrupted.store(true, std::memory_order_relaxed);
+}
+
+int RunSimulator(int argc, const char* const* argv) {
+    try {
+        const SimOptions options = ParseOptions(argc, argv);
+        return options.Bench ? RunBench(options) : RunGames(options);
+    } catch (const HelpWanted& help) {
+        std::fputs(help.Text.c_str(), stdout);
+        return 0;
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "plasmos-sim: %s\n", error.what());
+    } catch (const OutputError& error) {
+        std::fprintf(stderr, "plasmos-sim: %s\n", error.what());
+    }
+    return ExitBadInput;
+}
+
+}  // namespace plasmos
