@@ -125,29 +125,38 @@ build() {
 
 jobs_at_once() { nproc 2>/dev/null || say 2; }
 
-# Runs ctest over a build folder with a home, data folder and settings of its own:
-# run_ctest FOLDER LOG [ctest option]...
+# Runs ctest over a build folder with a home, data folder and settings of its own, and leaves a report
+# of what ran: run_ctest FOLDER REPORT [ctest option]...
 run_ctest() {
-    local folder=$1 log=$2 home status=0
+    local folder=$1 report=$2 home status=0
     shift 2
     home=$(mktemp -d)
-    rm -f "$folder/Testing/Temporary/LastTest.log"
+    : >"$report"
     env HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" \
         XDG_CACHE_HOME="$home/.cache" PLASMOS_DATA="$home/data" \
         QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" \
-        ctest --test-dir "$folder" --output-on-failure -j "$(jobs_at_once)" "$@" || status=$?
-    cp "$folder/Testing/Temporary/LastTest.log" "$log" 2>/dev/null || : >"$log"
+        ctest --test-dir "$folder" --output-on-failure -j "$(jobs_at_once)" --output-junit "$report" \
+        --test-output-size-passed 1000000 --test-output-size-failed 1000000 "$@" || status=$?
     rm -rf "$home"
     return "$status"
 }
 
-# "passed failed" of a ctest log: one for each test case of the unit tests, and for a window test the
-# cases that its own closing line counts.
+# "passed failed" of a report: one for each test case of the unit tests, and for a window test the
+# cases that its own closing line counts. A skipped test is neither.
 count_cases() {
     awk '
-        /^[0-9]+\/[0-9]+ Test(ing)?: / { cases = 0 }
-        /^Totals: [0-9]+ passed, [0-9]+ failed/ { cases = 1; good += $2; bad += $4; failed_here = $4 }
-        /^Test Passed\./ { if (!cases) ++good; cases = 0 }
-        /^Test (Failed|Timeout)/ || /^Test Not Run/ || /^\*\*\*/ { if (!cases || !failed_here) ++bad; cases = 0; failed_here = 0 }
+        /<testcase / {
+            totals = bad_here = 0
+            state = /status="run"/ ? "passed" : /status="fail"/ ? "failed" : "skipped"
+        }
+        /<skipped message="Unable to find executable/ { state = "failed" }
+        /Totals: [0-9]+ passed, [0-9]+ failed/ {
+            sub(/.*Totals: /, "")
+            totals = 1; good += $1; bad += $3; bad_here += $3
+        }
+        /<\/testcase>/ {
+            if (state == "passed" && !totals) ++good
+            if (state == "failed" && !bad_here) ++bad
+        }
         END { print good + 0, bad + 0 }' "$1"
 }
