@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Builds the tests instrumented, runs them, and prints the line coverage of the core.
+# Builds the tests of core and simulator instrumented, runs them, and prints the line coverage of the core.
 #
 #   packaging/coverage.sh              a table, one line a file
 #   packaging/coverage.sh --html DIR   pages to look at beside it
@@ -25,7 +25,8 @@ esac
 
 install_missing build test
 command -v gcovr >/dev/null 2>&1 || fail "gcovr is missing; it is the package gcovr"
-configure "$folder" release -DCMAKE_BUILD_TYPE=Debug -DPLASMOS_COVERAGE=ON -DPLASMOS_TESTS=ON
+configure "$folder" release -DCMAKE_BUILD_TYPE=Debug -DPLASMOS_COVERAGE=ON -DPLASMOS_TESTS=ON \
+    -DPLASMOS_WINDOW=OFF
 build "$folder"
 find "$folder" -name '*.gcda' -delete
 log=$(mktemp)
