@@ -2,7 +2,6 @@
 #include "ai/computer_divide.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "model/dice.h"
 #include "rules/division.h"
@@ -39,7 +38,7 @@ void ComputerDivide(int cost) {
 int ComputerPlaceSquare(int clan) {
     for (int draw = 1; draw <= Tries; ++draw) {
         const int square = RollDie(DrawnSquares);
-        if (IsFreeOfOwn(square, clan) && SuggestMenu(square, clan) > 0) {
+        if (IsFreeOfOwn(square, clan) && CanEat(square, clan)) {
             return square;
         }
     }
@@ -58,17 +57,17 @@ int ComputerPlaceSquare(int clan) {
 }
 
 int ComputerPlaceBeside(int clan) {
-    const std::vector<int> offered = PlacingSquares(clan, true);
-    if (offered.empty()) {
+    const SquareSet offered = PlacingSquares(clan, true);
+    if (offered.Empty()) {
         return 0;
     }
     for (int draw = 1; draw <= Tries; ++draw) {
         const int square = RollDie(DrawnSquares);
-        if (std::binary_search(offered.begin(), offered.end(), square) && SuggestMenu(square, clan) > 0) {
+        if (offered.Has(square) && CanEat(square, clan)) {
             return square;
         }
     }
-    return offered[static_cast<std::size_t>(RollDie(static_cast<int>(offered.size())) - 1)];
+    return offered.Nth(RollDie(offered.Count()));
 }
 
 }  // namespace plasmos

@@ -14,12 +14,12 @@ namespace {
 /// pieces; its own square never counts. 0: none.
 int PreferredSquare(const SquareList& list, int own, int clan) {
     int empty = 0;
-    for (int i = 1; i <= list.Count; ++i) {
-        const int square = list.Squares[i];
+    for (int i = 1; i <= list.Count(); ++i) {
+        const int square = list[i];
         if (square == own || game.Occupancy[square][clan] > 0) {
             continue;
         }
-        if (SuggestMenu(square, clan) > 0) {
+        if (CanEat(square, clan)) {
             return square;
         }
         empty = empty == 0 ? square : empty;
@@ -54,7 +54,7 @@ int FindEscapeSquare(int clan, int amoeba) {
     both.Add(NeighbourByDie(own, first));
     both.Add(NeighbourByDie(own, second));
     const int preferred = PreferredSquare(both, own, clan);
-    return preferred != 0 ? preferred : both.Squares[1];
+    return preferred != 0 ? preferred : both[1];
 }
 
 }  // namespace plasmos

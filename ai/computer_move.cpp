@@ -30,7 +30,7 @@ public:
 
     /// Works out the destination, moves there, and tells whether a direction die was rolled.
     bool Run() {
-        const bool hungryHere = second_ || SuggestMenu(origin_, clan_) == 0;
+        const bool hungryHere = second_ || !CanEat(origin_, clan_);
         driftSquare_ = FindDriftSquare();
         if (!hungryHere || (game.BP[clan_] <= 0 && !HasGene(clan_, "str"))) {
             DriftAlong(hungryHere);
@@ -57,17 +57,17 @@ private:
         if (game.Drift != WhereItWants) {
             return MoveDestination(origin_);
         }
-        if (SuggestMenu(origin_, clan_) > 0) {
+        if (CanEat(origin_, clan_)) {
             return origin_;
         }
         const SquareList reachable = Neighbours(origin_, clan_);
         SquareList feeding;
-        for (int i = 1; i <= reachable.Count; ++i) {
-            if (SuggestMenu(reachable.Squares[i], clan_) >= 1) {
-                feeding.Add(reachable.Squares[i]);
+        for (int i = 1; i <= reachable.Count(); ++i) {
+            if (CanEat(reachable[i], clan_)) {
+                feeding.Add(reachable[i]);
             }
         }
-        return feeding.Count == 0 ? origin_ : feeding.Squares[RollDie(feeding.Count)];
+        return feeding.Count() == 0 ? origin_ : feeding[RollDie(feeding.Count())];
     }
 
     void DriftAlong(bool hungryHere) {
@@ -92,9 +92,9 @@ private:
         const bool fighter = Has("sfs") || Has("agg");
         const bool hunting = Has("par") && game.ParasiteHunt;
         const SquareList reachable = Neighbours(origin_, clan_);
-        for (int i = 1; i <= reachable.Count; ++i) {
-            const int square = reachable.Squares[i];
-            if (SuggestMenu(square, clan_) >= 1 || (fighter && HasPreyIn(square)) || hunting) {
+        for (int i = 1; i <= reachable.Count(); ++i) {
+            const int square = reachable[i];
+            if (CanEat(square, clan_) || (fighter && HasPreyIn(square)) || hunting) {
                 candidates_.Add(square);
             }
         }
@@ -107,14 +107,14 @@ private:
 
     void MoveActively() {
         FindCandidates();
-        if (candidates_.Count > 0 && Has("mv2")) {
+        if (candidates_.Count() > 0 && Has("mv2")) {
             if (!Has("str") && !second_) {
                 Pay();
             }
             found_ = true;
-            const int destination = candidates_.Squares[RollDie(candidates_.Count)];
+            const int destination = candidates_[RollDie(candidates_.Count())];
             Feel(destination, piece().Name, " smugly moves into ", destination);
-        } else if (candidates_.Count == 0 && Has("mv2") && HasSpeed(clan_)) {
+        } else if (candidates_.Count() == 0 && Has("mv2") && HasSpeed(clan_)) {
             LookAround();
         } else if (!MaySteer()) {
             Feel(driftSquare_, piece().Name, " moves disconsolately into ", driftSquare_);
@@ -142,14 +142,14 @@ private:
     }
 
     bool MaySteer() const {
-        if (HasSpeed(clan_) || candidates_.Count > 1) {
+        if (HasSpeed(clan_) || candidates_.Count() > 1) {
             return true;
         }
-        return candidates_.Count == 1 && Has("mv1") && (Has("str") || piece().Damage == 1 || RollDie(2) == 2);
+        return candidates_.Count() == 1 && Has("mv1") && (Has("str") || piece().Damage == 1 || RollDie(2) == 2);
     }
 
     void Steer() {
-        if (candidates_.Count == 0 && second_) {
+        if (candidates_.Count() == 0 && second_) {
             const int destination = NeighbourByDie(origin_, RollDie(5));
             Feel(destination, piece().Name, " just doesn't care anymore.");
             return;
@@ -192,8 +192,8 @@ private:
     /// A 6: any candidate, else any neighbour; from square 24 it is square 19 where that is a real one.
     int FindFreely() {
         found_ = true;
-        if (candidates_.Count > 0) {
-            return candidates_.Squares[RollDie(candidates_.Count)];
+        if (candidates_.Count() > 0) {
+            return candidates_[RollDie(candidates_.Count())];
         }
         if (origin_ == JumpFrom && IsValidSquare(JumpTo)) {
             return JumpTo;
@@ -230,7 +230,7 @@ private:
 
 bool HasFoodNextDoor(int square, int clan) {
     for (int direction = 1; direction <= 4; ++direction) {
-        if (SuggestMenu(NeighbourByDie(square, direction), clan) >= 1) {
+        if (CanEat(NeighbourByDie(square, direction), clan)) {
             return true;
         }
     }
@@ -239,13 +239,13 @@ bool HasFoodNextDoor(int square, int clan) {
 
 void ComputerMoveAmoeba(int clan, int amoeba) {
     const Piece& piece = game.Amoeba[amoeba][clan];
-    if (HasGene(clan, "hol") && SuggestMenu(piece.Square, clan) > 0) {
+    if (HasGene(clan, "hol") && CanEat(piece.Square, clan)) {
         Say(piece.Name, " clings to the bottom in ", piece.Square);
         Board().Pause(RestPause);
         return;
     }
     const bool rolled = MovePass(clan, amoeba, false).Run();
-    if (rolled && HasSpeed(clan) && SuggestMenu(piece.Square, clan) == 0) {
+    if (rolled && HasSpeed(clan) && !CanEat(piece.Square, clan)) {
         MovePass(clan, amoeba, true).Run();
     }
 }

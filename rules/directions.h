@@ -1,24 +1,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+
 #include "model/game_state.h"
 
 namespace plasmos {
 
-/// A list of squares as they are offered or tried, at most 36.
-struct SquareList {
-    Table<int, 0, MaxSquares> Squares;  ///< from 1 on
-    int Count = 0;
-
-    void Add(int square) { Squares[++Count] = square; }
+/// The squares an amoeba reaches or is offered, in the order in which they are tried; the same square
+/// may stand in it more than once.
+class SquareList {
+public:
+    void Add(int square) { squares_[Position(++count_)] = static_cast<std::int8_t>(square); }
+    int Count() const { return count_; }
+    /// The square at a place, 1..Count().
+    int operator[](int place) const {
+        if (place < 1 || place > count_) {
+            RaiseSubscriptError();
+        }
+        return squares_[Position(place)];
+    }
     bool Has(int square) const {
-        for (int i = 1; i <= Count; ++i) {
-            if (Squares[i] == square) {
+        for (int place = 1; place <= count_; ++place) {
+            if (squares_[Position(place)] == square) {
                 return true;
             }
         }
         return false;
     }
+
+private:
+    static constexpr int Most = 20;
+
+    static std::size_t Position(int place) {
+        if (place > Most) {
+            RaiseSubscriptError();
+        }
+        return static_cast<std::size_t>(place - 1);
+    }
+
+    std::int8_t squares_[Most];  // filled as far as count_
+    int count_ = 0;
 };
 
 /// Square offset of a direction roll: 1 right (+1), 2 down (+NumCols), 3 left (-1), 4 up (-NumCols),

@@ -27,20 +27,33 @@ int FreeSlot(int clan) {
 }
 
 template <class Test>
-std::vector<int> SquaresWhere(Test&& test) {
-    std::vector<int> squares;
+SquareSet SquaresWhere(Test&& test) {
+    SquareSet squares;
     for (int square = 1; square <= game.NumSquares; ++square) {
-        if (IsValidSquare(square) && test(square)) {
-            squares.push_back(square);
+        if (!game.Blocked[square] && test(square)) {
+            squares.Add(square);
         }
     }
     return squares;
 }
 
-bool IsNextToOwn(int square, int clan) {
-    for (int direction = 1; direction <= 4; ++direction) {
-        const int next = game.NextTo[square][direction];
-        if (next != square && game.Occupancy[next][clan] > 0) {
+SquareSet SquaresNextToOwn(int clan) {
+    SquareSet squares;
+    for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+        const int own = game.Amoeba[amoeba][clan].Square;
+        for (int direction = 1; own != 0 && direction <= 4; ++direction) {
+            if (const int next = game.NextTo[own][direction]; next != own) {
+                squares.Add(next);
+            }
+        }
+    }
+    return squares;
+}
+
+/// Whether any square is without the clan's own amoebas.
+bool HasRoom(int clan) {
+    for (int square = 1; square <= game.NumSquares; ++square) {
+        if (IsValidSquare(square) && game.Occupancy[square][clan] == 0) {
             return true;
         }
     }
@@ -59,14 +72,13 @@ int DrawStartSquare() {
             return square;
         }
     }
-    const auto empty = SquaresWhere(IsEmptySquare);
-    return empty.empty() ? 0 : empty.front();
+    return SquaresWhere(IsEmptySquare).Lowest();
 }
 
 int ChooseSquareFor(int clan) {
     const bool inPlay = game.Turn >= 1;
     if (!game.Players[clan].IsComputer) {
-        return PlacingSquares(clan, inPlay).empty() ? 0 : ChoosePlaceSquare(clan, inPlay);
+        return PlacingSquares(clan, inPlay).Empty() ? 0 : ChoosePlaceSquare(clan, inPlay);
     }
     if (!inPlay) {
         return DrawStartSquare();
@@ -141,21 +153,21 @@ int DivisionPrice(int clan) {
     return HasGene(clan, "div") ? 4 : 6;
 }
 
-std::vector<int> PlacingSquares(int clan, bool inPlay) {
+SquareSet PlacingSquares(int clan, bool inPlay) {
     const auto withoutOwn = [&](int square) { return game.Occupancy[square][clan] == 0; };
-    std::vector<int> squares;
+    SquareSet squares;
     if (game.AmoebaCount[clan] == 0 || !inPlay) {
         squares = SquaresWhere(IsEmptySquare);
     } else if (HasGene(clan, "spo") || game.AmoebaCount[clan] < 2) {
         squares = SquaresWhere(withoutOwn);
     } else {
-        squares = SquaresWhere([&](int square) { return IsNextToOwn(square, clan); });
+        squares = SquaresNextToOwn(clan);
     }
-    return squares.empty() ? SquaresWhere(withoutOwn) : squares;
+    return squares.Empty() ? SquaresWhere(withoutOwn) : squares;
 }
 
 int ChoosePlaceSquare(int clan, bool inPlay) {
-    return AskSquare(clan, "Choose a square in which to place your amoeba:", PlacingSquares(clan, inPlay));
+    return AskSquare(clan, "Choose a square in which to place your amoeba:", PlacingSquares(clan, inPlay).List());
 }
 
 bool CreateAmoeba(int clan) {
@@ -172,7 +184,7 @@ bool CreateAmoeba(int clan) {
 }
 
 bool DivideOnce(int clan, int price) {
-    if (FreeSlot(clan) == 0 || PlacingSquares(clan, true).empty()) {
+    if (FreeSlot(clan) == 0 || !HasRoom(clan)) {
         return false;
     }
     if (game.AmoebaCount[clan] >= 1) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
+#include "rules/square_set.h"
 
 namespace plasmos {
 
@@ -22,10 +22,10 @@ bool CreateAmoeba(int clan);
 /// Pays for an amoeba, unless the clan has none on the board, and creates it. False: nothing happened.
 bool DivideOnce(int clan, int price);
 
-/// The squares a clan may place an amoeba in, ascending. `inPlay` is false during the setup. In play
+/// The squares a clan may place an amoeba in. `inPlay` is false during the setup. In play
 /// a clan without amoebas has every empty square, with "spo" or one amoeba every square without its
 /// own, else the squares next to its amoebas; where that is none, every square without its own.
-std::vector<int> PlacingSquares(int clan, bool inPlay);
+SquareSet PlacingSquares(int clan, bool inPlay);
 
 /// Lets a person click one of the placing squares.
 int ChoosePlaceSquare(int clan, bool inPlay);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/menus.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "model/genes.h"
@@ -110,6 +111,43 @@ int SuggestPlain(int food) {
     }
 }
 
+/// The menu for the food on offer, a number whose digits are the amounts of each colour, largest first.
+int ChooseMenu(int food, int clan) {
+    const bool frugal = HasGene(clan, "fru");
+    if (HasGene(clan, "sub")) {
+        return frugal ? SuggestWithBoth(food) : SuggestWithSub(food);
+    }
+    return frugal ? SuggestWithFru(food) : SuggestPlain(food);
+}
+
+constexpr int LargestDigit = 9;
+
+constexpr void SortPair(int& larger, int& smaller) {
+    const int most = std::max(larger, smaller);
+    smaller = std::min(larger, smaller);
+    larger = most;
+}
+
+/// The food on offer without the work lists: the same number as sorting them gives.
+int FoodOnOffer(int square, int clan) {
+    const auto& food = game.Food[square];
+    int digits[MaxClans + 1] = {};
+    for (int colour = 1; colour <= MaxClans; ++colour) {
+        const bool counts = colour != clan && colour <= game.NumPlayers;
+        digits[colour - 1] = counts ? std::min(food[colour], LargestDigit) : 0;
+    }
+    constexpr int network[][2] = {{0, 5}, {1, 3}, {2, 4}, {1, 2}, {3, 4}, {0, 3},
+                                  {2, 5}, {0, 1}, {2, 3}, {4, 5}, {1, 2}, {3, 4}};
+    for (const auto& pair : network) {
+        SortPair(digits[pair[0]], digits[pair[1]]);
+    }
+    int menu = digits[0];
+    for (int i = 1; digits[i] != 0; ++i) {
+        menu = menu * 10 + digits[i];
+    }
+    return menu;
+}
+
 }  // namespace
 
 bool LegalEat(int menu) {
@@ -152,16 +190,15 @@ int SuggestMenu(int square, int clan) {
         const int pieces = game.Food[square][colour];
         if (colour != clan && pieces >= 1) {
             ++place;
-            game.MenuAmounts[place] = pieces > 9 ? 9 : pieces;
+            game.MenuAmounts[place] = std::min(pieces, LargestDigit);
             game.MenuColours[place] = colour;
         }
     }
-    const int food = SortMenuDigits(game.MenuAmounts, game.MenuColours);
-    const bool frugal = HasGene(clan, "fru");
-    if (HasGene(clan, "sub")) {
-        return frugal ? SuggestWithBoth(food) : SuggestWithSub(food);
-    }
-    return frugal ? SuggestWithFru(food) : SuggestPlain(food);
+    return ChooseMenu(SortMenuDigits(game.MenuAmounts, game.MenuColours), clan);
+}
+
+bool CanEat(int square, int clan) {
+    return ChooseMenu(FoodOnOffer(square, clan), clan) > 0;
 }
 
 void OrderEqualAmounts() {

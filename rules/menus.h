@@ -22,6 +22,9 @@ int SortMenuDigits(Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours);
 /// never suggested.
 int SuggestMenu(int square, int clan);
 
+/// Whether SuggestMenu would find a menu, for looking ahead: it leaves the work lists alone.
+bool CanEat(int square, int clan);
+
 /// Puts entries with equal amounts in the order of their owners' scores, the higher score first.
 void OrderEqualAmounts();
 

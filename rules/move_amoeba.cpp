@@ -20,18 +20,13 @@ namespace plasmos {
 
 namespace {
 
-struct PieceId {
-    int Clan = 0;
-    int Amoeba = 0;
+/// A hitch-hiker or a dragged piece.
+struct Rider {
+    int Clan;
+    int Amoeba;
 };
 
-/// Hitch-hikers and a dragged piece; there are at most 42 pieces.
-struct RiderList {
-    Table<PieceId, 0, MaxClans * MaxPieces> Pieces;
-    int Count = 0;
-
-    void Add(int clan, int amoeba) { Pieces[++Count] = {clan, amoeba}; }
-};
+using RiderList = std::vector<Rider>;
 
 void LayFood(const TentacleLoad& load, int from, int to, int sign) {
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
@@ -74,14 +69,14 @@ void AskRiders(int clan, int from, int to, RiderList& riders) {
     VictimForm form(clan, "HOLD", "Choose the Hitch-hiker(s):", from);
     ForPiecesIn(from, clan, [&](int amoeba) { form.Allow(clan, amoeba); });
     for (const VictimFigure& figure : AskVictims(form)) {
-        riders.Add(figure.Clan, figure.Amoeba);
+        riders.push_back({figure.Clan, figure.Amoeba});
     }
 }
 
 /// A computer clan's pieces ride when they cannot eat where they are and can at the destination.
 bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
     const CarriedFood carried(load, from, to);
-    return SuggestMenu(from, clan) == 0 && SuggestMenu(to, clan) > 0;
+    return !CanEat(from, clan) && CanEat(to, clan);
 }
 
 RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
@@ -93,7 +88,7 @@ RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
         if (!game.Players[clan].IsComputer) {
             AskRiders(clan, from, to, riders);
         } else if (WantsToRide(clan, from, to, load)) {
-            ForPiecesIn(from, clan, [&](int amoeba) { riders.Add(clan, amoeba); });
+            ForPiecesIn(from, clan, [&](int amoeba) { riders.push_back({clan, amoeba}); });
         }
     }
     return riders;
@@ -136,10 +131,9 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     if (load.DraggedAmoeba != 0) {
         --game.BP[clan];
         Board().ShowBP(clan);
-        riders.Add(clan, load.DraggedAmoeba);
+        riders.push_back({clan, load.DraggedAmoeba});
     }
-    for (int i = 1; i <= riders.Count; ++i) {
-        const PieceId rider = riders.Pieces[i];
+    for (const Rider& rider : riders) {
         MoveAlone(rider.Clan, rider.Amoeba, destination);
         Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
     }

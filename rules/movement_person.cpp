@@ -112,7 +112,10 @@ int ThrowAgain(int clan, int amoeba, int firstDirection, int square) {
 int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) {
     const Piece& piece = game.Amoeba[amoeba][clan];
     const SquareList offered = neighbours ? Neighbours(piece.Square, clan) : list;
-    const std::vector<int> squares(offered.Squares.begin() + 1, offered.Squares.begin() + 1 + offered.Count);
+    std::vector<int> squares;
+    for (int place = 1; place <= offered.Count(); ++place) {
+        squares.push_back(offered[place]);
+    }
     const std::string before = Board().Message();
     const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares);
     Board().ShowMessage(before, clan);

@@ -19,7 +19,7 @@ bool FeedsThere(int clan, int destination, int colour, int second) {
     const auto before = food;
     ++food[colour];
     food[second] += second != 0 ? 1 : 0;
-    const bool feeds = SuggestMenu(destination, clan) > 0;
+    const bool feeds = CanEat(destination, clan);
     food = before;
     return feeds;
 }
@@ -27,7 +27,7 @@ bool FeedsThere(int clan, int destination, int colour, int second) {
 /// The fewest foreign pieces that make a meal possible where there is none: single ones before pairs.
 TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     TentacleLoad load;
-    if (SuggestMenu(destination, clan) > 0) {
+    if (CanEat(destination, clan)) {
         return load;
     }
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
