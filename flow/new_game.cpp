@@ -61,7 +61,7 @@ int GetPlayerCount() {
 }
 
 std::string ClanName(int clan) {
-    const auto fallback = Concat("Player ", clan);
+    auto fallback = Concat("Player ", clan);
     if (game.Settings == nullptr) {
         return fallback;
     }

@@ -24,9 +24,12 @@ std::string BoardFault(const BoardSize& board) {
     if (squares - blocks < MinFreeSquares) {
         return Concat(MinFreeSquares, " squares must stay free");
     }
-    for (const int square : board.Blocks) {
-        if (square < 1 || square > squares) {
-            return Concat("block ", square, " is off the board of ", squares, " squares");
+    for (auto block = board.Blocks.begin(); block != board.Blocks.end(); ++block) {
+        if (*block < 1 || *block > squares) {
+            return Concat("block ", *block, " is off the board of ", squares, " squares");
+        }
+        if (std::find(board.Blocks.begin(), block, *block) != block) {
+            return Concat("block ", *block, " is there twice");
         }
     }
     return {};

@@ -80,6 +80,17 @@ void WriteAll(File file, const std::string& path, std::string_view bytes) {
     }
 }
 
+/// A line of the greatest length without the character that the cut has broken at its end.
+std::string_view WithoutBrokenEnd(std::string_view line) {
+    constexpr std::size_t longestRest = 3;
+    for (std::size_t rest = 0; rest <= longestRest; ++rest) {
+        if (const auto whole = line.substr(0, line.size() - rest); IsValidUtf8(whole)) {
+            return whole;
+        }
+    }
+    return line;
+}
+
 /// Splits the bytes of a file into lines as they come, so that neither a long file nor a long line
 /// has to fit into memory.
 class LineCollector {
@@ -116,6 +127,9 @@ private:
         }
         if (!line.empty() && line.back() == '\r') {
             line.remove_suffix(1);
+        }
+        if (line_.size() == LongestLine) {
+            line = WithoutBrokenEnd(line);
         }
         lines_.push_back(FromFileBytes(line));
         line_.clear();

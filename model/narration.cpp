@@ -6,7 +6,7 @@
 
 namespace plasmos {
 
-bool SomebodyListens() {
+bool WordsAreWanted() {
     return (game.Listener != nullptr && game.Listener->WantsText()) ||
            (game.Window != nullptr && game.Window->WantsText());
 }

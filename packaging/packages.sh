@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# The one list of packages, by the names Debian 12 and Ubuntu 24.04 give them.
+#
+#   packaging/packages.sh                     the whole list with what each package is for
+#   packaging/packages.sh GROUP...            the names of some groups, one a line
+#
+# Groups: build (the game), test (its tests), ci (what the checks need beside), wayland (a desktop
+# without an X server), long (checks that take long and are run by hand).
+set -euo pipefail
+
+list() {
+    cat <<'LIST'
+build    g++                 the compiler
+build    cmake               configures the build (3.25 or newer)
+build    ninja-build         runs the build
+build    qt6-base-dev        window, dialogs, timers, settings, window tests (Qt 6.4 or newer)
+build    libcli11-dev        command line of the simulator
+build    nlohmann-json3-dev  journal of the simulator
+build    fonts-dejavu-core   letters where no desktop has brought any
+test     libgtest-dev        unit tests
+test     libgmock-dev        matchers of the unit tests
+test     librapidcheck-dev   property tests
+ci       clang               the second compiler
+ci       clang-tidy          reads the core for mistakes
+ci       clang-format        keeps the sources in one shape
+ci       libclang-rt-dev     sanitizers and fuzzing with clang++
+ci       libbenchmark-dev    benchmarks
+ci       gcovr               line coverage
+ci       cppcheck            a second reader of the sources
+ci       xvfb                an X server without a screen, for the window tests
+ci       xauth               needed by xvfb-run
+ci       ccache              makes second builds quick
+wayland  qt6-wayland         a window where there is Wayland and no X server
+long     mingw-w64           builds the program for Windows
+long     wine64              runs it there
+long     valgrind            a slow look at every memory access
+LIST
+}
+
+if [ $# -eq 0 ]; then
+    list
+    exit 0
+fi
+for group in "$@"; do
+    if ! list | awk -v group="$group" '$1 == group { print $2; found = 1 } END { exit !found }'; then
+        echo "packages.sh: there is no group '$group'; there are build, test, ci, wayland and long" >&2
+        exit 2
+    fi
+done

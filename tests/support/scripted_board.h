@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "model/presentation.h"
+#include "model/question.h"
+
+namespace plasmos::testing {
+
+/// The script does not fit the game: a question nobody expected, or an answer of the wrong kind.
+struct ScriptError : std::logic_error {
+    using std::logic_error::logic_error;
+};
+
+/// One answer of a person: a name for messages and what is done to the open question.
+struct Answer {
+    std::string Name;
+    std::function<void(Question&)> Give;
+};
+
+// ---- answers in the message line ----
+Answer Yes();
+Answer No();
+/// A click into the middle of a square.
+Answer Square(int square);
+/// A click at a point in board units.
+Answer ClickAt(int x, int y);
+/// The OK of a message box.
+Answer Ok();
+
+// ---- answers in dialogs ----
+Answer Number(int number);
+/// A piece of the asked clan by its slot.
+Answer Amoeba(int amoeba);
+/// "None": the pick of an amoeba is withdrawn.
+Answer Nobody();
+/// Types amounts for the colours 1, 2, ... and presses eatb ("Eat" or "Starve").
+Answer Eat(std::vector<int> amounts);
+/// Takes the suggestion and presses eatb.
+Answer EatSuggested();
+/// Chooses the parasite's or the fighter's way and presses victimb.
+Answer Parasitize();
+Answer Struggle();
+/// A figure of the victim dialog: clan and slot.
+struct Figure {
+    int Clan;
+    int Amoeba;
+};
+/// Marks figures and presses "done". Without figures it closes the window: the pick of nothing.
+Answer Pick(std::vector<Figure> figures);
+/// Clicks boxes of the gene dialog by code ("mv1"), types BP when they are not "", presses "done".
+Answer Genes(std::vector<std::string> codes, std::string bp = "");
+/// Closes the dialog's window, or the message box.
+Answer CloseIt();
+
+// ---- answers of any kind ----
+/// The person closes the game's window in the middle of the question.
+Answer EndTheProgram();
+Answer Do(std::string name, std::function<void(Question&)> give);
+
+/// A question as it was asked.
+struct Asked {
+    QuestionKind Kind;
+    int Clan;
+    std::string Text;
+    /// What could be answered: squares, numbers, slots, gene numbers, or figures as 10 x clan + slot.
+    std::vector<int> Offered;
+    std::string Mode;  ///< the dialog's mode; "" where it has none
+};
+
+/// A board whose person answers from a script, and after its end from a policy. It remembers what was
+/// asked and said. A question that neither answers raises ScriptError and fails the running test; so
+/// do answers of the script that nobody asked for.
+class ScriptedBoard : public Presentation {
+public:
+    /// Becomes the current game's window as long as it lives.
+    ScriptedBoard();
+    ~ScriptedBoard() override;
+
+    /// Adds answers at the end of the script.
+    ScriptedBoard& Then(Answer answer);
+    ScriptedBoard& Then(std::initializer_list<Answer> answers);
+    /// Answers what the script does not.
+    void AnswerBy(std::function<void(Question&)> policy) { policy_ = std::move(policy); }
+    /// Message boxes are dismissed without a line in the script. True at first.
+    void DismissBoxes(bool dismiss) { dismissBoxes_ = dismiss; }
+    /// Takes back what would fail the test at the end: the failure met, and answers left over.
+    std::string ForgiveFailure();
+    bool ScriptIsUsedUp() const { return script_.empty(); }
+    /// The question on top; none: nullptr.
+    Question* TopQuestion() const { return open_.empty() ? nullptr : open_.back(); }
+
+    std::vector<Asked> Questions;       ///< without message boxes
+    std::vector<std::string> Boxes;     ///< texts of message boxes
+    std::vector<std::string> LogLines;  ///< since the log was begun
+    std::vector<std::string> Messages;  ///< every text the message line has shown
+    std::vector<std::string> Phases;
+    std::vector<std::string> Captions;
+    std::vector<int> Pauses;  ///< units
+    std::string ReplayBox;    ///< what the person typed as the replay number
+
+    bool WasAsked(QuestionKind kind) const;
+    bool HasLogLine(const std::string& line) const;
+
+    void ShowMessage(std::string_view text, int clan) override;
+    std::string Message() const override { return message_; }
+    void StartLog(std::string_view header) override;
+    void Log(std::string_view line) override { LogLines.emplace_back(line); }
+    void ShowPhase(std::string_view phase) override { Phases.emplace_back(phase); }
+    void ShowCaption(std::string_view caption) override { Captions.emplace_back(caption); }
+    std::string TakeReplayText() override { return ReplayBox; }
+    void Pause(int units) override { Pauses.push_back(units); }
+    void Open(Question& question) override;
+    void Close(Question& question) override;
+    void Wait() override;
+
+private:
+    [[noreturn]] void Fail(const std::string& text);
+
+    std::deque<Answer> script_;
+    std::function<void(Question&)> policy_;
+    std::vector<Question*> open_;
+    std::string message_;
+    std::string failure_;
+    bool dismissBoxes_ = true;
+    int unanswered_ = 0;  ///< answers given in a row that ended no question
+};
+
+}  // namespace plasmos::testing
