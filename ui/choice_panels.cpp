@@ -2,6 +2,7 @@
 #include "ui/choice_panels.h"
 
 #include <QGridLayout>
+#include <algorithm>
 
 #include "model/game_state.h"
 #include "ui/palette.h"
@@ -84,7 +85,7 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
         option->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         connect(option, &QPushButton::clicked, this, [this, k] { Handle([this, k] { form_.amopt_Click(k); }); });
         options_[static_cast<std::size_t>(k)] = option;
-        grid->addWidget(option, k / 2, k % 2);
+        grid->addWidget(option, std::max(k - 1, 0) / 2, (k + 1) % 2);
     }
     grid->addWidget(none_, 4, 0, 1, 2);
     connect(none_, &QPushButton::clicked, this, [this] { Handle([this] { form_.amoptb_Click(); }); });

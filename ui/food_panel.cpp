@@ -106,13 +106,9 @@ void FoodPanel::MakeRow(int field) {
         button->setStyleSheet(step);
         button->setFocusPolicy(Qt::NoFocus);
     }
-    line->addWidget(cube);
-    line->addWidget(row.Name, 1);
-    line->addWidget(row.Count);
-    line->addSpacing(8);
-    line->addWidget(row.Less);
-    line->addWidget(row.Entry);
-    line->addWidget(row.More);
+    for (QWidget* part : std::initializer_list<QWidget*>{cube, row.Name, row.Count, row.Less, row.Entry, row.More}) {
+        line->addWidget(part, part == row.Name ? 1 : 0);
+    }
     Body()->addWidget(row.Line);
     connect(row.Entry, &QLineEdit::textChanged, this, [this, field](const QString& text) {
         if (!rereading_) {
