@@ -76,17 +76,18 @@ void EnvironmentView::ShowPhase(const QString& phase) {
 void EnvironmentView::Clear() {
     turnlab->clear();
     phase_.clear();
-    ShowDrift();
-    ShowUV();
+    driftlab->clear();
+    UVlab->clear();
+    update();
 }
 
 void EnvironmentView::ShowDrift() {
-    driftlab->setText(game.NumPlayers > 0 ? ToQt(DirectionText(game.Drift)) : QString());
+    driftlab->setText(ToQt(DirectionText(game.Drift)));
     update();
 }
 
 void EnvironmentView::ShowUV() {
-    UVlab->setText(game.NumPlayers > 0 || game.UVLevel > 0 ? QString::number(game.UVLevel) : QString());
+    UVlab->setText(QString::number(game.UVLevel));
     update();
 }
 
@@ -123,7 +124,7 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.setPen(QColor(look::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
-    if (game.NumPlayers > 0) {
+    if (!driftlab->text().isEmpty()) {
         DrawDriftArrow(painter, game.Drift, QPointF(DriftLeft() + 17, 51), 14);
     }
 }

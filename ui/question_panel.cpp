@@ -82,8 +82,15 @@ void QuestionPanel::Handle(const std::function<void()>& handler) {
     if (retired_) {
         return;
     }
-    handler();
-    Reread();
+    try {
+        handler();
+        Reread();
+    } catch (const std::exception&) {
+        if (OnFault) {
+            OnFault(std::current_exception());
+        }
+        return;
+    }
     if (OnHandled) {
         OnHandled();
     }

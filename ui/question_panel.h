@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <exception>
 #include <functional>
 #include <memory>
 
@@ -32,6 +33,9 @@ public:
 
     /// Called after a handler of the question has run.
     std::function<void()> OnHandled;
+
+    /// Called with what a handler has thrown: it may not pass through the event loop.
+    std::function<void(std::exception_ptr fault)> OnFault;
 
     /// Height the panel wants at a width.
     int HeightFor(int width) const;

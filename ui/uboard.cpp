@@ -147,6 +147,7 @@ void UBoard::Play(void (*play)()) {
 void UBoard::SetPlaying(bool playing) {
     playing_ = playing;
     leaving_ = false;
+    fault_ = nullptr;
     if (playing) {
         message_.clear();
         strip_->Question->ShowMessage(QString(), 0);
@@ -215,8 +216,9 @@ void UBoard::SaveWindow() {
     if (game.Settings == nullptr || isMinimized()) {
         return;
     }
+    const QRect place = isMaximized() || isFullScreen() ? normalGeometry() : QRect(pos(), size());
     const std::pair<const char*, int> values[] = {
-        {"left", x()}, {"top", y()}, {"width", width()}, {"height", height()}};
+        {"left", place.x()}, {"top", place.y()}, {"width", place.width()}, {"height", place.height()}};
     for (const auto& [key, value] : values) {
         if (!game.Settings->Save("board", key, Concat(value))) {
             qWarning("The window's position could not be saved in %s", game.Settings->Where().c_str());

@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -133,6 +134,7 @@ private:
     std::string message_;
     QPointer<OptionsDialog> options_;
     EventWait wait_;
+    std::exception_ptr fault_;  ///< thrown by a question's handler; the rules get it
     std::vector<Asked> asked_;
     unsigned announced_ = 0;
     double speed_ = 1;

@@ -66,7 +66,7 @@ void UBoard::ShowDrift() {
 
 void UBoard::ShowOrder() {
     strip_->Clans->ShowOrder();
-    strip_->Environment->ShowDrift();
+    strip_->Environment->update();
     strip_->Arrange();
     track_->update();
 }

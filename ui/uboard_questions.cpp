@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <utility>
 
 #include "model/game_state.h"
 #include "model/runtime_error.h"
@@ -28,6 +29,9 @@ int UBoard::Milliseconds(int full) const {
 void UBoard::ThrowIfOver() {
     if (wait_.Ended()) {
         throw ProgramEnd{0};
+    }
+    if (fault_) {
+        std::rethrow_exception(std::exchange(fault_, nullptr));
     }
     if (leaving_) {
         throw GameLeft{};
@@ -61,6 +65,10 @@ void UBoard::Open(Question& question) {
     auto panel = MakePanel(strip_, question);
     if (panel) {
         panel->OnHandled = [this] { wait_.Wake(); };
+        panel->OnFault = [this](std::exception_ptr fault) {
+            fault_ = std::move(fault);
+            wait_.Wake();
+        };
     }
     asked_.push_back({&question, std::move(panel)});
     ActivateTop();
