@@ -43,7 +43,7 @@ private:
 
     void Pay() {
         game.BP[clan_] -= Excess();
-        Board().ShowBP(clan_);
+        Show(&Presentation::ShowBP, clan_);
     }
 
     void ListGenes() {

@@ -68,7 +68,7 @@ bool Struggle(int clan, int square) {
         return true;
     }
     --game.BP[clan];
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
     bool hungry = true;
     AttackToEat(victim, square, clan, hungry, 0);
     return hungry;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ai/computer_genes.h"
 
+#include <bit>
+
 #include "model/dice.h"
 #include "model/genes.h"
 #include "rules/division.h"
@@ -9,6 +11,8 @@ namespace plasmos {
 
 namespace {
 
+/// Bits 0 to 19 of a personality name genes.
+constexpr std::uint32_t AllGenes = 0xFFFFF;
 constexpr int GenerousCap = 50;
 constexpr int CloseToVictory = 5;
 constexpr int FailedDraws = 5;
@@ -19,7 +23,8 @@ constexpr int FirstTurnForIntelligence = 6;
 /// One computer clan at the shop.
 class Shopping {
 public:
-    explicit Shopping(int clan) : clan_(clan), reserve_(DivisionPrice(clan)), ownedAll_(OwnsAllFavourites()) {}
+    explicit Shopping(int clan)
+        : clan_(clan), reserve_(DivisionPrice(clan)), cap_(SpendingCap()), ownedAll_(OwnsAllFavourites()) {}
 
     void Run() {
         if (!ownedAll_) {
@@ -37,12 +42,19 @@ public:
 
 private:
     bool OwnsAllFavourites() const {
-        for (int gene = 1; gene <= GeneCount; ++gene) {
-            if (IsFavourite(clan_, gene) && !game.Genes[gene][clan_]) {
+        for (int gene = NextFavourite(0); gene != 0; gene = NextFavourite(gene)) {
+            if (!game.Genes[gene][clan_]) {
                 return false;
             }
         }
         return true;
+    }
+
+    /// The clan's next favourite after a gene in number order; 0: there is none.
+    int NextFavourite(int gene) const {
+        const auto left = static_cast<std::uint32_t>(game.Players[clan_].Personality) & AllGenes &
+                          (~0U << static_cast<unsigned>(gene));
+        return left == 0 ? 0 : std::countr_zero(left) + 1;
     }
 
     bool Buy(int gene) {
@@ -54,14 +66,14 @@ private:
         return true;
     }
 
-    bool BelowCap() const { return game.Players[clan_].MutationLevel < SpendingCap(); }
+    bool BelowCap() const { return game.Players[clan_].MutationLevel < cap_; }
 
     /// BP that are left when every amoeba the clan could still divide is set aside.
     int Spare() const { return game.BP[clan_] - reserve_ * (game.MaxAmoeba - game.AmoebaCount[clan_]); }
 
     void BuyFavourites() {
-        for (int gene = 1; gene <= GeneCount; ++gene) {
-            if (!IsFavourite(clan_, gene) || !CanBuyGene(clan_, gene)) {
+        for (int gene = NextFavourite(0); gene != 0; gene = NextFavourite(gene)) {
+            if (!CanBuyGene(clan_, gene)) {
                 continue;
             }
             if (!BelowCap()) {
@@ -106,6 +118,7 @@ private:
 
     int clan_;
     int reserve_;
+    int cap_;
     bool ownedAll_;
     bool bought_ = false;
 };

@@ -102,7 +102,7 @@ private:
 
     void Pay() {
         --game.BP[clan_];
-        Board().ShowBP(clan_);
+        Show(&Presentation::ShowBP, clan_);
     }
 
     void MoveActively() {
@@ -208,10 +208,10 @@ private:
             }
         } else {
             Say(piece().Name, " remains ", found_ ? "contentedly" : "dejectedly", " in ", destination_);
-            Board().Pause(RestPause);
+            Show(&Presentation::Pause, RestPause);
         }
         MoveAmoeba(clan_, amoeba_, destination_);
-        Board().Pause(MovePause);
+        Show(&Presentation::Pause, MovePause);
     }
 
     int clan_;
@@ -241,7 +241,7 @@ void ComputerMoveAmoeba(int clan, int amoeba) {
     const Piece& piece = game.Amoeba[amoeba][clan];
     if (HasGene(clan, "hol") && CanEat(piece.Square, clan)) {
         Say(piece.Name, " clings to the bottom in ", piece.Square);
-        Board().Pause(RestPause);
+        Show(&Presentation::Pause, RestPause);
         return;
     }
     const bool rolled = MovePass(clan, amoeba, false).Run();

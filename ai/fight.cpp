@@ -67,21 +67,21 @@ Victim PickByPerson(int attacker, int square) {
         return {};
     }
     --game.BP[attacker];
-    Board().ShowBP(attacker);
+    Show(&Presentation::ShowBP, attacker);
     return {picked.front().Clan, picked.front().Amoeba};
 }
 
 void Outcome(const Victim& victim, int square) {
     if (HasGene(victim.Clan, "arm")) {
         ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
-        Board().DrawPiece(victim.Clan, victim.Amoeba);
+        Show(&Presentation::DrawPiece, victim.Clan, victim.Amoeba);
         return;
     }
     AddFoodOfAllColours(square, FoodOfTheTorn);
     SayMore(game.Amoeba[victim.Amoeba][victim.Clan].Name, " torn viciously to pieces!!!");
-    Board().Pause(EatenPause);
+    Show(&Presentation::Pause, EatenPause);
     RemoveAmoeba(victim.Clan, victim.Amoeba);
-    Board().Pause(EatenPause);
+    Show(&Presentation::Pause, EatenPause);
 }
 
 /// Whom the second attack goes against: the same clan if it still has a piece in the square, else the
@@ -111,7 +111,7 @@ bool Resolve(const Victim& victim, int square) {
     if (!gotAway) {
         Outcome(victim, square);
     }
-    Board().DrawSquare(square);
+    Show(&Presentation::DrawSquare, square);
     return gotAway;
 }
 
@@ -131,7 +131,7 @@ void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, in
     stillHungry = false;
     AddFoodOfAllColours(square, FoodOfTheEaten);
     Say(game.Amoeba[amoeba][victimClan].Name, " Eaten!");
-    Board().Pause(EatenPause);
+    Show(&Presentation::Pause, EatenPause);
     RemoveAmoeba(victimClan, amoeba);
 }
 

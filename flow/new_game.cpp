@@ -101,7 +101,7 @@ void ShufflePlayOrder() {
 
 void PlaceOne(int place) {
     game.CurPlayer = ClanAtPlace(place);
-    Board().ShowCurrentClan(game.CurPlayer);
+    Show(&Presentation::ShowCurrentClan, game.CurPlayer);
     CreateAmoeba(game.CurPlayer);
 }
 
@@ -111,7 +111,7 @@ void SetUpGame() {
     BuildEnvDeck();
     ShuffleEnvDeck();
     game.Drift = game.EnvDeck[0].DriftDirection;
-    Board().ShowDrift();
+    Show(&Presentation::ShowDrift);
     game.NumPlayers = GetPlayerCount();
     game.MaxAmoeba = game.NumPlayers >= 5 ? 6 : 7;
     FillScoreTables();
@@ -122,9 +122,9 @@ void SetUpGame() {
     DealPersonalities();
     ResetGenes();
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        Board().ShowBP(clan);
-        Board().ShowGenes(clan);
-        Board().ShowAutoFlags(clan);
+        Show(&Presentation::ShowBP, clan);
+        Show(&Presentation::ShowGenes, clan);
+        Show(&Presentation::ShowAutoFlags, clan);
     }
     PlaceStartPieces();
     game.GameOver = false;
@@ -146,7 +146,7 @@ void ShuffleEnvDeck() {
         std::swap(game.EnvDeck[card].DriftDirection, game.EnvDeck[drift].DriftDirection);
     }
     game.UVLevel = game.EnvDeck[0].UV;
-    Board().ShowUV();
+    Show(&Presentation::ShowUV);
 }
 
 int AskPlayerCount() {
@@ -171,12 +171,12 @@ void PlaceStartPieces() {
     for (int place = 1; place <= game.NumPlayers; ++place) {
         game.Players[ClanAtPlace(place)].Score = game.NumPlayers + place - 1;
     }
-    Board().ShowOrder();
-    Board().DrawBoard();
+    Show(&Presentation::ShowOrder);
+    Show(&Presentation::DrawBoard);
     for (int place = 1; place <= game.NumPlayers; ++place) {
         PlaceOne(place);
     }
-    Board().DrawBoard();
+    Show(&Presentation::DrawBoard);
     for (int place = game.NumPlayers; place >= 1; --place) {
         PlaceOne(place);
     }

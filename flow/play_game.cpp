@@ -56,7 +56,7 @@ void PlayGuarded(Game&& play) {
         }
         play();
     } catch (const GameLeft&) {
-        Board().DisableAutoEating();
+        Show(&Presentation::DisableAutoEating);
     } catch (const std::exception&) {
         EndBrokenGame(CurrentError());
     }
@@ -74,7 +74,7 @@ void PlayRound() {
 }
 
 void AnnounceWinner() {
-    Board().DisableAutoEating();
+    Show(&Presentation::DisableAutoEating);
     const auto& winner = game.Players[ClanAtPlace(1)].Name;
     if (SomebodyListens()) {
         ShowBox(0, Concat("Clan ", winner, " wins!"));
@@ -85,7 +85,7 @@ void PlayOneGame() {
     NewGame();
     WriteHeader();
     for (game.Turn = 1; game.Turn <= LastTurn; ++game.Turn) {
-        Board().ShowTurn();
+        Show(&Presentation::ShowTurn);
         PlayRound();
         if (game.GameOver) {
             break;

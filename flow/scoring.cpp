@@ -64,7 +64,7 @@ void ScoreClan(int clan) {
     }
     LeaveSharedSpace(clan);
     Sign(SignedEvent::Score, clan, game.Players[clan].Score);
-    Board().ShowOrder();
+    Show(&Presentation::ShowOrder);
 }
 
 void SortPlayOrder() {
@@ -80,7 +80,7 @@ void SortPlayOrder() {
             std::swap(game.PlayOrder[place], game.PlayOrder[best]);
         }
     }
-    Board().ShowOrder();
+    Show(&Presentation::ShowOrder);
 }
 
 void TestVictory() {
@@ -121,7 +121,7 @@ void RecordFoodHistory() {
 
 void ScorePhase() {
     GuardPhase([] {
-        Board().ShowPhase("Scoring");
+        Show(&Presentation::ShowPhase, "Scoring");
         RunStep(Step::Score, 0, 0, [] {
             for (int place = 1; place <= game.NumPlayers; ++place) {
                 ScoreClan(ClanAtPlace(place));

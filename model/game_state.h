@@ -122,7 +122,7 @@ struct GameTables {
     bool ParasiteHunt = false;  ///< no rule ever sets it
 
     Table<Clan, 0, MaxClans> Players;
-    Table<int, 0, MaxClans> PlayOrder;  ///< clan at each place; place 1 moves first
+    Table<int, 0, MaxClans> PlayOrder;   ///< clan at each place; place 1 moves first
     Table<int, 0, MaxClans> StartOrder;  ///< the order of play in which the game began, for statistics
     Table<int, 0, MaxClans> BP;
     Table<int, 0, MaxClans> AmoebaCount;

@@ -65,7 +65,7 @@ int ReplacedGene(int upgrade) {
 
 void LoseTentacle(int clan) {
     game.AutoFlags[clan][2] = false;
-    Board().ShowAutoFlags(clan);
+    Show(&Presentation::ShowAutoFlags, clan);
 }
 
 }  // namespace
@@ -98,16 +98,16 @@ void BuyGene(int gene) {
     --record.Supply;
     game.Genes[gene][clan] = true;
     Sign(SignedEvent::Purchase, clan, gene);
-    Board().ShowGenes(clan);
+    Show(&Presentation::ShowGenes, clan);
     if (game.Players[clan].IsComputer) {
         Report(game.Players[clan].Name, " just bought: ", GeneName(gene));
     }
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
     if (const int replaced = ReplacedGene(gene); replaced != 0) {
         DiscardGene(replaced);
     }
     if (gene == GeneNumber("ten") && !game.Players[clan].IsComputer) {
-        Board().ShowAutoFlags(clan);
+        Show(&Presentation::ShowAutoFlags, clan);
     }
 }
 
@@ -116,7 +116,7 @@ void DiscardGene(int gene) {
     game.Genes[gene][clan] = false;
     game.Players[clan].MutationLevel -= game.Catalogue[gene].MutationPoints;
     ++game.Catalogue[gene].Supply;
-    Board().ShowGenes(clan);
+    Show(&Presentation::ShowGenes, clan);
     if (gene == GeneNumber("ten") && !game.Players[clan].IsComputer) {
         LoseTentacle(clan);
     }

@@ -6,8 +6,9 @@
 
 namespace plasmos {
 
-bool SomebodyListens() {
-    return (game.Listener != nullptr && game.Listener->WantsText()) || (game.Window != nullptr && game.Window->WantsText());
+bool WordsAreWanted() {
+    return (game.Listener != nullptr && game.Listener->WantsText()) ||
+           (game.Window != nullptr && game.Window->WantsText());
 }
 
 void LogText(const std::string& line) {

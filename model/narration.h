@@ -8,8 +8,13 @@
 
 namespace plasmos {
 
+/// Whether the presentation or the observer there is wants words; use SomebodyListens.
+bool WordsAreWanted();
+
 /// Whether anybody reads the words of this game. Nothing is put into words when nobody does.
-bool SomebodyListens();
+inline bool SomebodyListens() {
+    return (game.Listener != nullptr || game.Window != nullptr) && WordsAreWanted();
+}
 
 /// Use Say, SayMore, Report and LogLine.
 void SayText(const std::string& line);

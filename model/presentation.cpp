@@ -11,15 +11,13 @@ namespace {
     throw RuntimeError(5, "Invalid procedure call: nobody is there to be asked");
 }
 
-class SilentBoard final : public Presentation {
+class SilentPresentation final : public Presentation {
 public:
     bool WantsText() const override { return false; }
     void Open(Question&) override { RaiseNobodyToAsk(); }
     void Close(Question&) override {}
     void Wait() override { RaiseNobodyToAsk(); }
 };
-
-SilentBoard silentBoard;
 
 }  // namespace
 
@@ -28,8 +26,9 @@ std::string_view QuestionKindName(QuestionKind kind) {
     return names[static_cast<std::size_t>(kind)];
 }
 
-Presentation& Board() {
-    return game.Window != nullptr ? *game.Window : silentBoard;
+Presentation& SilentBoard() {
+    static SilentPresentation board;
+    return board;
 }
 
 }  // namespace plasmos

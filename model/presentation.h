@@ -3,7 +3,9 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "model/game_state.h"
 #include "model/question.h"
 
 namespace plasmos {
@@ -82,7 +84,20 @@ public:
     virtual void Wait() = 0;
 };
 
-/// The current presentation. Without one it is a silent board, of which nothing can be asked.
-Presentation& Board();
+/// A board that shows nothing and of which nothing can be asked.
+Presentation& SilentBoard();
+
+/// The current presentation; without one it is the silent board.
+inline Presentation& Board() {
+    return game.Window != nullptr ? *game.Window : SilentBoard();
+}
+
+/// Lets the current presentation show something, if there is one: Show(&Presentation::ShowBP, clan).
+template <class... Parameters, class... Arguments>
+void Show(void (Presentation::*what)(Parameters...), Arguments&&... arguments) {
+    if (game.Window != nullptr) {
+        (game.Window->*what)(std::forward<Arguments>(arguments)...);
+    }
+}
 
 }  // namespace plasmos

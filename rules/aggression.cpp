@@ -93,7 +93,7 @@ Attack AttackByComputer(int clan) {
     }
     game.CurAmoeba = target.Attacker;
     --game.BP[clan];
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
     if (!game.Players[target.Clan].IsComputer) {
         ShowBox(target.Clan, target.IsDamaged ? "You are being attacked!" : "You are being Aggressed!");
     }
@@ -107,7 +107,7 @@ void AttackOnce() {
             continue;
         }
         game.CurPlayer = clan;
-        Board().ShowCurrentClan(clan);
+        Show(&Presentation::ShowCurrentClan, clan);
         const bool computer = game.Players[clan].IsComputer;
         if ((computer ? AttackByComputer(clan) : AttackByPerson(clan)) == Attack::StepOver) {
             return;
@@ -142,13 +142,13 @@ void RemoveAmoeba(int clan, int amoeba) {
     game.Amoeba[amoeba][clan].Damage = 0;
     --game.AmoebaCount[clan];
     Sign(SignedEvent::Death, clan, amoeba, square);
-    Board().AnimateDeath(clan, amoeba, square);
-    Board().DrawSquare(square);
+    Show(&Presentation::AnimateDeath, clan, amoeba, square);
+    Show(&Presentation::DrawSquare, square);
 }
 
 void AggressionPhase() {
     GuardPhase([] {
-        Board().ShowPhase("Aggression");
+        Show(&Presentation::ShowPhase, "Aggression");
         RunStep(Step::Deaths, 0, 0, [] { BuryTheDead(); });
         if (SomebodyIsAbleToAttack()) {
             RunStep(Step::Attack, 0, 0, [] { AttackOnce(); });

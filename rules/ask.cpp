@@ -152,7 +152,7 @@ void ReportBox(const std::string& text) {
 void TellPerson(int clan, const std::string& text) {
     Board().ShowMessage(text, clan);
     LogBox(text);
-    Board().Pause(StatementPause);
+    Show(&Presentation::Pause, StatementPause);
 }
 
 void ClearMessage() {

@@ -19,7 +19,7 @@ constexpr int DefencePause = 10;
 
 void Pay(int clan) {
     --game.BP[clan];
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
 }
 
 bool AgreesToDefend(int clan, int amoeba, bool again) {
@@ -57,7 +57,7 @@ bool DefendOnce(int clan, int amoeba) {
     } else {
         SayMore("Amoeba's defense failed.");
     }
-    Board().Pause(DefencePause);
+    Show(&Presentation::Pause, DefencePause);
     return beatenOff;
 }
 

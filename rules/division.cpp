@@ -103,9 +103,9 @@ void Complete(int clan, int amoeba, int square) {
     PutPiece(clan, amoeba, square, slot);
     ++game.AmoebaCount[clan];
     Sign(SignedEvent::Birth, clan, amoeba, square);
-    Board().DrawSquare(square);
-    Board().DrawPiece(clan, amoeba);
-    Board().ShowCurrentClan(clan);
+    Show(&Presentation::DrawSquare, square);
+    Show(&Presentation::DrawPiece, clan, amoeba);
+    Show(&Presentation::ShowCurrentClan, clan);
     if (game.Players[clan].IsComputer) {
         TraceCreation(clan, amoeba, square);
     }
@@ -189,21 +189,21 @@ bool DivideOnce(int clan, int price) {
     }
     if (game.AmoebaCount[clan] >= 1) {
         game.BP[clan] -= price;
-        Board().ShowBP(clan);
+        Show(&Presentation::ShowBP, clan);
     }
     return CreateAmoeba(clan);
 }
 
 void DivisionPhase() {
     GuardPhase([] {
-        Board().ShowPhase("Division");
+        Show(&Presentation::ShowPhase, "Division");
         for (int place = 1; place <= game.NumPlayers; ++place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;
             RunStep(Step::Divide, clan, 0, [&] {
-                Board().ShowCurrentClan(clan);
+                Show(&Presentation::ShowCurrentClan, clan);
                 game.BP[clan] += DivisionIncome();
-                Board().ShowBP(clan);
+                Show(&Presentation::ShowBP, clan);
                 if (game.Players[clan].IsComputer) {
                     ComputerDivide(DivisionPrice(clan));
                 } else {

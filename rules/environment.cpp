@@ -17,8 +17,8 @@ void TurnCard() {
     const EnvironmentCard& card = game.EnvDeck[game.Turn];
     game.Drift = card.DriftDirection;
     game.UVLevel = card.UV;
-    Board().ShowDrift();
-    Board().ShowUV();
+    Show(&Presentation::ShowDrift);
+    Show(&Presentation::ShowUV);
 }
 
 void AdaptPerson(int clan) {
@@ -44,7 +44,7 @@ void AdaptPerson(int clan) {
 void AdaptComputer(int clan, int excess) {
     if (game.BP[clan] > excess) {
         game.BP[clan] -= excess;
-        Board().ShowBP(clan);
+        Show(&Presentation::ShowBP, clan);
     } else {
         ComputerAdaptEnvironment();
     }
@@ -57,7 +57,7 @@ void Adapt(int clan) {
         return;
     }
     RunStep(Step::Adapt, clan, 0, [&] {
-        Board().ShowCurrentClan(clan);
+        Show(&Presentation::ShowCurrentClan, clan);
         if (game.Players[clan].IsComputer) {
             AdaptComputer(clan, excess);
         } else {
@@ -85,7 +85,7 @@ std::string_view DirectionText(int direction) {
 
 void EnvironmentPhase() {
     GuardPhase([] {
-        Board().ShowPhase("Environment");
+        Show(&Presentation::ShowPhase, "Environment");
         RunStep(Step::Environment, 0, 0, [] { TurnCard(); });
         for (int place = 1; place <= game.NumPlayers; ++place) {
             Adapt(ClanAtPlace(place));

@@ -107,7 +107,7 @@ void EatMenu(int menu, int square) {
     game.Food[square][clan] += Excretion;
     Sign(SignedEvent::Meal, clan, square, menu);
     Say(Eater().Name, " eats ", menu, " in ", square);
-    Board().DrawSquare(square);
+    Show(&Presentation::DrawSquare, square);
 }
 
 void EatSuggestion(int menu, int square) {
@@ -118,7 +118,7 @@ void EatSuggestion(int menu, int square) {
 void EatAsParasite(const ParasiteMeal& meal, int square) {
     for (int i = 1; i <= meal.HostCount; ++i) {
         --game.BP[meal.Hosts[i]];
-        Board().ShowBP(meal.Hosts[i]);
+        Show(&Presentation::ShowBP, meal.Hosts[i]);
     }
     if (meal.HostCount == 2) {
         Say(Eater().Name, " parasitizing off of clan ", game.Players[meal.Hosts[1]].Name, " and clan ",
@@ -132,8 +132,8 @@ void EatAsParasite(const ParasiteMeal& meal, int square) {
 void Starve(int square) {
     SayMore(Eater().Name, " starves in ", square);
     ++game.Amoeba[game.CurAmoeba][game.CurPlayer].Damage;
-    Board().DrawPiece(game.CurPlayer, game.CurAmoeba);
-    Board().Pause(StarvePause);
+    Show(&Presentation::DrawPiece, game.CurPlayer, game.CurAmoeba);
+    Show(&Presentation::Pause, StarvePause);
 }
 
 Table<int, 0, MaxClans> SuggestedAmounts(int square, int clan) {

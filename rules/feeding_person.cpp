@@ -186,7 +186,7 @@ void EatTyped(const FoodForm& form, int menu) {
 
 void Fight(int square, int clan, const VictimFigure& victim) {
     --game.BP[clan];
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
     bool hungry = true;
     AttackToEat(victim.Clan, square, clan, hungry, victim.Amoeba);
     if (hungry) {

@@ -127,7 +127,7 @@ void GeneForm::BuyClick(int gene) {
     } else {
         DiscardGene(gene);
         game.BP[Clan] += game.Catalogue[gene].Cost;
-        Board().ShowBP(Clan);
+        Show(&Presentation::ShowBP, Clan);
     }
     BPlabel = Concat(game.BP[Clan]);
     for (int other = 1; other <= GeneCount; ++other) {
@@ -202,7 +202,7 @@ void GeneForm::FinishAdapting() {
     const int paid = std::min(TypedBP(), game.BP[Clan]);
     if (paid >= 1) {
         game.BP[Clan] -= paid;
-        Board().ShowBP(Clan);
+        Show(&Presentation::ShowBP, Clan);
     }
     UVdiffVisible = EnvBPVisible = ofLabVisible = resetbVisible = false;
     BPlabelVisible = true;

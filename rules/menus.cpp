@@ -128,6 +128,24 @@ constexpr void SortPair(int& larger, int& smaller) {
     larger = most;
 }
 
+/// How many foreign colours a menu needs without "sub" and "fru"; one colour holds two pieces where
+/// there are three clans.
+bool CanEatPlain(int square, int clan) {
+    const auto& food = game.Food[square];
+    int colours = 0;
+    int most = 0;
+    for (int colour = 1; colour <= MaxClans; ++colour) {
+        const int pieces = colour == clan ? 0 : food[colour];
+        colours += pieces > 0 ? 1 : 0;
+        most = std::max(most, pieces);
+    }
+    switch (game.NumPlayers) {
+        case 3: return colours >= 2 && most >= 2;
+        case 4: return colours >= 3;
+        default: return colours >= 4;
+    }
+}
+
 /// The food on offer without the work lists: the same number as sorting them gives.
 int FoodOnOffer(int square, int clan) {
     const auto& food = game.Food[square];
@@ -163,21 +181,24 @@ bool LegalEat(int menu) {
 }
 
 int SortMenuDigits(Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours) {
-    for (int i = 1; i <= game.NumPlayers - 2 && amounts[i] != 0; ++i) {
+    int* const amount = amounts.begin();
+    int* const colour = colours.begin();
+    const int last = std::min(game.NumPlayers, MaxClans) - 1;
+    for (int i = 1; i < last && amount[i] != 0; ++i) {
         int best = i;
-        for (int j = i + 1; j <= game.NumPlayers - 1 && amounts[j] != 0; ++j) {
-            if (amounts[j] > amounts[best]) {
+        for (int j = i + 1; j <= last && amount[j] != 0; ++j) {
+            if (amount[j] > amount[best]) {
                 best = j;
             }
         }
         if (best != i) {
-            std::swap(amounts[i], amounts[best]);
-            std::swap(colours[i], colours[best]);
+            std::swap(amount[i], amount[best]);
+            std::swap(colour[i], colour[best]);
         }
     }
     int menu = 0;
-    for (int i = 1; i <= 6 && amounts[i] != 0; ++i) {
-        menu = menu * 10 + amounts[i];
+    for (int i = 1; i <= 6 && amount[i] != 0; ++i) {
+        menu = menu * 10 + amount[i];
     }
     return menu;
 }
@@ -198,6 +219,9 @@ int SuggestMenu(int square, int clan) {
 }
 
 bool CanEat(int square, int clan) {
+    if (!HasGene(clan, "sub") && !HasGene(clan, "fru")) {
+        return CanEatPlain(square, clan);
+    }
     return ChooseMenu(FoodOnOffer(square, clan), clan) > 0;
 }
 
@@ -206,7 +230,7 @@ void OrderEqualAmounts() {
         const int colour = game.MenuColours[place];
         return colour == 0 ? 0 : game.Players[colour].Score;
     };
-    for (int i = 1; i <= 6 && game.MenuAmounts[i] != 0; ++i) {
+    for (int i = 2; i <= 6 && game.MenuAmounts[i] != 0; ++i) {
         for (int j = i; j > 1 && game.MenuAmounts[j] == game.MenuAmounts[j - 1] && score(j) > score(j - 1); --j) {
             std::swap(game.MenuColours[j], game.MenuColours[j - 1]);
         }

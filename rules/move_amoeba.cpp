@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/move_amoeba.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <vector>
@@ -29,7 +28,7 @@ struct Rider {
 using RiderList = std::vector<Rider>;
 
 void LayFood(const TentacleLoad& load, int from, int to, int sign) {
-    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+    for (int colour = 1; load.HasFood && colour <= game.NumPlayers; ++colour) {
         game.Food[from][colour] -= sign * load.Food[colour];
         game.Food[to][colour] += sign * load.Food[colour];
     }
@@ -118,9 +117,9 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     PutPiece(clan, amoeba, destination, slot);
     LayFood(load, from, destination, 1);
     Sign(SignedEvent::Move, clan, amoeba, destination);
-    Board().AnimateMove(clan, amoeba, from, destination);
-    Board().DrawSquare(from);
-    Board().DrawSquare(destination);
+    Show(&Presentation::AnimateMove, clan, amoeba, from, destination);
+    Show(&Presentation::DrawSquare, from);
+    Show(&Presentation::DrawSquare, destination);
 }
 
 void MoveWithCompany(int clan, int amoeba, int destination) {
@@ -130,7 +129,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     MoveWithFood(clan, amoeba, destination, load);
     if (load.DraggedAmoeba != 0) {
         --game.BP[clan];
-        Board().ShowBP(clan);
+        Show(&Presentation::ShowBP, clan);
         riders.push_back({clan, load.DraggedAmoeba});
     }
     for (const Rider& rider : riders) {
@@ -140,10 +139,6 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
 }
 
 }  // namespace
-
-bool TentacleLoad::Empty() const {
-    return DraggedAmoeba == 0 && std::all_of(Food.begin(), Food.end(), [](int pieces) { return pieces == 0; });
-}
 
 int SquareCapacity(int square) {
     if (game.Occupancy[square][0] >= MaxSpots) {
@@ -199,7 +194,7 @@ void MoveBeside(int clan, int amoeba, int otherSlot) {
     }
     LiftPiece(clan, amoeba);
     PutPiece(clan, amoeba, square, nearest);
-    Board().DrawPiece(clan, amoeba);
+    Show(&Presentation::DrawPiece, clan, amoeba);
 }
 
 }  // namespace plasmos

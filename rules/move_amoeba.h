@@ -8,9 +8,13 @@ namespace plasmos {
 /// What an amoeba with a tentacle takes along when it leaves a square.
 struct TentacleLoad {
     Table<int, 0, MaxClans> Food;  ///< pieces of each colour
-    int DraggedAmoeba = 0;         ///< a piece of its own clan; 0: none
+    bool HasFood = false;
+    int DraggedAmoeba = 0;  ///< a piece of its own clan; 0: none
 
-    bool Empty() const;
+    void Take(int colour, int pieces) {
+        Food[colour] += pieces;
+        HasFood = HasFood || pieces != 0;
+    }
 };
 
 /// Moves one amoeba to a square, with what its tentacle takes along and with the hitch-hikers. Each

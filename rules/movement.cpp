@@ -23,7 +23,7 @@ void FeedAfterMove(int clan, int amoeba) {
 
 void ActAmoeba(int clan, int amoeba) {
     game.CurAmoeba = amoeba;
-    Board().OutlinePiece(clan, amoeba, true);
+    Show(&Presentation::OutlinePiece, clan, amoeba, true);
     RunStep(Step::Move, clan, amoeba, [&] {
         if (game.Players[clan].IsComputer) {
             ComputerMoveAmoeba(clan, amoeba);
@@ -32,27 +32,27 @@ void ActAmoeba(int clan, int amoeba) {
         }
     });
     RunStep(Step::Feed, clan, amoeba, [&] { FeedAfterMove(clan, amoeba); });
-    Board().OutlinePiece(clan, amoeba, false);
+    Show(&Presentation::OutlinePiece, clan, amoeba, false);
 }
 
 }  // namespace
 
 void MovementPhase() {
     GuardPhase([] {
-        Board().ShowPhase("Movement");
+        Show(&Presentation::ShowPhase, "Movement");
         for (int place = game.NumPlayers; place >= 1; --place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;
-            Board().ShowCurrentClan(clan);
+            Show(&Presentation::ShowCurrentClan, clan);
             if (!game.Players[clan].IsComputer) {
-                Board().ShowAutoFlags(clan);
+                Show(&Presentation::ShowAutoFlags, clan);
             }
             for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
                 if (game.Amoeba[amoeba][clan].Square >= 1) {
                     ActAmoeba(clan, amoeba);
                 }
             }
-            Board().ShowCurrentClan(clan);
+            Show(&Presentation::ShowCurrentClan, clan);
         }
     });
 }

@@ -36,7 +36,7 @@ std::string DriftMessage(int clan, int amoeba, int square, int destination) {
 
 void PayForMove(int clan) {
     --game.BP[clan];
-    Board().ShowBP(clan);
+    Show(&Presentation::ShowBP, clan);
 }
 
 std::string OfferText(int clan, int amoeba, bool first) {

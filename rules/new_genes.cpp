@@ -47,12 +47,12 @@ bool OffersGenes(int clan) {
 
 void NewGenesPhase() {
     GuardPhase([] {
-        Board().ShowPhase("New genes");
+        Show(&Presentation::ShowPhase, "New genes");
         for (int place = 1; place <= game.NumPlayers; ++place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;
             RunStep(Step::BuyGenes, clan, 0, [&] {
-                Board().ShowCurrentClan(clan);
+                Show(&Presentation::ShowCurrentClan, clan);
                 if (game.Players[clan].IsComputer) {
                     ComputerBuyGenes();
                 } else {

@@ -32,7 +32,7 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     }
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         if (colour != clan && game.Food[from][colour] >= 1 && FeedsThere(clan, destination, colour, 0)) {
-            load.Food[colour] = 1;
+            load.Take(colour, 1);
             return load;
         }
     }
@@ -41,8 +41,8 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
             const int needed = first == second ? 2 : 1;
             const bool there = game.Food[from][first] >= needed && game.Food[from][second] >= needed;
             if (first != clan && second != clan && there && FeedsThere(clan, destination, first, second)) {
-                ++load.Food[first];
-                ++load.Food[second];
+                load.Take(first, 1);
+                load.Take(second, 1);
                 return load;
             }
         }
@@ -88,7 +88,7 @@ void AskFood(int clan, int from, TentacleLoad& load) {
         }
         NoteAnswer(form, Concat("carry ", form.Entry()), true);
         for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-            load.Food[colour] = form.Amount(colour);
+            load.Take(colour, form.Amount(colour));
         }
         break;
     }
