@@ -24,7 +24,7 @@ QRectF SquareRect(int square) {
 /// How food is stacked: where a square is small on the screen, one bigger cube stands for its colour.
 struct Stacks {
     double Cube = 122;
-    double Letters = 80;
+    double Letters = 90;
     int High = 3;
 };
 
