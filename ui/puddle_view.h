@@ -25,6 +25,7 @@ public:
     void ShowNumbers(bool on);
     /// Squares that glow because they may be clicked; empty: none.
     void SetOffered(const std::vector<int>& squares);
+    const std::vector<int>& Offered() const { return offered_; }
     void OutlinePiece(int clan, int amoeba, bool on);
     /// A piece glides from its old square to the place it has now; no square: nothing moves.
     void Glide(int clan, int amoeba, int fromSquare, int milliseconds);

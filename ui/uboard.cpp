@@ -152,6 +152,7 @@ void UBoard::SetPlaying(bool playing) {
         message_.clear();
         strip_->Question->ShowMessage(QString(), 0);
         strip_->Question->ShowClan(0);
+        strip_->Environment->Clear();
         strip_->Clans->ShowAll(true);
     } else {
         strip_->Start->txtReplay->clear();

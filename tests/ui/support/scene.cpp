@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/ui/support/scene.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+#include <numeric>
+
+#include "model/runtime_error.h"
+#include "rules/ask.h"
+#include "tests/support/game_fixture.h"
+#include "ui/piece_layout.h"
+#include "ui/puddle_view.h"
+#include "ui/uboard.h"
+
+namespace plasmos::testing {
+
+Scene::Scene(const std::vector<SavedValue>& saved) {
+    ForgetGame();
+    files_ = std::make_unique<DataFolder>(QString(folder_.path() + QStringLiteral("/data")).toStdString());
+    settings_ = std::make_unique<QtSettings>(folder_.path() + QStringLiteral("/settings.ini"));
+    for (const SavedValue& value : saved) {
+        settings_->Save(value.Section, value.Key, value.Value);
+    }
+    files_->MakeFolder();
+    game.Files = files_.get();
+    game.Settings = settings_.get();
+    Open();
+}
+
+Scene::~Scene() {
+    board_.reset();
+    ForgetGame();
+}
+
+void Scene::Open() {
+    board_ = std::make_unique<UBoard>();
+    board_->SetSpeed(0);
+    board_->OnQuestion = [this](Question& question) { Answer(question); };
+    board_->show();
+    board_->activateWindow();
+    QCoreApplication::processEvents();
+}
+
+void Scene::Reopen() {
+    board_->close();
+    board_.reset();
+    game.Window = nullptr;
+    Open();
+}
+
+PuddleView& Scene::Puddle() {
+    return *board_->findChild<PuddleView*>();
+}
+
+QString Scene::FileText(std::string_view name) const {
+    QFile file(ToQt(files_->PathOf(name)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+}
+
+Scene& Scene::Then(QuestionKind kind, std::function<void()> act) {
+    steps_.push_back({kind, std::nullopt, std::move(act)});
+    return *this;
+}
+
+Scene& Scene::ThenYes(std::string text) {
+    steps_.push_back({QuestionKind::YesNo, std::move(text), [this] { Click(QStringLiteral("yesb")); }});
+    return *this;
+}
+
+Scene& Scene::ThenNo(std::string text) {
+    steps_.push_back({QuestionKind::YesNo, std::move(text), [this] { Click(QStringLiteral("nob")); }});
+    return *this;
+}
+
+Scene& Scene::ThenBox(std::string text) {
+    steps_.push_back({QuestionKind::Box, std::move(text), [this] { Click(QStringLiteral("okb")); }});
+    return *this;
+}
+
+Scene& Scene::ThenSquare(std::vector<int> offered, int square) {
+    return Then(QuestionKind::Square, [this, offered = std::move(offered), square] {
+        if (Puddle().Offered() != offered) {
+            std::string squares;
+            for (const int one : Puddle().Offered()) {
+                squares += Concat(" ", one);
+            }
+            Fail("the squares that glow are" + squares);
+            return;
+        }
+        ClickSquare(square);
+    });
+}
+
+void Scene::Fail(const std::string& what) {
+    if (fault_.empty()) {
+        fault_ = what;
+    }
+    board_->EndProgram();
+}
+
+int Scene::Asked() const {
+    return std::accumulate(std::begin(asked_), std::end(asked_), 0);
+}
+
+void Scene::Roll(std::vector<int> rolls) {
+    tape_ = std::make_unique<DiceTape>(std::move(rolls));
+    game.Tape = tape_.get();
+}
+
+void Scene::Answer(Question& question) {
+    const auto where = [&] {
+        return Concat("question ", Asked(), " (", QuestionKindName(question.Kind), ", turn ", game.Turn, ", \"",
+                      question.Text, "\"): ");
+    };
+    ++asked_[static_cast<std::size_t>(question.Kind)];
+    if (const std::string wrong = WhatIsWrong(*this, question); !wrong.empty()) {
+        Fail(where() + wrong);
+        return;
+    }
+    if (Watch) {
+        Watch(question);
+    }
+    if (next_ == steps_.size()) {
+        policy_ ? policy_(question) : Fail(where() + "nobody expects it");
+        return;
+    }
+    const Step& step = steps_[next_++];
+    if (step.Kind != question.Kind || (step.Text && *step.Text != question.Text)) {
+        Fail(where() +
+             Concat("expected is ", QuestionKindName(step.Kind), " \"", step.Text.value_or("any text"), "\""));
+        return;
+    }
+    step.Act();
+    if (QTest::currentTestFailed()) {
+        Fail(Concat("at step ", next_));
+    }
+}
+
+void Scene::Run(const std::function<void()>& rule, const char* file, int line) {
+    bool late = false;
+    QTimer watchdog;
+    watchdog.setSingleShot(true);
+    QObject::connect(&watchdog, &QTimer::timeout, board_.get(), [this, &late] {
+        late = true;
+        const Question* top = board_->TopQuestion();
+        Fail("it does not go on" + (top != nullptr ? ": " + top->Text : std::string()));
+    });
+    watchdog.start(Patience);
+    ended_ = false;
+    try {
+        rule();
+    } catch (const ProgramEnd&) {
+        ended_ = true;
+    } catch (const std::exception& error) {
+        Fail(error.what());
+    }
+    QCoreApplication::processEvents();
+    if (fault_.empty() && next_ != steps_.size()) {
+        fault_ = Concat(steps_.size() - next_, " steps of the person were not asked for, the first at ", next_ + 1);
+    }
+    if (fault_.empty() && !AllRolled()) {
+        fault_ = "not every roll was rolled";
+    }
+    game.Tape = nullptr;
+    tape_.reset();
+    steps_.clear();
+    next_ = 0;
+    if (!fault_.empty()) {
+        QTest::qFail(fault_.c_str(), file, line);
+        fault_.clear();
+    }
+}
+
+QWidget* Scene::Find(const QString& name) {
+    QWidget* best = nullptr;
+    int bestRank = 0;
+    for (QWidget* widget : board_->findChildren<QWidget*>(name)) {
+        const int rank = !widget->isVisible() ? 1 : widget->isEnabled() ? 3 : 2;
+        if (rank > bestRank) {
+            best = widget;
+            bestRank = rank;
+        }
+    }
+    return best;
+}
+
+bool Scene::Sees(const QString& name) {
+    const QWidget* widget = Find(name);
+    return widget != nullptr && widget->isVisible();
+}
+
+bool Scene::Enabled(const QString& name) {
+    const QWidget* widget = Find(name);
+    return widget != nullptr && widget->isEnabled();
+}
+
+QString Scene::Text(const QString& name) {
+    QWidget* widget = Find(name);
+    if (const auto* label = qobject_cast<QLabel*>(widget)) {
+        return label->text();
+    }
+    if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        return button->text();
+    }
+    const auto* field = qobject_cast<QLineEdit*>(widget);
+    return field != nullptr ? field->text() : QStringLiteral("no control named ") + name;
+}
+
+bool Scene::Ticked(const QString& name) {
+    const auto* button = qobject_cast<QAbstractButton*>(Find(name));
+    return button != nullptr && button->isChecked();
+}
+
+void Scene::Click(const QString& name, Qt::MouseButton button) {
+    QWidget* widget = Find(name);
+    if (widget == nullptr || !widget->isVisible()) {
+        Fail("there is no " + name.toStdString() + " to click");
+        return;
+    }
+    QTest::mouseClick(widget, button);
+}
+
+void Scene::Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* widget = Find(name);
+    if (widget == nullptr || !widget->isVisible()) {
+        Fail("there is no " + name.toStdString() + " for a key");
+        return;
+    }
+    QTest::keyClick(widget, key, modifiers);
+}
+
+void Scene::Type(const QString& name, const QString& text) {
+    auto* field = qobject_cast<QLineEdit*>(Find(name));
+    if (field == nullptr || !field->isVisible() || !field->isEnabled()) {
+        Fail("there is no " + name.toStdString() + " to type into");
+        return;
+    }
+    field->setFocus();
+    field->selectAll();
+    if (text.isEmpty()) {
+        QTest::keyClick(field, Qt::Key_Delete);
+    } else {
+        QTest::keyClicks(field, text);
+    }
+}
+
+void Scene::ClickSquare(int square, Qt::MouseButton button) {
+    const QPointF middle = SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
+    QTest::mouseClick(&Puddle(), button, Qt::NoModifier, Puddle().PointAt(middle).toPoint());
+}
+
+QAction* Scene::Item(const QString& name) {
+    return board_->findChild<QAction*>(name);
+}
+
+void Scene::Menu(const QString& name) {
+    QAction* item = Item(name);
+    if (item == nullptr) {
+        Fail("there is no menu item " + name.toStdString());
+        return;
+    }
+    item->trigger();
+}
+
+}  // namespace plasmos::testing

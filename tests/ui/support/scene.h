@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/dice.h"
+#include "model/game_files.h"
+#include "model/game_state.h"
+#include "model/question.h"
+#include "ui/palette.h"
+#include "ui/qt_settings.h"
+
+namespace plasmos {
+class PuddleView;
+class UBoard;
+}  // namespace plasmos
+
+namespace plasmos::testing {
+
+/// A setting that is there before the window opens.
+struct SavedValue {
+    const char* Section;
+    const char* Key;
+    std::string Value;
+};
+
+/// The window of a test, with a data folder and settings of its own, and a person before it who
+/// answers step by step. At every question that opens the window is compared with the question.
+class Scene {
+public:
+    explicit Scene(const std::vector<SavedValue>& saved = {});
+    ~Scene();
+    Scene(const Scene&) = delete;
+    Scene& operator=(const Scene&) = delete;
+
+    UBoard& Board() { return *board_; }
+    PuddleView& Puddle();
+    QtSettings& Settings() { return *settings_; }
+    DataFolder& Files() { return *files_; }
+    QString Folder() const { return folder_.path(); }
+    /// Text of a file of the data folder, empty where it is missing.
+    QString FileText(std::string_view name) const;
+    /// Closes the window and opens another one with the same settings.
+    void Reopen();
+
+    // ---- the person ----
+    /// The next question is of this kind, and this is what the person does about it.
+    Scene& Then(QuestionKind kind, std::function<void()> act);
+    /// The next question has this text and is answered by a button.
+    Scene& ThenYes(std::string text);
+    Scene& ThenNo(std::string text);
+    /// The next question offers these squares; one of them is clicked.
+    Scene& ThenSquare(std::vector<int> offered, int square);
+    /// The next message box has this text; its OK is clicked.
+    Scene& ThenBox(std::string text);
+    /// Answers whatever the steps do not.
+    void AnswerBy(std::function<void(Question&)> policy) { policy_ = std::move(policy); }
+    /// Called at every question, before it is answered.
+    std::function<void(Question&)> Watch;
+
+    /// Runs a rule, or anything else that asks, to its end. A step that fails, a question nobody
+    /// expects, and steps nobody asked for are failures of the test.
+    void Run(const std::function<void()>& rule, const char* file, int line);
+    /// What ended the rule early was the end of the program.
+    bool WasEnded() const { return ended_; }
+    /// Longest time a rule may take, in milliseconds.
+    int Patience = 30000;
+    /// Questions asked so far, by kind.
+    int Asked(QuestionKind kind) const { return asked_[static_cast<std::size_t>(kind)]; }
+    int Asked() const;
+    /// Rolls instead of the dice until the next call.
+    void Roll(std::vector<int> rolls);
+    bool AllRolled() const { return !tape_ || tape_->AtEnd(); }
+
+    // ---- looking and touching, by the controls' names ----
+    /// The control of a name: an enabled one that is in sight before one in sight before any.
+    QWidget* Find(const QString& name);
+    bool Sees(const QString& name);
+    bool Enabled(const QString& name);
+    /// The text a control shows.
+    QString Text(const QString& name);
+    bool Ticked(const QString& name);
+    void Click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+    void Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Replaces the text of a field.
+    void Type(const QString& name, const QString& text);
+    void ClickSquare(int square, Qt::MouseButton button = Qt::LeftButton);
+    /// Chooses an item of the menus.
+    void Menu(const QString& name);
+    class QAction* Item(const QString& name);
+
+    void Fail(const std::string& what);
+
+private:
+    struct Step {
+        QuestionKind Kind;
+        std::optional<std::string> Text;
+        std::function<void()> Act;
+    };
+
+    void Open();
+    void Answer(Question& question);
+
+    QTemporaryDir folder_;
+    std::unique_ptr<DataFolder> files_;
+    std::unique_ptr<QtSettings> settings_;
+    std::unique_ptr<UBoard> board_;
+    std::unique_ptr<DiceTape> tape_;
+    std::vector<Step> steps_;
+    std::size_t next_ = 0;
+    std::function<void(Question&)> policy_;
+    std::string fault_;
+    int asked_[8] = {};
+    bool ended_ = false;
+};
+
+/// Compares what the window shows with its topmost question and the state; the first difference.
+std::string WhatIsWrong(Scene& scene, Question& question);
+
+/// Runs the tests of a class off the screen, away from the user's own settings.
+template <class Tests>
+int RunWindowTests(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    PrepareApplication(application);
+    Tests tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+
+}  // namespace plasmos::testing
+
+/// Runs something that asks; a failure ends the test function.
+#define PLAY(scene, ...)                                       \
+    do {                                                       \
+        (scene).Run([&] { __VA_ARGS__; }, __FILE__, __LINE__); \
+        if (QTest::currentTestFailed()) {                      \
+            return;                                            \
+        }                                                      \
+    } while (false)
