@@ -120,7 +120,7 @@ void UBoard::watch_Click() {
 }
 
 // The rules run in here. What they throw stays in here too: nothing may pass through Qt.
-void UBoard::Play(void (*play)()) {
+void UBoard::Play(const std::function<void()>& play) {
     if (playing_ || options_ != nullptr || wait_.Ended()) {
         return;
     }

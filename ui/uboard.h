@@ -41,6 +41,8 @@ public:
     /// Plays one game of computer clans only.
     void watch_Click();
     bool Playing() const { return playing_; }
+    /// Runs a game, or a part of one, the way the start buttons do.
+    void Play(const std::function<void()>& play);
 
     /// Pauses and animations: 1 as they are meant, 0 none.
     void SetSpeed(double factor) { speed_ = factor; }
@@ -94,7 +96,6 @@ private:
 
     // uboard.cpp: the window and its games
     void BuildStrip();
-    void Play(void (*game)());
     void SetPlaying(bool playing);
     void LoadWindow();
     void SaveWindow();

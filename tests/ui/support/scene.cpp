@@ -6,9 +6,12 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QTextEdit>
 #include <QTimer>
 #include <numeric>
 
+#include "model/presentation.h"
 #include "model/runtime_error.h"
 #include "rules/ask.h"
 #include "tests/support/game_fixture.h"
@@ -17,6 +20,26 @@
 #include "ui/uboard.h"
 
 namespace plasmos::testing {
+
+namespace {
+
+/// A position that a test has set up, as the window shows it in the middle of a game.
+void ShowPosition() {
+    Presentation& board = Board();
+    board.StartLog("Game: test");
+    board.ShowTurn();
+    board.ShowDrift();
+    board.ShowUV();
+    board.ShowOrder();
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        board.ShowBP(clan);
+        board.ShowGenes(clan);
+    }
+    board.ShowCurrentClan(game.CurPlayer);
+    board.DrawBoard();
+}
+
+}  // namespace
 
 Scene::Scene(const std::vector<SavedValue>& saved) {
     ForgetGame();
@@ -59,6 +82,18 @@ PuddleView& Scene::Puddle() {
 QString Scene::FileText(std::string_view name) const {
     QFile file(ToQt(files_->PathOf(name)));
     return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+}
+
+QStringList Scene::Log() {
+    QStringList lines = board_->findChild<QTextEdit*>(QStringLiteral("txtLog"))->toPlainText().split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        for (int clan = 1; clan <= MaxClans; ++clan) {
+            if (line.startsWith(SignCharacter(clan) + QLatin1Char(' '))) {
+                line.remove(0, SignCharacter(clan).size() + 1);
+            }
+        }
+    }
+    return lines;
 }
 
 Scene& Scene::Then(QuestionKind kind, std::function<void()> act) {
@@ -175,6 +210,25 @@ void Scene::Run(const std::function<void()>& rule, const char* file, int line) {
     }
 }
 
+void Scene::RunPhase(const std::function<void()>& rule, const char* file, int line) {
+    std::exception_ptr thrown;
+    Run(
+        [&] {
+            board_->Play([&] {
+                ShowPosition();
+                try {
+                    rule();
+                } catch (...) {
+                    thrown = std::current_exception();
+                }
+            });
+            if (thrown) {
+                std::rethrow_exception(thrown);
+            }
+        },
+        file, line);
+}
+
 QWidget* Scene::Find(const QString& name) {
     QWidget* best = nullptr;
     int bestRank = 0;
@@ -224,6 +278,17 @@ void Scene::Click(const QString& name, Qt::MouseButton button) {
     QTest::mouseClick(widget, button);
 }
 
+void Scene::DoubleClick(QWidget* widget, QPoint point) {
+    const QPointF place = point.x() < 0 ? widget->rect().center() : point;
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
+                                    QEvent::MouseButtonRelease}) {
+        const bool up = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, up ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+}
+
 void Scene::Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* widget = Find(name);
     if (widget == nullptr || !widget->isVisible()) {
@@ -233,18 +298,26 @@ void Scene::Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifier
     QTest::keyClick(widget, key, modifiers);
 }
 
-void Scene::Type(const QString& name, const QString& text) {
+QLineEdit* Scene::FieldToFill(const QString& name) {
     auto* field = qobject_cast<QLineEdit*>(Find(name));
     if (field == nullptr || !field->isVisible() || !field->isEnabled()) {
         Fail("there is no " + name.toStdString() + " to type into");
-        return;
+        return nullptr;
     }
     field->setFocus();
     field->selectAll();
-    if (text.isEmpty()) {
-        QTest::keyClick(field, Qt::Key_Delete);
-    } else {
-        QTest::keyClicks(field, text);
+    return field;
+}
+
+void Scene::Type(const QString& name, const QString& text) {
+    if (QLineEdit* field = FieldToFill(name); field != nullptr) {
+        text.isEmpty() ? QTest::keyClick(field, Qt::Key_Delete) : QTest::keyClicks(field, text);
+    }
+}
+
+void Scene::Paste(const QString& name, const QString& text) {
+    if (QLineEdit* field = FieldToFill(name); field != nullptr) {
+        field->insert(text);
     }
 }
 

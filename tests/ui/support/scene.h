@@ -18,6 +18,9 @@
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
 
+class QAction;
+class QLineEdit;
+
 namespace plasmos {
 class PuddleView;
 class UBoard;
@@ -69,6 +72,8 @@ public:
     /// Runs a rule, or anything else that asks, to its end. A step that fails, a question nobody
     /// expects, and steps nobody asked for are failures of the test.
     void Run(const std::function<void()>& rule, const char* file, int line);
+    /// Runs a rule on the position the test has set up, as a part of a game.
+    void RunPhase(const std::function<void()>& rule, const char* file, int line);
     /// What ended the rule early was the end of the program.
     bool WasEnded() const { return ended_; }
     /// Longest time a rule may take, in milliseconds.
@@ -89,13 +94,20 @@ public:
     QString Text(const QString& name);
     bool Ticked(const QString& name);
     void Click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+    /// What the window system sends for a double click: press, release, double click, release.
+    void DoubleClick(QWidget* widget, QPoint point = {-1, -1});
     void Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Replaces the text of a field.
     void Type(const QString& name, const QString& text);
+    /// Replaces the text of a field at one stroke, as from the clipboard.
+    void Paste(const QString& name, const QString& text);
     void ClickSquare(int square, Qt::MouseButton button = Qt::LeftButton);
     /// Chooses an item of the menus.
     void Menu(const QString& name);
-    class QAction* Item(const QString& name);
+    QAction* Item(const QString& name);
+    /// Lines of the game log, without signs and headings' layout.
+    QStringList Log();
+    bool HasLogLine(const QString& line) { return Log().contains(line); }
 
     void Fail(const std::string& what);
 
@@ -107,6 +119,7 @@ private:
     };
 
     void Open();
+    QLineEdit* FieldToFill(const QString& name);
     void Answer(Question& question);
 
     QTemporaryDir folder_;
@@ -150,4 +163,13 @@ int RunWindowTests(int argc, char** argv) {
         if (QTest::currentTestFailed()) {                      \
             return;                                            \
         }                                                      \
+    } while (false)
+
+/// The same for a rule on a position.
+#define PHASE(scene, ...)                                           \
+    do {                                                            \
+        (scene).RunPhase([&] { __VA_ARGS__; }, __FILE__, __LINE__); \
+        if (QTest::currentTestFailed()) {                           \
+            return;                                                 \
+        }                                                           \
     } while (false)
