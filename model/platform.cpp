@@ -56,10 +56,6 @@ double SecondsSinceMidnight() {
     return local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec + part.count();
 }
 
-bool HasUpDownControls() {
-    return true;
-}
-
 void SleepMilliseconds(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
