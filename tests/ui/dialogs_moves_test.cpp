@@ -1,0 +1,465 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What a person is asked while its amoebas move: drift and offer, the squares to choose from, the
+// tentacle, hitch-hikers.
+
+#include <QAction>
+#include <QLabel>
+#include <QTimer>
+
+#include "model/consistency.h"
+#include "rules/move_amoeba.h"
+#include "rules/movement.h"
+#include "tests/ui/support/position.h"
+#include "ui/puddle_view.h"
+#include "ui/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+const std::string Pay = "Would C1 like to pay 1BP to attempt to move elsewhere?";
+const std::string Free = "Would C1 like to attempt to move elsewhere?";
+const std::string Stays = "C1 will remain in 7.\n";
+const std::string IntoEight = "C1 will drift into 8.\n";
+
+/// One amoeba's move: what it has, what is asked and answered, where it ends.
+struct MoveRow {
+    const char* Name;
+    const char* Genes;
+    int Drift;
+    int BP;
+    std::vector<std::string> Questions;
+    std::string Answers;  ///< "y" and "n" for the questions in turn
+    std::vector<int> Rolls;
+    std::vector<int> Offered;  ///< squares; empty: none is asked for
+    int Chosen;
+    std::string Told;  ///< a line of the log; empty: none
+    int Ends;
+    int BPLeft;
+};
+
+// The last roll of a real move finds the spot in the square.
+const MoveRow Moves[] = {
+    {"drifts", "", 1, 1, {IntoEight + Pay}, "n", {5}, {}, 0, "", 8, 1},
+    {"drifts down", "", 5, 1, {"C1 will drift into 12.\n" + Pay}, "n", {5}, {}, 0, "", 12, 1},
+    {"remains", "", 0, 1, {Stays + Pay}, "n", {}, {}, 0, "", 7, 1},
+    {"is told where it drifts", "", 1, 0, {}, "", {5}, {}, 0, "C1 will drift into 8.", 8, 0},
+    {"is told that it remains", "", 0, 0, {}, "", {}, {}, 0, "C1 will remain in 7.", 7, 0},
+    {"moves by die instead",
+     "",
+     1,
+     1,
+     {IntoEight + Pay},
+     "y",
+     {2, 5},
+     {},
+     0,
+     "Amoeba 1 will move Down instead.",
+     12,
+     0},
+    {"moves by die anyway", "", 1, 1, {IntoEight + Pay}, "y", {1, 5}, {}, 0, "Amoeba 1 will move Right anyway.", 8, 0},
+    {"stays by die", "", 1, 2, {IntoEight + Pay}, "y", {5}, {}, 0, "Amoeba 1 will move in place instead.", 7, 1},
+    {"a six chooses",
+     "",
+     1,
+     1,
+     {IntoEight + Pay},
+     "y",
+     {6, 5},
+     {2, 6, 8, 12},
+     6,
+     "Amoeba 1 will move where it wants instead.",
+     6,
+     0},
+    {"a six with Holding may stay", "hol", 1, 1, {IntoEight + Pay}, "y", {6}, {2, 6, 7, 8, 12}, 7, "", 7, 0},
+    {"Streamlining asks without a price",
+     "str",
+     1,
+     0,
+     {IntoEight + Free},
+     "y",
+     {4, 5},
+     {},
+     0,
+     "Amoeba 1 will move Up instead.",
+     2,
+     0},
+    {"Movement 2 chooses", "mv2", 1, 1, {IntoEight + Pay}, "y", {5}, {2, 6, 8, 12}, 2, "", 2, 0},
+    {"Movement 1 chooses between two", "mv1", 1, 1, {IntoEight + Pay}, "y", {2, 3, 5}, {6, 12}, 6, "", 6, 0},
+    {"Movement 1 with two equal dice",
+     "mv1",
+     1,
+     1,
+     {IntoEight + Pay},
+     "y",
+     {2, 2, 5},
+     {},
+     0,
+     "C1 will move to 12 instead",
+     12,
+     0},
+    {"Movement 1 stays twice", "mv1", 1, 1, {IntoEight + Pay}, "y", {5, 5}, {}, 0, "C1 will stay in 7 instead", 7, 0},
+    {"Movement 1 with a six", "mv1", 1, 1, {IntoEight + Pay}, "y", {1, 6, 5}, {2, 6, 8, 12}, 12, "", 12, 0},
+    {"Movement 1 with a first six", "mv1", 1, 1, {IntoEight + Pay}, "y", {6, 1, 5}, {2, 6, 8, 12}, 12, "", 12, 0},
+    {"Speed tries again for nothing",
+     "spe",
+     1,
+     1,
+     {IntoEight + Pay, Free},
+     "yy",
+     {2, 5, 1, 5},
+     {},
+     0,
+     "Amoeba 1 will move Right instead.",
+     13,
+     0},
+    {"Speed declines the second time", "spe", 1, 1, {IntoEight + Pay, Free}, "yn", {2, 5}, {}, 0, "", 12, 0},
+    {"Speed that drifts is not asked again", "spe", 1, 1, {IntoEight + Pay}, "n", {5}, {}, 0, "", 8, 1},
+    {"Persistence tries again for nothing",
+     "per",
+     0,
+     1,
+     {Stays + Pay, Free},
+     "yy",
+     {1, 5, 1, 5},
+     {},
+     0,
+     "Amoeba 1 will move Right instead.",
+     9,
+     0},
+    {"drifts where it wants", "", WhereItWants, 1, {Pay}, "n", {5}, {2, 6, 7, 8, 12}, 12, "", 12, 1},
+    {"drifts where it wants, without BP", "", WhereItWants, 0, {}, "", {}, {2, 6, 7, 8, 12}, 7, "", 7, 0},
+};
+
+}  // namespace
+
+class DialogsMovesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void moves_data();
+    void moves();
+    void theEdgeHoldsIt();
+    void textOfTheChoice();
+    void wrongSquaresAreIgnored();
+    void clansActInReverseOrder();
+    void theOutlineFollows();
+
+    void theTentacleCarries();
+    void theTentacleCarriesNothing_data();
+    void theTentacleCarriesNothing();
+    void theTentacleDrags();
+    void theTentacleDragsOneOfMany();
+    void theTentacleByItself();
+
+    void hitchHikers();
+    void noHitchHiker_data();
+    void noHitchHiker();
+    void theWindowLosesTheFocus();
+};
+
+void DialogsMovesTest::moves_data() {
+    QTest::addColumn<int>("number");
+    for (int number = 0; number < static_cast<int>(std::size(Moves)); ++number) {
+        QTest::newRow(Moves[number].Name) << number;
+    }
+}
+
+void DialogsMovesTest::moves() {
+    QFETCH(int, number);
+    const MoveRow& row = Moves[number];
+    PositionScene scene;
+    for (const QString& code : QString::fromLatin1(row.Genes).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        Give(3, code.toStdString());
+    }
+    game.Drift = row.Drift;
+    game.BP[3] = row.BP;
+    scene.Roll(row.Rolls);
+    for (std::size_t i = 0; i < row.Questions.size(); ++i) {
+        row.Answers[i] == 'y' ? scene.ThenYes(row.Questions[i]) : scene.ThenNo(row.Questions[i]);
+    }
+    if (!row.Offered.empty()) {
+        scene.ThenSquare(row.Offered, row.Chosen);
+    }
+    PHASE(scene, MovementPhase());
+    QCOMPARE(SquareOf(3, 1), row.Ends);
+    QCOMPARE(game.BP[3], row.BPLeft);
+    QCOMPARE(scene.Text(QStringLiteral("bplab2")), QString::number(row.BPLeft));
+    QVERIFY2(row.Told.empty() || scene.HasLogLine(ToQt(row.Told)), qPrintable(scene.Log().join(QLatin1Char('|'))));
+    QVERIFY(scene.HasLogLine(QStringLiteral("C1 starves in %1").arg(row.Ends)));
+    QCOMPARE(CheckConsistency(), std::string());
+}
+
+void DialogsMovesTest::theEdgeHoldsIt() {
+    PositionScene scene;
+    LiftPiece(3, 1);
+    PutPiece(3, 1, 10, 1);
+    game.Drift = 1;
+    game.BP[3] = 1;
+    scene.ThenNo("C1 will remain in 10.\n" + Pay);
+    PHASE(scene, MovementPhase());
+    QCOMPARE(SquareOf(3, 1), 10);
+}
+
+void DialogsMovesTest::textOfTheChoice() {
+    PositionScene scene;
+    game.BP[3] = 1;
+    scene.Roll({6, 5});
+    scene.ThenYes(Stays + Pay);
+    scene.Then(QuestionKind::Square, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("msglab")),
+                 QStringLiteral("Amoeba 1 will move where it wants instead.\nChoose a square for C1 to Move into:"));
+        scene.ClickSquare(2);
+    });
+    PHASE(scene, MovementPhase());
+    QCOMPARE(SquareOf(3, 1), 2);
+}
+
+void DialogsMovesTest::wrongSquaresAreIgnored() {
+    PositionScene scene;
+    Give(3, "mv2");
+    game.BP[3] = 1;
+    SetBoard(5, 5, "6:");
+    scene.ThenYes(Stays + Pay);
+    scene.Then(QuestionKind::Square, [&] {
+        QCOMPARE(scene.Puddle().Offered(), (std::vector<int>{2, 7, 8, 12}));
+        for (const int square : {1, 6, 13, 25, 3}) {
+            scene.ClickSquare(square);
+            QVERIFY(game.WantSquare);
+        }
+        QTest::mouseClick(scene.Find(QStringLiteral("yesb")), Qt::LeftButton);
+        QTest::keyClick(&scene.Puddle(), Qt::Key_Y);
+        QCOMPARE(SquareOf(3, 1), 7);
+    });
+    bool again = false;
+    scene.AnswerBy([&](Question&) { again = true; });
+    QTimer::singleShot(250, &scene.Board(), [&] {
+        QVERIFY2(scene.Board().TopQuestion() != nullptr, "a wrong square has answered");
+        QCOMPARE(scene.Board().TopQuestion()->Kind, QuestionKind::Square);
+        scene.ClickSquare(12);
+    });
+    PHASE(scene, MovementPhase());
+    QVERIFY(!again);
+    QCOMPARE(SquareOf(3, 1), 12);
+}
+
+void DialogsMovesTest::clansActInReverseOrder() {
+    PositionScene scene;
+    Person(2);
+    Put(2, 1, 1);
+    Put(2, 2, 2);
+    game.PlayOrder[1] = 3;
+    game.PlayOrder[3] = 1;
+    game.BP[2] = game.BP[3] = 1;
+    scene.Then(QuestionKind::YesNo, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("playerlab")), QStringLiteral("Player 2"));
+        QVERIFY(scene.Text(QStringLiteral("msglab")).startsWith(QStringLiteral("B1 will remain in 1.")));
+        scene.Click(QStringLiteral("nob"));
+    });
+    scene.ThenNo("B2 will remain in 2.\nWould B2 like to pay 1BP to attempt to move elsewhere?");
+    scene.ThenNo(Stays + Pay);
+    PHASE(scene, MovementPhase());
+}
+
+void DialogsMovesTest::theOutlineFollows() {
+    PositionScene scene;
+    game.BP[3] = 1;
+    QImage outlined;
+    scene.Then(QuestionKind::YesNo, [&] {
+        outlined = scene.Puddle().grab().toImage();
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, MovementPhase());
+    QVERIFY2(scene.Puddle().grab().toImage() != outlined, "the acting piece looks like any other");
+}
+
+void DialogsMovesTest::theTentacleCarries() {
+    PositionScene scene;
+    Give(3, "ten");
+    Feed(7, {1, 3, 2, 0});
+    scene.Then(QuestionKind::Food, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("dialogTitle")), QStringLiteral("Carry food out of square 7"));
+        QVERIFY(scene.Enabled(QStringLiteral("fdtxt3")));
+        QVERIFY(!scene.Sees(QStringLiteral("legallab")) && !scene.Sees(QStringLiteral("paropt")));
+        QVERIFY(!scene.Sees(QStringLiteral("victimb")) && !scene.Sees(QStringLiteral("suggestb")));
+        scene.Type(QStringLiteral("fdtxt2"), QStringLiteral("3"));
+        scene.Click(QStringLiteral("eatb"));
+    });
+    scene.ThenBox("You may not carry more than 2 food.");
+    scene.Then(QuestionKind::Food, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("msglab")), QStringLiteral("Please try again."));
+        QCOMPARE(scene.Text(QStringLiteral("fdtxt2")), QStringLiteral("3"));
+        scene.Type(QStringLiteral("fdtxt2"), QStringLiteral("0"));
+        scene.Type(QStringLiteral("fdtxt1"), QStringLiteral("2"));
+        scene.Click(QStringLiteral("eatb"));
+    });
+    scene.ThenBox("You may not carry out more food than there is in the square!");
+    scene.Then(QuestionKind::Food, [&] {
+        scene.Type(QStringLiteral("fdtxt1"), QStringLiteral("1"));
+        scene.Type(QStringLiteral("fdtxt3"), QStringLiteral("1"));
+        scene.Click(QStringLiteral("eatb"));
+    });
+    PHASE(scene, MoveAmoeba(3, 1, 8));
+    QCOMPARE(FoodOn(7), (std::vector<int>{0, 3, 1, 0}));
+    QCOMPARE(FoodOn(8), (std::vector<int>{1, 0, 1, 0}));
+    QCOMPARE(SquareOf(3, 1), 8);
+}
+
+void DialogsMovesTest::theTentacleCarriesNothing_data() {
+    QTest::addColumn<bool>("close");
+    QTest::newRow("zero is an answer") << false;
+    QTest::newRow("the dialog is closed") << true;
+}
+
+void DialogsMovesTest::theTentacleCarriesNothing() {
+    QFETCH(bool, close);
+    PositionScene scene;
+    Give(3, "ten");
+    Feed(7, {1, 3, 2, 0});
+    scene.Then(QuestionKind::Food, [&] {
+        if (close) {
+            scene.Type(QStringLiteral("fdtxt1"), QStringLiteral("1"));
+        }
+        scene.Click(close ? QStringLiteral("closeb") : QStringLiteral("eatb"));
+    });
+    PHASE(scene, MoveAmoeba(3, 1, 8));
+    QCOMPARE(FoodOn(7), (std::vector<int>{1, 3, 2, 0}));
+    QCOMPARE(SquareOf(3, 1), 8);
+}
+
+void DialogsMovesTest::theTentacleDrags() {
+    PositionScene scene;
+    Give(3, "ten");
+    Put(3, 4, 7);
+    game.BP[3] = 1;
+    scene.ThenYes("Would C1 like to pay 1BP to drag another amoeba of its clan along?");
+    PHASE(scene, MoveAmoeba(3, 1, 8));
+    QCOMPARE(SquareOf(3, 4), 8);
+    QCOMPARE(game.BP[3], 0);
+    QVERIFY(scene.HasLogLine(QStringLiteral("C4 holding on to C1")));
+}
+
+void DialogsMovesTest::theTentacleDragsOneOfMany() {
+    PositionScene scene;
+    Give(3, "ten");
+    Put(3, 4, 7);
+    Put(3, 6, 7);
+    Put(3, 2, 9);
+    game.BP[3] = 2;
+    scene.ThenYes("Would C1 like to pay 1BP to drag another amoeba of its clan along?");
+    scene.Then(QuestionKind::Amoeba, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("amlab")), QStringLiteral("Which amoeba shall be dragged along?"));
+        QVERIFY(!scene.Enabled(QStringLiteral("amopt1")) && !scene.Enabled(QStringLiteral("amopt2")));
+        QCOMPARE(scene.Text(QStringLiteral("amopt4")), QStringLiteral("4  C4"));
+        QTest::mouseClick(scene.Find(QStringLiteral("amopt2")), Qt::LeftButton);
+        QCOMPARE(game.Reply, -1);
+        scene.Click(QStringLiteral("amopt6"));
+    });
+    scene.ThenYes("Would C1 like to pay 1BP to drag another amoeba of its clan along?");
+    scene.Then(QuestionKind::Amoeba, [&] { scene.Click(QStringLiteral("amoptb")); });
+    PHASE(scene, MoveAmoeba(3, 1, 8); Put(3, 5, 8); Put(3, 7, 8); MoveAmoeba(3, 1, 13));
+    QCOMPARE(SquareOf(3, 6), 8);
+    QCOMPARE(SquareOf(3, 4), 7);
+    QCOMPARE(SquareOf(3, 1), 13);
+    QCOMPARE(game.BP[3], 1);
+}
+
+void DialogsMovesTest::theTentacleByItself() {
+    PositionScene scene;
+    Give(3, "ten");
+    game.AutoFlags[3][2] = true;
+    Feed(7, {1, 0, 0, 0});
+    Feed(8, {0, 1, 0, 1});
+    PHASE(scene, MoveAmoeba(3, 1, 8));
+    QCOMPARE(scene.Asked(), 0);
+    QCOMPARE(FoodOn(8), (std::vector<int>{1, 1, 0, 1}));
+}
+
+void DialogsMovesTest::hitchHikers() {
+    PositionScene scene;
+    Give(3, "hol");
+    Put(3, 4, 7);
+    Put(1, 1, 7);
+    scene.ThenYes(
+        "Player 3: there is an amoeba moving from square 7 to 8\nWould any of your amoebas like to hitch a ride?");
+    scene.Then(QuestionKind::Victim, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("vfamlab")), QStringLiteral("Choose the Hitch-hiker(s):"));
+        QVERIFY2(!scene.Enabled(QStringLiteral("figure0")), "the mover cannot ride on itself");
+        scene.Click(QStringLiteral("figure1"));
+        scene.Click(QStringLiteral("figure2"));
+        QCOMPARE(scene.Text(QStringLiteral("vfamlab")),
+                 QStringLiteral("Choose the Hitch-hiker(s):\n1- C1 (0) of Player 3\n4- C4 (0) of Player 3"));
+        scene.Click(QStringLiteral("figure1"));
+        QCOMPARE(scene.Text(QStringLiteral("vfamlab")),
+                 QStringLiteral("Choose the Hitch-hiker(s):\n4- C4 (0) of Player 3"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8));
+    QCOMPARE(SquareOf(1, 1), 8);
+    QCOMPARE(SquareOf(3, 4), 8);
+    QCOMPARE(SquareOf(3, 1), 7);
+    QCOMPARE(scene.Text(QStringLiteral("msglab")), QStringLiteral("C4 holding on to A1"));
+}
+
+void DialogsMovesTest::noHitchHiker_data() {
+    QTest::addColumn<int>("way");
+    QTest::newRow("no") << 0;
+    QTest::newRow("the dialog is closed") << 1;
+    QTest::newRow("unmarked again, then closed") << 2;
+}
+
+void DialogsMovesTest::noHitchHiker() {
+    QFETCH(int, way);
+    PositionScene scene;
+    Give(3, "hol");
+    Put(1, 1, 7);
+    const std::string text =
+        "Player 3: there is an amoeba moving from square 7 to 8\nWould any of your amoebas like to hitch a ride?";
+    if (way == 0) {
+        scene.ThenNo(text);
+    } else {
+        scene.ThenYes(text);
+        scene.Then(QuestionKind::Victim, [&] {
+            scene.Click(QStringLiteral("figure1"));
+            if (way == 2) {
+                scene.Click(QStringLiteral("figure1"));
+                QVERIFY(!scene.Enabled(QStringLiteral("doneb")));
+            }
+            scene.Click(QStringLiteral("closeb"));
+        });
+    }
+    PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8));
+    QCOMPARE(SquareOf(1, 1), 8);
+    QCOMPARE(SquareOf(3, 1), 7);
+}
+
+void DialogsMovesTest::theWindowLosesTheFocus() {
+    PositionScene scene;
+    Give(3, "hol");
+    Put(1, 1, 7);
+    scene.Then(QuestionKind::YesNo, [&] { scene.Click(QStringLiteral("yesb")); });
+    scene.Then(QuestionKind::Victim, [&] {
+        scene.Click(QStringLiteral("figure1"));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QCOMPARE(scene.Text(QStringLiteral("vfamlab")),
+                 QStringLiteral("Choose the Hitch-hiker(s):\n1- C1 (0) of Player 3"));
+        QVERIFY(scene.Enabled(QStringLiteral("doneb")));
+        other.close();
+        scene.Board().activateWindow();
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8));
+    QCOMPARE(SquareOf(3, 1), 8);
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsMovesTest>(argc, argv);
+}
+
+#include "dialogs_moves_test.moc"
