@@ -22,15 +22,11 @@ std::string PrepareDataFolder() {
     }
 }
 
-BoardSize ReadBoardSettings() {
+BoardSize ReadBoardSettings(const SettingsStore& store) {
     BoardSize board;
-    if (game.Settings == nullptr) {
-        return board;
-    }
-    const auto& store = *game.Settings;
     board.Rows = GetNumber(store, "board", "rows", DefaultSide, MinSide, MaxSide);
     board.Cols = GetNumber(store, "board", "cols", DefaultSide, MinSide, MaxSide);
-    if (board.Rows * board.Cols > MaxBoardSquares) {
+    if (board.Rows * board.Cols > MaxBoardSquares || board.Rows * board.Cols < MinFreeSquares) {
         board.Rows = board.Cols = DefaultSide;
     }
     board.Blocks = ParseBlocks(store.Get("board", "blocks", {}), board.Rows * board.Cols);
@@ -39,7 +35,7 @@ BoardSize ReadBoardSettings() {
 }
 
 void LoadBoard() {
-    const BoardSize board = ReadBoardSettings();
+    const BoardSize board = game.Settings != nullptr ? ReadBoardSettings(*game.Settings) : BoardSize{};
     SetBoard(board.Rows, board.Cols, BlocksText(board.Blocks));
 }
 

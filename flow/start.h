@@ -5,6 +5,9 @@
 
 namespace plasmos {
 
+class SettingsStore;
+struct BoardSize;
+
 /// Program start: makes sure that the data folder is there. The answer is what went wrong, with path
 /// and reason, or an empty text. The caller shows it in a message box and the window all the same; a
 /// game started then is refused with the same message.
@@ -15,6 +18,6 @@ std::string PrepareDataFolder();
 void LoadBoard();
 
 /// The board the settings hold, inside the bounds whatever they say.
-struct BoardSize ReadBoardSettings();
+BoardSize ReadBoardSettings(const SettingsStore& store);
 
 }  // namespace plasmos

@@ -2,7 +2,9 @@
 #include "ui/options_model.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "flow/start.h"
 #include "model/encoding.h"
 #include "model/game_files.h"
 #include "model/runtime_error.h"
@@ -31,14 +33,7 @@ std::string CannotSave(const SettingsStore& settings) {
 }  // namespace
 
 OptionsModel::OptionsModel(const SettingsStore& settings) {
-    BoardSize board;
-    board.Rows = GetNumber(settings, "board", "rows", DefaultSide, MinSide, MaxSide);
-    board.Cols = GetNumber(settings, "board", "cols", DefaultSide, MinSide, MaxSide);
-    if (board.Rows * board.Cols > MaxBoardSquares) {
-        board.Rows = board.Cols = DefaultSide;
-    }
-    board.Blocks = ParseBlocks(settings.Get("board", "blocks", {}), board.Rows * board.Cols);
-    TrimBlocks(board);
+    const BoardSize board = ReadBoardSettings(settings);
     rows_ = board.Rows;
     cols_ = board.Cols;
     for (const int square : board.Blocks) {
@@ -89,6 +84,21 @@ std::string OptionsModel::Bounds() const {
     return text;
 }
 
+// A square is blocked once, however many markers a lowered side has brought to it.
+void OptionsModel::MergeMarkers() {
+    std::vector<Marker> kept;
+    for (std::size_t i = 0; i < markers_.size(); ++i) {
+        const bool first = MarkerAt(markers_[i].Left, markers_[i].Top) == static_cast<int>(i) + 1;
+        if (first) {
+            kept.push_back(markers_[i]);
+        }
+    }
+    if (kept.size() != markers_.size()) {
+        picked_ = -1;
+        markers_ = std::move(kept);
+    }
+}
+
 void OptionsModel::SetRows(int rows) {
     while (rows_ < rows && rows_ < MostRows()) {
         ++rows_;
@@ -98,6 +108,7 @@ void OptionsModel::SetRows(int rows) {
         for (Marker& marker : markers_) {
             marker.Top = std::min(marker.Top, (rows_ - 1) * Unit);
         }
+        MergeMarkers();
     }
 }
 
@@ -110,6 +121,7 @@ void OptionsModel::SetCols(int cols) {
         for (Marker& marker : markers_) {
             marker.Left = std::min(marker.Left, (cols_ - 1) * Unit);
         }
+        MergeMarkers();
     }
 }
 

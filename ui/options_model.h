@@ -44,7 +44,7 @@ public:
     std::string Bounds() const;
 
     /// Changes the size step by step; stops at the bounds. A lowered side takes markers beyond it to
-    /// the last row or column.
+    /// the last row or column; those that meet there become one.
     void SetRows(int rows);
     void SetCols(int cols);
     /// Raising puts markers on free squares, lowering takes the last ones.
@@ -71,6 +71,7 @@ public:
 
 private:
     bool OnPicture(int x, int y) const;
+    void MergeMarkers();
     std::string SaveBoard(SettingsStore& settings, GameFiles& files) const;
     std::string SaveNames(SettingsStore& settings) const;
 
