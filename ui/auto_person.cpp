@@ -45,11 +45,18 @@ void AutoPerson::ClickSquare(int square) {
                           static_cast<int>(corner.y()) + SquareUnits / 2);
 }
 
+// Whatever somebody else has typed or chosen before, the dialog comes to an end.
 void AutoPerson::AnswerFood(FoodForm& form) {
-    if (form.Mode != "TENTACLE" && form.SuggestedMenu > 0 && form.AllZero()) {
+    if (form.sfsoptValue) {
+        Click("sfsopt");
+    }
+    if (form.paroptValue) {
+        Click("paropt");
+    }
+    if (form.Mode != "TENTACLE" && form.SuggestedMenu > 0) {
         Click("suggestb");
     }
-    Click("eatb");
+    Click(form.SuggestedMenu > 0 || form.AllZero() ? "eatb" : "closeb");
 }
 
 // Genes are bought one by one while they are cheap; in the other mode the dearest is given up first.
@@ -62,6 +69,15 @@ void AutoPerson::AnswerGenes(GeneForm& form) {
         }
     }
     Click("doneb");
+}
+
+void AutoPerson::AnswerVictim(VictimForm& form) {
+    for (std::size_t i = 0; i < form.Figures.size() && !form.donebEnabled; ++i) {
+        if (form.Figures[i].Markable) {
+            Click(Concat("figure", static_cast<int>(i)).c_str());
+        }
+    }
+    Click(form.donebEnabled ? "doneb" : "closeb");
 }
 
 void AutoPerson::Answer(Question& question) {
@@ -86,15 +102,7 @@ void AutoPerson::Answer(Question& question) {
             return;
         }
         case QuestionKind::Food: AnswerFood(static_cast<FoodForm&>(question)); return;
-        case QuestionKind::Victim:
-            for (std::size_t i = 0; i < static_cast<VictimForm&>(question).Figures.size(); ++i) {
-                if (static_cast<VictimForm&>(question).Figures[i].Markable) {
-                    Click(Concat("figure", static_cast<int>(i)).c_str());
-                    break;
-                }
-            }
-            Click("doneb");
-            return;
+        case QuestionKind::Victim: AnswerVictim(static_cast<VictimForm&>(question)); return;
         case QuestionKind::Genes: AnswerGenes(static_cast<GeneForm&>(question)); return;
         case QuestionKind::Box: Click("okb"); return;
     }

@@ -20,6 +20,7 @@ private:
     void ClickSquare(int square);
     void AnswerFood(class FoodForm& form);
     void AnswerGenes(class GeneForm& form);
+    void AnswerVictim(class VictimForm& form);
 
     UBoard& board_;
     int turns_ = 0;

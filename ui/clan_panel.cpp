@@ -31,6 +31,7 @@ ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
     for (int i = 0; i < MaxClans; ++i) {
         const auto index = static_cast<std::size_t>(i);
         gList[index] = new GeneChips(this, i + 1);
+        gList[index]->setObjectName(QStringLiteral("gList%1").arg(i));
         bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
         orderlab[index] = new PillLabel(this);
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));

@@ -3,7 +3,9 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -41,7 +43,12 @@ void ShowPosition() {
 
 }  // namespace
 
-Scene::Scene(const std::vector<SavedValue>& saved) {
+QString FolderTemplate() {
+    const QString memory = QStringLiteral("/dev/shm");
+    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/plasmos-XXXXXX");
+}
+
+Scene::Scene(const std::vector<SavedValue>& saved) : folder_(FolderTemplate()) {
     ForgetGame();
     files_ = std::make_unique<DataFolder>(QString(folder_.path() + QStringLiteral("/data")).toStdString());
     settings_ = std::make_unique<QtSettings>(folder_.path() + QStringLiteral("/settings.ini"));

@@ -28,6 +28,9 @@ class UBoard;
 
 namespace plasmos::testing {
 
+/// Where the folders of tests are made: in memory, where there is a file system in memory.
+QString FolderTemplate();
+
 /// A setting that is there before the window opens.
 struct SavedValue {
     const char* Section;

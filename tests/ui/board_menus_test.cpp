@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The board window's menus, the labels that lend themselves for a moment, and the window's place.
+
+#include <QAction>
+#include <QLabel>
+#include <QScreen>
+#include <QTimer>
+
+#include "rules/ask.h"
+#include "tests/ui/support/position.h"
+#include "ui/puddle_view.h"
+#include "ui/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+QString Drift() {
+    return QStringLiteral("driftlab");
+}
+
+QString UV() {
+    return QStringLiteral("UVlab");
+}
+
+QTimer* ZyTimer(Scene& scene) {
+    return scene.Board().findChild<QTimer*>(QStringLiteral("zyTimer"));
+}
+
+}  // namespace
+
+class BoardMenusTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void gridlines();
+    void squareNumbers();
+    void difficulty();
+    void victoryAndTwoPlayers();
+    void fastModeIsKept();
+    void automaticEating();
+    void automaticTentacle();
+    void noFlagsForComputerClans();
+    void flagsFollowThePerson();
+
+    void driftLends();
+    void driftGivesBackAtOnce();
+    void uvLends_data();
+    void uvLends();
+    void oneLabelAtATime();
+    void otherButtonsBorrowNothing();
+
+    void thePlaceIsKept();
+    void savedPlaces_data();
+    void savedPlaces();
+    void quit();
+};
+
+void BoardMenusTest::gridlines() {
+    Scene scene;
+    const QImage with = scene.Puddle().grab().toImage();
+    scene.Menu(QStringLiteral("lines_men"));
+    QCOMPARE(scene.Item(QStringLiteral("lines_men"))->text(), QStringLiteral("Replace &Gridlines"));
+    QVERIFY(scene.Puddle().grab().toImage() != with);
+    scene.Menu(QStringLiteral("lines_men"));
+    QCOMPARE(scene.Item(QStringLiteral("lines_men"))->text(), QStringLiteral("Remove &Gridlines"));
+    QCOMPARE(scene.Puddle().grab().toImage(), with);
+}
+
+void BoardMenusTest::squareNumbers() {
+    Scene scene;
+    const QImage without = scene.Puddle().grab().toImage();
+    scene.Menu(QStringLiteral("sqno_men"));
+    QVERIFY(scene.Item(QStringLiteral("sqno_men"))->isChecked());
+    QVERIFY(scene.Puddle().grab().toImage() != without);
+    scene.Menu(QStringLiteral("sqno_men"));
+    QVERIFY(!scene.Item(QStringLiteral("sqno_men"))->isChecked());
+    QCOMPARE(scene.Puddle().grab().toImage(), without);
+}
+
+void BoardMenusTest::difficulty() {
+    Scene scene;
+    QAction* easy = scene.Item(QStringLiteral("easymen"));
+    QAction* normal = scene.Item(QStringLiteral("normmen"));
+    struct Row {
+        QAction* Clicked;
+        bool Normal;
+    };
+    for (const Row& row : {Row{easy, false}, Row{easy, true}, Row{normal, false}, Row{normal, true}, Row{easy, false},
+                           Row{normal, true}}) {
+        row.Clicked->trigger();
+        QCOMPARE(normal->isChecked(), row.Normal);
+        QCOMPARE(easy->isChecked(), !row.Normal);
+        QCOMPARE(game.Menu.normmen, row.Normal);
+    }
+}
+
+void BoardMenusTest::victoryAndTwoPlayers() {
+    Scene scene;
+    for (const bool on : {true, false, true}) {
+        scene.Menu(QStringLiteral("victorymen"));
+        scene.Menu(QStringLiteral("twoplayermen"));
+        QCOMPARE(game.Menu.victorymen, on);
+        QCOMPARE(game.Menu.twoplayermen, on);
+        QCOMPARE(scene.Item(QStringLiteral("victorymen"))->isChecked(), on);
+        QCOMPARE(scene.Item(QStringLiteral("twoplayermen"))->isChecked(), on);
+    }
+    game.RequestedClans = 3;
+    scene.Then(QuestionKind::Square, [&] {
+        QVERIFY(!game.Players[2].IsComputer && !game.Players[3].IsComputer && game.Players[1].IsComputer);
+        scene.Menu(QStringLiteral("leavemen"));
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void BoardMenusTest::fastModeIsKept() {
+    Scene scene;
+    scene.Menu(QStringLiteral("fast_men"));
+    QVERIFY(game.FastMode);
+    scene.Reopen();
+    QVERIFY(scene.Item(QStringLiteral("fast_men"))->isChecked() && game.FastMode);
+    scene.Menu(QStringLiteral("fast_men"));
+    scene.Reopen();
+    QVERIFY(!scene.Item(QStringLiteral("fast_men"))->isChecked() && !game.FastMode);
+}
+
+void BoardMenusTest::automaticEating() {
+    PositionScene scene;
+    scene.Then(QuestionKind::YesNo, [&] {
+        scene.Menu(QStringLiteral("autoeat_men"));
+        QVERIFY(game.AutoFlags[3][1] && scene.Sees(QStringLiteral("autoeatlab")));
+        QVERIFY(scene.Item(QStringLiteral("autoeat_men"))->isChecked());
+        QVERIFY(!game.AutoFlags[3][2] && !scene.Sees(QStringLiteral("autotenlab")));
+        scene.Menu(QStringLiteral("autoeat_men"));
+        QVERIFY(!game.AutoFlags[3][1] && !scene.Sees(QStringLiteral("autoeatlab")));
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, AskYesNo(3, "Really?"));
+}
+
+void BoardMenusTest::automaticTentacle() {
+    PositionScene scene;
+    Give(3, "ten");
+    scene.Then(QuestionKind::YesNo, [&] {
+        QVERIFY(scene.Item(QStringLiteral("autoten_men"))->isEnabled());
+        scene.Menu(QStringLiteral("autoten_men"));
+        QVERIFY(game.AutoFlags[3][2] && scene.Sees(QStringLiteral("autotenlab")));
+        QVERIFY(!game.AutoFlags[3][1]);
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, Board().ShowAutoFlags(3); AskYesNo(3, "Really?"); DiscardGene(GeneNumber("ten"));
+          QVERIFY(!game.AutoFlags[3][2]));
+}
+
+void BoardMenusTest::noFlagsForComputerClans() {
+    PositionScene scene;
+    scene.Then(QuestionKind::YesNo, [&] {
+        game.CurPlayer = 1;
+        scene.Menu(QStringLiteral("autoeat_men"));
+        QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isChecked());
+        QVERIFY(!scene.Sees(QStringLiteral("autoeatlab")));
+        for (int clan = 1; clan <= 4; ++clan) {
+            QVERIFY(!game.AutoFlags[clan][1]);
+        }
+        game.CurPlayer = 3;
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, AskYesNo(3, "Really?"));
+    Scene before;
+    before.Menu(QStringLiteral("autoeat_men"));
+    QVERIFY2(!before.Item(QStringLiteral("autoeat_men"))->isChecked(), "no clan acts before a game");
+}
+
+void BoardMenusTest::flagsFollowThePerson() {
+    PositionScene scene;
+    Person(2);
+    Give(2, "ten");
+    game.AutoFlags[2][1] = true;
+    scene.Then(QuestionKind::YesNo, [&] {
+        QVERIFY(scene.Item(QStringLiteral("autoeat_men"))->isChecked() && scene.Sees(QStringLiteral("autoeatlab")));
+        QVERIFY(scene.Item(QStringLiteral("autoten_men"))->isEnabled());
+        scene.Click(QStringLiteral("nob"));
+    });
+    scene.Then(QuestionKind::YesNo, [&] {
+        QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isChecked() && !scene.Sees(QStringLiteral("autoeatlab")));
+        QVERIFY(!scene.Item(QStringLiteral("autoten_men"))->isEnabled());
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, Board().ShowAutoFlags(2); AskYesNo(2, "Really?"); Board().ShowAutoFlags(3); AskYesNo(3, "Really?"));
+    PHASE(scene, Board().DisableAutoEating());
+    QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isEnabled());
+}
+
+void BoardMenusTest::driftLends() {
+    PositionScene scene;
+    game.Drift = 5;
+    game.ReplayNo = 47.5F;
+    PHASE(scene, QCOMPARE(scene.Text(Drift()), QStringLiteral("Down"));
+          QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5")); QCOMPARE(ZyTimer(scene)->interval(), 3000);
+          QVERIFY(ZyTimer(scene)->isActive()); game.Drift = 1; ZyTimer(scene)->start(1);
+          QTRY_COMPARE(scene.Text(Drift()), QStringLiteral("Right")); QVERIFY(!ZyTimer(scene)->isActive()));
+}
+
+void BoardMenusTest::driftGivesBackAtOnce() {
+    PositionScene scene;
+    game.ReplayNo = 3;
+    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("3")); QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QVERIFY(!ZyTimer(scene)->isActive()));
+}
+
+void BoardMenusTest::uvLends_data() {
+    QTest::addColumn<int>("turn");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("cards to come: 12, 11, 10") << 7 << "11.0";
+    QTest::newRow("cards to come: 11, 10") << 8 << "10.5";
+    QTest::newRow("the last card") << 9 << "10.0";
+    QTest::newRow("no card to come: the current level") << 10 << "09.0";
+}
+
+void BoardMenusTest::uvLends() {
+    QFETCH(int, turn);
+    QFETCH(QString, shown);
+    PositionScene scene;
+    game.Turn = turn;
+    game.UVLevel = 9;
+    game.EnvDeck[8].UV = 12;
+    game.EnvDeck[9].UV = 11;
+    game.EnvDeck[10].UV = 10;
+    PHASE(scene, QTest::mousePress(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), QStringLiteral("9"));
+          QTest::mouseRelease(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), shown);
+          QCOMPARE(ZyTimer(scene)->interval(), 3000); QVERIFY(ZyTimer(scene)->isActive()); ZyTimer(scene)->start(1);
+          QTRY_COMPARE(scene.Text(UV()), QStringLiteral("9")));
+}
+
+void BoardMenusTest::oneLabelAtATime() {
+    PositionScene scene;
+    game.ReplayNo = 3;
+    game.Turn = 10;
+    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
+          QTest::mouseClick(scene.Find(UV()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QCOMPARE(scene.Text(UV()), QStringLiteral("10.0"));
+          ZyTimer(scene)->start(1); QTRY_COMPARE(scene.Text(UV()), QStringLiteral("10"));
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")));
+}
+
+void BoardMenusTest::otherButtonsBorrowNothing() {
+    PositionScene scene;
+    PHASE(scene, QTest::mouseClick(scene.Find(Drift()), Qt::LeftButton);
+          QTest::mouseClick(scene.Find(UV()), Qt::LeftButton);
+          QTest::mouseRelease(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QCOMPARE(scene.Text(UV()), QStringLiteral("10"));
+          QVERIFY(!ZyTimer(scene)->isActive()));
+}
+
+void BoardMenusTest::thePlaceIsKept() {
+    Scene scene;
+    scene.Board().move(60, 40);
+    scene.Board().resize(1000, 700);
+    scene.Board().close();
+    QCOMPARE(scene.Settings().Get("board", "left", ""), std::string("60"));
+    QCOMPARE(scene.Settings().Get("board", "top", ""), std::string("40"));
+    scene.Reopen();
+    QCOMPARE(scene.Board().pos(), QPoint(60, 40));
+    scene.Board().showMinimized();
+    scene.Board().move(200, 200);
+    scene.Board().close();
+    QCOMPARE(scene.Settings().Get("board", "left", ""), std::string("60"));
+}
+
+void BoardMenusTest::savedPlaces_data() {
+    QTest::addColumn<QString>("left");
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<bool>("taken");
+    QTest::newRow("on the screen") << "30"
+                                   << "20" << true;
+    QTest::newRow("far to the left") << "-9000"
+                                     << "20" << false;
+    QTest::newRow("below the screen") << "30"
+                                      << "5000" << false;
+    QTest::newRow("no number") << "abc"
+                               << "20" << false;
+    QTest::newRow("a fraction") << "1.5"
+                                << "20" << false;
+    QTest::newRow("too large") << "99999999999999"
+                               << "20" << false;
+    QTest::newRow("one is missing") << "30"
+                                    << "" << false;
+}
+
+void BoardMenusTest::savedPlaces() {
+    QFETCH(QString, left);
+    QFETCH(QString, top);
+    QFETCH(bool, taken);
+    Scene scene({{"board", "left", left.toStdString()}, {"board", "top", top.toStdString()}});
+    QCOMPARE(scene.Board().pos() == QPoint(30, 20), taken);
+    QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(scene.Board().pos()));
+}
+
+void BoardMenusTest::quit() {
+    Scene scene;
+    scene.Then(QuestionKind::Number, [&] { scene.Menu(QStringLiteral("men_quit")); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(!scene.Board().isVisible());
+    QVERIFY(!scene.Settings().Get("board", "left", "").empty());
+    QCOMPARE(scene.FileText(ErrorFile), QString());
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::BoardMenusTest>(argc, argv);
+}
+
+#include "board_menus_test.moc"

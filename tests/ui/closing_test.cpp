@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The window is closed in the middle of games: each one unwinds at once and the program ends with 0.
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTimer>
+#include <csignal>
+#include <cstring>
+
+#include "model/game_files.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/test_scale.h"
+#include "tests/ui/support/scene.h"
+#include "ui/auto_person.h"
+#include "ui/end_signals.h"
+#include "ui/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+/// How the end comes.
+enum class Way { Close, Quit, End, Signal, Application };
+constexpr Way Ways[] = {Way::Close, Way::Quit, Way::End, Way::Signal, Way::Application};
+
+/// Counts waits and pauses, and brings the end about at one of them.
+class ClosingBoard : public UBoard {
+public:
+    int At = 0;  ///< 0: never
+    Way How = Way::Close;
+    int Count = 0;
+    QElapsedTimer Since;
+
+    void Wait() override {
+        Next();
+        UBoard::Wait();
+    }
+    void Pause(int units) override {
+        Next();
+        UBoard::Pause(units);
+    }
+
+private:
+    void Next() {
+        if (++Count == At) {
+            SetSpeed(0.2);
+            QMetaObject::invokeMethod(
+                this, [this] { BringAbout(); }, Qt::QueuedConnection);
+        }
+    }
+    void BringAbout() {
+        Since.start();
+        switch (How) {
+            case Way::Close: close(); return;
+            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(); return;
+            case Way::End: EndProgram(); return;
+            case Way::Signal: std::raise(SIGTERM); return;
+            case Way::Application: QCoreApplication::quit(); return;
+        }
+    }
+};
+
+}  // namespace
+
+class ClosingTest : public QObject {
+    Q_OBJECT
+
+private:
+    /// Plays a game whose end comes at a wait or pause; the number of them.
+    int Play(int clans, bool two, int at, Way way);
+
+private slots:
+    void endsAtOnce_data();
+    void endsAtOnce();
+    void betweenGames();
+    void aSecondEndIsNoTrouble();
+    void theProgramIsTerminated();
+    void aGameIsTerminated_data();
+    void aGameIsTerminated();
+};
+
+int ClosingTest::Play(int clans, bool two, int at, Way way) {
+    ForgetGame();
+    const QTemporaryDir folder(FolderTemplate());
+    DataFolder files(folder.path().toStdString());
+    QtSettings settings(folder.path() + QStringLiteral("/settings.ini"));
+    game.Files = &files;
+    game.Settings = &settings;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = static_cast<float>(clans);
+    game.RequestedClans = clans;
+    game.Menu.twoplayermen = two;
+    int count = 0;
+    {
+        ClosingBoard board;
+        const EndSignals endSignals([&board] { board.close(); });
+        AutoPerson person(board);
+        int asked = 0;
+        board.OnQuestion = [&](Question& question) {
+            ++asked;
+            if (board.Count < at || at == 0) {
+                person.Answer(question);
+            }
+        };
+        board.At = at;
+        board.How = way;
+        board.SetSpeed(0);
+        board.setUpdatesEnabled(false);
+        board.show();
+        QTimer::singleShot(0, &board, [&board] {
+            board.gob_Click();
+            QCoreApplication::exit(board.At == 0 ? 77 : 0);
+        });
+        const int code = QApplication::exec();
+        [&] {
+            QCOMPARE(code, at == 0 ? 77 : 0);
+            QVERIFY(!board.Playing());
+            QVERIFY(board.TopQuestion() == nullptr);
+            QVERIFY(!files.Exists(ErrorFile));
+            if (at == 0) {
+                return;
+            }
+            QVERIFY2(board.Since.isValid() && board.Since.elapsed() < 1500, "it took too long");
+            QVERIFY(!board.isVisible());
+            QVERIFY(!settings.Get("board", "left", "").empty());
+            const GameState before = game;
+            const int askedBefore = asked;
+            QTest::qWait(2);
+            QCOMPARE(std::memcmp(&before, &game, sizeof before), 0);
+            QCOMPARE(asked, askedBefore);
+            QVERIFY(!board.findChild<QTimer*>(QStringLiteral("zyTimer"))->isActive());
+            board.gob_Click();
+            QVERIFY2(!board.Playing() && std::memcmp(&before, &game, sizeof before) == 0, "a game after the end");
+        }();
+        count = board.Count;
+    }
+    ForgetGame();
+    return count;
+}
+
+void ClosingTest::endsAtOnce_data() {
+    QTest::addColumn<int>("clans");
+    QTest::addColumn<bool>("two");
+    for (int clans = 3; clans <= 6; ++clans) {
+        for (const bool two : {false, true}) {
+            QTest::addRow("%d clans, %s", clans, two ? "two persons" : "one person") << clans << two;
+        }
+    }
+}
+
+void ClosingTest::endsAtOnce() {
+    QFETCH(int, clans);
+    QFETCH(bool, two);
+    const int all = Play(clans, two, 0, Way::Close);
+    QVERIFY(all > 30);
+    const bool every = Scaled(100) > 100;
+    const int samples = every ? all : std::min(all, 14);
+    for (int sample = 1; sample <= samples; ++sample) {
+        const int at = every ? sample : 1 + (all - 1) * (sample - 1) / std::max(samples - 1, 1);
+        Play(clans, two, at, Ways[(sample + clans) % 5]);
+        if (QTest::currentTestFailed()) {
+            qWarning("closed at wait %d of %d", at, all);
+            return;
+        }
+    }
+}
+
+void ClosingTest::betweenGames() {
+    Scene scene;
+    scene.Board().close();
+    QVERIFY(!scene.Board().isVisible());
+    scene.Board().gob_Click();
+    QVERIFY(!scene.Board().Playing());
+    QCOMPARE(game.NumPlayers, 0);
+}
+
+void ClosingTest::aSecondEndIsNoTrouble() {
+    Scene scene;
+    scene.Then(QuestionKind::Number, [&] {
+        scene.Board().close();
+        scene.Board().close();
+        scene.Board().EndProgram();
+        scene.Menu(QStringLiteral("leavemen"));
+        scene.Menu(QStringLiteral("men_quit"));
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(!scene.Board().isVisible());
+}
+
+namespace {
+
+/// Whether a process has a handler for SIGTERM, that is, will end in good order.
+bool CatchesTerm(qint64 process) {
+    QFile status(QStringLiteral("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("SigCgt:")) {
+            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
+        }
+    }
+    return false;
+}
+
+/// Starts a program with a data folder of its own and terminates it some time after it is ready.
+void Terminate(const QString& program, const QStringList& arguments, int milliseconds) {
+    const QTemporaryDir home;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("PLASMOS_DATA"), home.path() + QStringLiteral("/data"));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(CatchesTerm(process.processId()), 20000);
+    QTest::qWait(milliseconds);
+    QCOMPARE(process.state(), QProcess::Running);
+    process.terminate();
+    QVERIFY2(process.waitForFinished(10000), "it does not end");
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(!QFile::exists(home.path() + QStringLiteral("/data/errfile.txt")));
+}
+
+}  // namespace
+
+void ClosingTest::theProgramIsTerminated() {
+    for (const int milliseconds : {0, 3, 150}) {
+        Terminate(QStringLiteral(PLASMOS_PROGRAM), {}, milliseconds);
+    }
+}
+
+void ClosingTest::aGameIsTerminated_data() {
+    QTest::addColumn<int>("milliseconds");
+    for (int sample = 0; sample < Scaled(5); ++sample) {
+        QTest::addRow("sample %d", sample) << 1 + sample * 97 % 500;
+    }
+}
+
+void ClosingTest::aGameIsTerminated() {
+    QFETCH(int, milliseconds);
+    Terminate(QCoreApplication::applicationFilePath(),
+              {milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")}, milliseconds);
+}
+
+/// A program that plays game after game until it is told to end.
+int PlayOn(int argc, char** argv) {
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    DataFolder files(qEnvironmentVariable("PLASMOS_DATA").toStdString());
+    game.Files = &files;
+    const bool watch = std::strcmp(argv[1], "--watch") == 0;
+    UBoard board;
+    AutoPerson person(board);
+    board.SetSpeed(watch ? 1 : 0.05);
+    board.OnQuestion = [&person](Question& question) { person.Answer(question); };
+    const EndSignals endSignals([&board] { board.close(); });
+    board.show();
+    QTimer again;
+    QObject::connect(&again, &QTimer::timeout, &board,
+                     [&board, watch] { watch ? board.watch_Click() : board.gob_Click(); });
+    again.start(0);
+    return QApplication::exec();
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    const bool child = argc == 2 && (std::strcmp(argv[1], "--play") == 0 || std::strcmp(argv[1], "--watch") == 0);
+    return child ? plasmos::testing::PlayOn(argc, argv)
+                 : plasmos::testing::RunWindowTests<plasmos::testing::ClosingTest>(argc, argv);
+}
+
+#include "closing_test.moc"

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Somebody plays about with everything in sight. The game stands it, and can be finished afterwards.
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "model/consistency.h"
+#include "model/pcg32.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/test_scale.h"
+#include "tests/ui/support/scene.h"
+#include "ui/auto_person.h"
+#include "ui/puddle_view.h"
+#include "ui/uboard.h"
+
+namespace plasmos::testing {
+
+/// Does one random thing at a time; the same seed does the same things.
+class Monkey {
+public:
+    Monkey(Scene& scene, int seed) : scene_(scene), person_(scene.Board()) {
+        generator_.Seed(static_cast<std::uint64_t>(seed), 99);
+    }
+
+    void Act() {
+        switch (Below(12)) {
+            case 0:
+            case 1: ClickAnything(); break;
+            case 2: PressAKey(); break;
+            case 3: ChooseAnItem(); break;
+            case 4: TypeSomething(); break;
+            case 5: ClickTheBoard(); break;
+            case 6: scene_.Board().resize(900 + Below(900), 600 + Below(500)); break;
+            case 7: ChangeTheFocus(); break;
+            case 8: ClickAButton(); break;
+            default: AnswerTop();
+        }
+    }
+    void AnswerTop() {
+        if (Question* top = scene_.Board().TopQuestion(); top != nullptr) {
+            person_.Answer(*top);
+        }
+    }
+
+private:
+    int Below(int n) { return static_cast<int>(generator_.Next() % static_cast<unsigned>(n)); }
+
+    template <class Widget>
+    Widget* AnyVisible() {
+        QList<Widget*> seen;
+        for (Widget* widget : scene_.Board().template findChildren<Widget*>()) {
+            if (widget->isVisible() && !widget->isWindow()) {
+                seen << widget;
+            }
+        }
+        return seen.isEmpty() ? nullptr : seen[Below(static_cast<int>(seen.size()))];
+    }
+    void ClickAnything() {
+        if (auto* widget = AnyVisible<QWidget>(); widget != nullptr && qobject_cast<QMenuBar*>(widget) == nullptr) {
+            const QPoint point(Below(std::max(widget->width(), 1)), Below(std::max(widget->height(), 1)));
+            const Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::MiddleButton};
+            QTest::mouseClick(widget, buttons[Below(3)], Qt::NoModifier, point);
+        }
+    }
+    void ClickAButton() {
+        if (auto* button = AnyVisible<QAbstractButton>(); button != nullptr) {
+            Below(4) == 0 ? scene_.DoubleClick(button) : QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+    void PressAKey() {
+        constexpr Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Space,  Qt::Key_Escape, Qt::Key_Tab,  Qt::Key_Left,
+                                    Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Y,    Qt::Key_N,
+                                    Qt::Key_F1,     Qt::Key_Delete, Qt::Key_9,      Qt::Key_Minus};
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : &scene_.Board(), keys[Below(static_cast<int>(std::size(keys)))]);
+    }
+    void ChooseAnItem() {
+        const char* items[] = {"autoeat_men", "autoten_men", "sqno_men", "lines_men", "fast_men",    "easymen",
+                               "normmen",     "victorymen",  "pref_men", "watchmen",  "twoplayermen"};
+        QAction* item = scene_.Item(QString::fromLatin1(items[Below(static_cast<int>(std::size(items)))]));
+        if (item->isEnabled()) {
+            item->trigger();
+        }
+    }
+    void TypeSomething() {
+        const char* texts[] = {"0", "1", "2", "9", "-1", "abc", "", "99999999999999999999", "1e9", " 3 ", "\xc3\xa9"};
+        if (auto* field = AnyVisible<QLineEdit>(); field != nullptr && field->isEnabled()) {
+            field->setFocus();
+            field->selectAll();
+            field->insert(QString::fromUtf8(texts[Below(static_cast<int>(std::size(texts)))]));
+        }
+    }
+    void ClickTheBoard() {
+        const QPoint point(Below(scene_.Puddle().width()), Below(scene_.Puddle().height()));
+        Below(3) == 0 ? scene_.DoubleClick(&scene_.Puddle(), point)
+                      : QTest::mouseClick(&scene_.Puddle(), Below(4) == 0 ? Qt::RightButton : Qt::LeftButton,
+                                          Qt::NoModifier, point);
+    }
+    void ChangeTheFocus() {
+        QEvent event(Below(2) == 0 ? QEvent::WindowDeactivate : QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&scene_.Board(), &event);
+        if (auto* widget = AnyVisible<QWidget>(); widget != nullptr) {
+            widget->setFocus();
+        }
+    }
+
+    Scene& scene_;
+    AutoPerson person_;
+    Pcg32 generator_;
+};
+
+class MonkeyTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void playsAbout_data();
+    void playsAbout();
+    void thenAnotherGame();
+};
+
+void MonkeyTest::playsAbout_data() {
+    QTest::addColumn<int>("seed");
+    for (int seed = 1; seed <= (Scaled(10) > 10 ? 200 : Scaled(10)); ++seed) {
+        QTest::addRow("seed %d", seed) << seed;
+    }
+}
+
+void MonkeyTest::playsAbout() {
+    QFETCH(int, seed);
+    Scene scene({{"board", "rows", std::to_string(4 + seed % 3)}, {"board", "cols", std::to_string(3 + seed % 4)}});
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = static_cast<float>(seed);
+    game.RequestedClans = 3 + seed % 4;
+    game.Menu.twoplayermen = seed % 3 == 0;
+    scene.Board().setUpdatesEnabled(seed % 4 == 1);
+    Monkey monkey(scene, seed);
+    int acts = 400;
+    bool enriched = false;
+    QTimer ticks;
+    connect(&ticks, &QTimer::timeout, this, [&] {
+        if (!scene.Board().Playing()) {
+            return;
+        }
+        if (game.Turn == 1 && !enriched && seed % 2 == 0) {
+            enriched = true;
+            for (const char* code : {"hol", "ten", "par", "sfs"}) {
+                const int gene = GeneNumber(code);
+                if (!game.Genes[gene][3] && game.Catalogue[gene].Supply >= 1) {
+                    Give(3, code);
+                }
+            }
+            game.BP[3] += 30;
+        }
+        if (const auto fault = CheckConsistency(); game.Turn >= 1 && game.Turn <= LastTurn && !fault.empty()) {
+            scene.Fail(Concat("seed ", seed, ", ", acts, " acts before calm: ", fault));
+        }
+        --acts > 0 ? monkey.Act() : monkey.AnswerTop();
+    });
+    scene.Board().OnQuestion = nullptr;
+    ticks.start(0);
+    PLAY(scene, scene.Board().gob_Click());
+    QVERIFY2(!scene.WasEnded(), QTest::currentDataTag());
+    QVERIFY(game.Turn == LastTurn + 1 || game.GameOver);
+    QCOMPARE(CheckConsistency(true), std::string());
+    QCOMPARE(scene.FileText(ErrorFile), QString());
+    QVERIFY(scene.Sees(QStringLiteral("gob")) && scene.Enabled(QStringLiteral("gob")));
+}
+
+// Everything can be clicked between two games too, and the next game is as good as the first.
+void MonkeyTest::thenAnotherGame() {
+    Scene scene;
+    game.RequestedClans = 5;
+    PLAY(scene, scene.Click(QStringLiteral("watchb")));
+    scene.Board().OnQuestion = nullptr;
+    for (QWidget* widget : scene.Board().findChildren<QWidget*>()) {
+        if (widget->isVisible() && qobject_cast<QAbstractButton*>(widget) == nullptr &&
+            qobject_cast<QMenuBar*>(widget) == nullptr) {
+            QTest::mouseClick(widget, Qt::LeftButton);
+            QTest::mouseClick(widget, Qt::RightButton);
+            QTest::keyClick(widget, Qt::Key_Escape);
+        }
+    }
+    QVERIFY(!scene.Board().Playing());
+    PLAY(scene, scene.Click(QStringLiteral("watchb")));
+    QCOMPARE(game.Turn, LastTurn + 1);
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::MonkeyTest>(argc, argv);
+}
+
+#include "monkey_test.moc"

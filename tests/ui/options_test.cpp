@@ -1,0 +1,415 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The options dialog: size of the board, blocked squares, names; what it saves and where.
+
+#include <QFile>
+
+#include "flow/start.h"
+#include "model/pcg32.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/test_scale.h"
+#include "tests/ui/support/preferences.h"
+
+namespace plasmos::testing {
+
+class OptionsTest : public QObject {
+    Q_OBJECT
+
+private:
+    static void Act(Preferences& window, Pcg32& generator);
+
+private slots:
+    void opens();
+    void bounds_data();
+    void bounds();
+    void typedValuesStopAtTheBounds();
+    void placesAndRemovesMarkers();
+    void movesAMarker();
+    void theDiagnosticLabel();
+    void aLoweredSideTakesMarkersAlong();
+    void markersThatMeetBecomeOne();
+    void theBlockControl();
+    void theOptionsFile();
+    void okRebuildsTheBoard();
+    void applyKeepsTheDialogOpen();
+    void cancelTouchesNothing_data();
+    void cancelTouchesNothing();
+    void names();
+    void defaultNamesAreNotWritten();
+    void tabs();
+    void noGameWhileItIsOpen();
+    void anythingStaysInsideTheBounds();
+};
+
+void OptionsTest::opens() {
+    Preferences window({{"board", "rows", "4"},
+                        {"board", "cols", "6"},
+                        {"board", "blocks", "3:10:"},
+                        {"board", "blockno", "7"},
+                        {"players", "name2", "Ann"}});
+    QVERIFY(window.IsOpen());
+    QCOMPARE(window.Dialog()->windowTitle(), QStringLiteral("Preferences"));
+    QCOMPARE(window.Values(), QStringLiteral("4x6 2"));
+    QCOMPARE(window.Border(3), "black");
+    QCOMPARE(window.Border(10), "black");
+    QCOMPARE(window.Border(4), "none");
+    for (int clan = 1; clan <= 6; ++clan) {
+        QCOMPARE(window.Text(QStringLiteral("pname%1").arg(clan)),
+                 clan == 2 ? QStringLiteral("Ann") : QStringLiteral("Player %1").arg(clan));
+    }
+    const QPoint middle = window.Dialog()->frameGeometry().center();
+    const QPoint screen = window.Dialog()->screen()->availableGeometry().center();
+    QVERIFY((middle - screen).manhattanLength() < 60);
+}
+
+void OptionsTest::bounds_data() {
+    QTest::addColumn<QString>("values");
+    QTest::addColumn<QString>("blocks");
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<QString>("cols");
+    QTest::addColumn<int>("most");
+    QTest::addColumn<QString>("why");
+    const char* side = "A side has 3 to 9 squares.";
+    const char* large = "A board has at most 36 squares.";
+    const char* free = "12 squares must stay free.";
+    QTest::newRow("5x5") << "5x5"
+                         << ""
+                         << "3..7"
+                         << "3..7" << 8 << "";
+    QTest::newRow("3x4") << "3x4"
+                         << ""
+                         << "3..9"
+                         << "4..9" << 0 << QStringLiteral("%1\n%2").arg(side, free);
+    QTest::newRow("6x6") << "6x6"
+                         << ""
+                         << "3..6"
+                         << "3..6" << 8 << large;
+    QTest::newRow("9x4") << "9x4"
+                         << ""
+                         << "3..9"
+                         << "3..4" << 8 << QStringLiteral("%1\n%2").arg(side, large);
+    QTest::newRow("3x9") << "3x9"
+                         << ""
+                         << "3..4"
+                         << "4..9" << 8 << side;
+    QTest::newRow("4x4, full of blocks") << "4x4"
+                                         << "1:2:3:4:"
+                                         << "4..9"
+                                         << "4..9" << 4 << free;
+    QTest::newRow("5x5, eight blocks") << "5x5"
+                                       << "1:2:3:4:5:6:7:8:"
+                                       << "4..7"
+                                       << "4..7" << 8 << "There are at most 8 blocks.";
+}
+
+void OptionsTest::bounds() {
+    QFETCH(QString, values);
+    QFETCH(QString, blocks);
+    QFETCH(QString, rows);
+    QFETCH(QString, cols);
+    QFETCH(int, most);
+    QFETCH(QString, why);
+    Preferences window({{"board", "rows", values.section('x', 0, 0).toStdString()},
+                        {"board", "cols", values.section('x', 1).toStdString()},
+                        {"board", "blocks", blocks.toStdString()}});
+    const auto range = [](QSpinBox* box) { return QStringLiteral("%1..%2").arg(box->minimum()).arg(box->maximum()); };
+    QCOMPARE(range(window.Side("rowUD")), rows);
+    QCOMPARE(range(window.Side("colsUD")), cols);
+    QCOMPARE(range(window.Side("blockUD")), QStringLiteral("0..%1").arg(most));
+    QCOMPARE(window.Label("boundslab"), why);
+    window.Step("rowUD", 12);
+    QCOMPARE(window.Side("rowUD")->value(), rows.section(QStringLiteral(".."), 1).toInt());
+    QVERIFY2(!window.Label("boundslab").isEmpty(), "a control that stops says why");
+}
+
+void OptionsTest::typedValuesStopAtTheBounds() {
+    Preferences window;
+    for (const char* text : {"999999", "0", "-5", "abc", "8", ""}) {
+        for (const char* name : {"rowUD", "colsUD", "blockUD"}) {
+            QSpinBox* box = window.Side(name);
+            box->setFocus();
+            box->selectAll();
+            QTest::keyClicks(box, QString::fromLatin1(text));
+            QTest::keyClick(box, Qt::Key_Tab);
+            const int rows = window.Side("rowUD")->value();
+            const int cols = window.Side("colsUD")->value();
+            const int blocks = window.Side("blockUD")->value();
+            QVERIFY(rows >= 3 && rows <= 9 && cols >= 3 && cols <= 9 && rows * cols <= 36);
+            QVERIFY(blocks >= 0 && blocks <= 8 && rows * cols - blocks >= 12);
+        }
+    }
+}
+
+void OptionsTest::placesAndRemovesMarkers() {
+    Preferences window;
+    window.ClickPicture(7);
+    window.ClickPicture(25);
+    QCOMPARE(window.Values(), QStringLiteral("5x5 2"));
+    QCOMPARE(window.Border(7), "black");
+    window.ClickPicture(7);
+    QCOMPARE(window.Values(), QStringLiteral("5x5 1"));
+    QCOMPARE(window.Border(7), "none");
+    for (int square = 1; square <= 12; ++square) {
+        window.ClickPicture(square);
+    }
+    QCOMPARE(window.Values(), QStringLiteral("5x5 8"));
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("board", "blocks"), std::string("25:1:2:3:4:5:6:7:"));
+}
+
+void OptionsTest::movesAMarker() {
+    Preferences window({{"board", "blocks", "7:8:"}});
+    window.ClickPicture(3, Qt::RightButton);
+    QCOMPARE(window.Border(7), "black");
+    window.ClickPicture(7, Qt::RightButton);
+    QCOMPARE(window.Border(7), "yellow");
+    QCOMPARE(window.Border(8), "black");
+    window.ClickPicture(13, Qt::RightButton);
+    QCOMPARE(window.Border(13), "black");
+    QCOMPARE(window.Border(7), "none");
+    window.ClickPicture(8, Qt::RightButton);
+    window.ClickPicture(13, Qt::RightButton);
+    QCOMPARE(window.Border(8), "black");
+    QCOMPARE(window.Border(13), "black");
+    QTest::mouseClick(window.Picture(), Qt::RightButton, Qt::NoModifier, window.PlaceOf(13) + QPoint(19, 19));
+    QCOMPARE(window.Border(13), "yellow");
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("board", "blocks"), std::string("13:8:"));
+}
+
+void OptionsTest::theDiagnosticLabel() {
+    Preferences window({{"board", "blocks", "7:14:"}});
+    window.ClickPicture(14, Qt::RightButton);
+    QCOMPARE(window.Label("diaglab"), QStringLiteral("Square: 14\nButton: 2\nsqTop: 1200\nsqLeft: 1800\nBlock: 2"));
+    window.ClickPicture(14, Qt::RightButton);
+    window.ClickPicture(1);
+    QCOMPARE(window.Label("diaglab"), QStringLiteral("Square: 1\nButton: 1\nsqTop: 0\nsqLeft: 0\nBlock: 3"));
+}
+
+void OptionsTest::aLoweredSideTakesMarkersAlong() {
+    Preferences window({{"board", "blocks", "22:5:"}});
+    window.Step("rowUD", -1);
+    QCOMPARE(window.Picture()->height(), 160);
+    QCOMPARE(window.Border(17), "black");
+    window.Step("colsUD", -1);
+    QCOMPARE(window.Picture()->width(), 160);
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("board", "blocks"), std::string("14:4:"));
+    QCOMPARE(window.FileText(OptionsFile),
+             QStringLiteral("rows: 4\r\ncols: 4\r\nblocks: 2\r\n1: 600: 1800\r\n2: 1800: 0\r\n"));
+}
+
+void OptionsTest::markersThatMeetBecomeOne() {
+    Preferences window({{"board", "blocks", "22:17:5:"}});
+    window.ClickPicture(17, Qt::RightButton);
+    window.Step("rowUD", -1);
+    QCOMPARE(window.Values(), QStringLiteral("4x5 2"));
+    QCOMPARE(window.Border(17), "black");
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("board", "blocks"), std::string("17:5:"));
+    QCOMPARE(window.Saved("board", "blockno"), std::string("2"));
+}
+
+void OptionsTest::theBlockControl() {
+    Preferences window({{"board", "blocks", "25:"}});
+    window.Step("blockUD", 3);
+    QCOMPARE(window.Values(), QStringLiteral("5x5 4"));
+    window.Step("blockUD", -2);
+    window.Press("cmdApply");
+    const std::string left = window.Saved("board", "blocks");
+    QVERIFY2(left.rfind("25:", 0) == 0 && left != "25:", left.c_str());
+    window.Step("blockUD", -9);
+    window.Press("cmdApply");
+    QCOMPARE(window.Saved("board", "blocks"), std::string());
+    QCOMPARE(window.Saved("board", "blockno"), std::string("0"));
+}
+
+void OptionsTest::theOptionsFile() {
+    Preferences window;
+    QVERIFY(!window.Files().Exists(OptionsFile));
+    window.Step("colsUD", 1);
+    window.ClickPicture(8);
+    window.ClickPicture(3);
+    window.Press("cmdApply");
+    QCOMPARE(window.FileText(OptionsFile),
+             QStringLiteral("rows: 5\r\ncols: 6\r\nblocks: 2\r\n1: 600: 600\r\n2: 1200: 0\r\n"));
+    QCOMPARE(window.Saved("board", "rows"), std::string("5"));
+    QCOMPARE(window.Saved("board", "cols"), std::string("6"));
+    QCOMPARE(window.Saved("board", "blockno"), std::string("2"));
+    QCOMPARE(window.Saved("board", "blocks"), std::string("8:3:"));
+    window.Step("blockUD", -2);
+    window.Press("cmdApply");
+    QCOMPARE(window.FileText(OptionsFile), QStringLiteral("rows: 5\r\ncols: 6\r\nblocks: 0\r\n"));
+}
+
+void OptionsTest::okRebuildsTheBoard() {
+    Preferences window;
+    window.Step("rowUD", -1);
+    window.Step("colsUD", 3);
+    window.ClickPicture(9);
+    window.Press("cmdOK");
+    QVERIFY(!window.IsOpen());
+    QCOMPARE(game.NumRows, 4);
+    QCOMPARE(game.NumCols, 8);
+    QCOMPARE(game.NumSquares, 32);
+    QVERIFY(game.Blocked[9] && !game.Blocked[8]);
+    game.RequestedClans = 6;
+    PLAY(window, window.Click(QStringLiteral("watchb")));
+    QCOMPARE(game.NumSquares, 32);
+    window.Reopen();
+    QCOMPARE(game.NumRows * 10 + game.NumCols, 48);
+    window.OpenDialog();
+    QCOMPARE(window.Values(), QStringLiteral("4x8 1"));
+}
+
+void OptionsTest::applyKeepsTheDialogOpen() {
+    Preferences window;
+    window.Step("rowUD", 1);
+    window.Press("cmdApply");
+    QVERIFY(window.IsOpen());
+    QCOMPARE(window.Saved("board", "rows"), std::string("6"));
+    window.Step("rowUD", 1);
+    window.Press("cmdCancel");
+    QVERIFY(!window.IsOpen());
+    QCOMPARE(window.Saved("board", "rows"), std::string("6"));
+    QCOMPARE(game.NumRows, 6);
+}
+
+void OptionsTest::cancelTouchesNothing_data() {
+    QTest::addColumn<int>("way");
+    QTest::newRow("Cancel") << 0;
+    QTest::newRow("Escape") << 1;
+    QTest::newRow("the window is closed") << 2;
+}
+
+void OptionsTest::cancelTouchesNothing() {
+    QFETCH(int, way);
+    Preferences window({{"board", "rows", "4"}, {"players", "name1", "Ann"}});
+    const auto ini = [&window] {
+        QFile file(window.Folder() + QStringLiteral("/settings.ini"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray before = ini();
+    window.Step("rowUD", 2);
+    window.Step("blockUD", 2);
+    window.ClickPicture(4);
+    window.TypeName(1, QStringLiteral("Bob"));
+    if (way == 0) {
+        window.Press("cmdCancel");
+    } else if (way == 1) {
+        QTest::keyClick(window.Dialog(), Qt::Key_Escape);
+    } else {
+        window.Dialog()->close();
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(!window.IsOpen());
+    QCOMPARE(ini(), before);
+    QVERIFY(!window.Files().Exists(OptionsFile));
+    QCOMPARE(game.NumRows, 4);
+    QVERIFY(window.Item(QStringLiteral("pref_men"))->isEnabled() && window.Enabled(QStringLiteral("gob")));
+}
+
+void OptionsTest::names() {
+    Preferences window;
+    window.TypeName(1, QStringLiteral("Öndóttr & Söhne"));
+    window.TypeName(4, QStringLiteral("abcdefghijklmnopqrstuvwxyz"));
+    window.TypeName(5, QStringLiteral("   "));
+    window.TypeName(6, QString());
+    window.Press("cmdOK");
+    QCOMPARE(ToQt(window.Saved("players", "name1")), QStringLiteral("Öndóttr & Söhne"));
+    QCOMPARE(window.Saved("players", "name4"), std::string("abcdefghijklmnopqrst"));
+    game.RequestedClans = 6;
+    PLAY(window, window.Click(QStringLiteral("watchb")));
+    QCOMPARE(ToQt(game.Players[1].Name.View()), QStringLiteral("Öndóttr & Söhne"));
+    QCOMPARE(game.Players[5].Name.String(), std::string("Player 5"));
+    QCOMPARE(game.Players[6].Name.String(), std::string("Player 6"));
+}
+
+void OptionsTest::defaultNamesAreNotWritten() {
+    Preferences window({{"players", "name3", "Ann"}});
+    window.TypeName(3, QStringLiteral("Player 3"));
+    window.TypeName(2, QStringLiteral("Player 3"));
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("players", "name3"), std::string("Ann"));
+    QCOMPARE(window.Saved("players", "name2"), std::string("Player 3"));
+    for (const char* key : {"name1", "name4", "name5", "name6"}) {
+        QCOMPARE(window.Saved("players", key), std::string("none"));
+    }
+}
+
+void OptionsTest::tabs() {
+    Preferences window;
+    auto* pages = window.Dialog()->findChild<QTabWidget*>(QStringLiteral("tbsOptions"));
+    QCOMPARE(pages->currentIndex(), 0);
+    for (const char* from : {"rowUD", "pname1", "colsUD", "pname6"}) {
+        auto* focus = window.Dialog()->findChild<QWidget*>(QString::fromLatin1(from));
+        focus->setFocus();
+        const int before = pages->currentIndex();
+        QTest::keyClick(focus, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(pages->currentIndex(), (before + 1) % 2);
+    }
+}
+
+void OptionsTest::noGameWhileItIsOpen() {
+    Preferences window;
+    QVERIFY(!window.Enabled(QStringLiteral("gob")) && !window.Enabled(QStringLiteral("watchb")));
+    window.Board().gob_Click();
+    window.Board().watch_Click();
+    QVERIFY(!window.Board().Playing());
+    window.Menu(QStringLiteral("pref_men"));
+    QCOMPARE(window.Board().findChildren<OptionsDialog*>(QStringLiteral("frmOptions")).size(), 1);
+    window.Board().close();
+    QVERIFY(!window.Board().isVisible());
+}
+
+void OptionsTest::Act(Preferences& window, Pcg32& generator) {
+    const auto below = [&generator](int n) { return static_cast<int>(generator.Next() % static_cast<unsigned>(n)); };
+    const char* names[] = {"rowUD", "colsUD", "blockUD"};
+    const int squares = window.Side("rowUD")->value() * window.Side("colsUD")->value();
+    switch (below(6)) {
+        case 0:
+        case 1: window.Step(names[below(3)], below(9) - 4); break;
+        case 2: QTest::keyClick(window.Side(names[below(3)]), below(2) == 0 ? Qt::Key_PageUp : Qt::Key_PageDown); break;
+        case 3: window.ClickPicture(1 + below(squares)); break;
+        case 4: window.ClickPicture(1 + below(squares), Qt::RightButton); break;
+        default: QTest::keyClick(window.Dialog(), Qt::Key_Tab, Qt::ControlModifier);
+    }
+}
+
+void OptionsTest::anythingStaysInsideTheBounds() {
+    std::unique_ptr<Preferences> window;
+    for (int seed = 1; seed <= Scaled(200); ++seed) {
+        if (seed % 10 == 1) {
+            window.reset();
+            window = std::make_unique<Preferences>();
+            window->Board().setUpdatesEnabled(false);
+        }
+        Pcg32 generator;
+        generator.Seed(static_cast<std::uint64_t>(seed), 7);
+        for (int action = 0; action < 25; ++action) {
+            Act(*window, generator);
+        }
+        window->Press("cmdApply");
+        const auto tag = "seed " + std::to_string(seed) + ", " + window->Values().toStdString();
+        const BoardSize loaded = ReadBoardSettings(QtSettings(window->Folder() + QStringLiteral("/settings.ini")));
+        const int blocks = static_cast<int>(loaded.Blocks.size());
+        QVERIFY2(loaded.Rows >= 3 && loaded.Rows <= 9 && loaded.Cols >= 3 && loaded.Cols <= 9, tag.c_str());
+        QVERIFY2(loaded.Rows * loaded.Cols <= 36 && blocks <= 8, tag.c_str());
+        QVERIFY2(loaded.Rows * loaded.Cols - blocks >= 12, tag.c_str());
+        QVERIFY2(QStringLiteral("%1x%2 %3").arg(loaded.Rows).arg(loaded.Cols).arg(blocks) == window->Values(),
+                 tag.c_str());
+        QCOMPARE(window->Saved("board", "blockno"), std::to_string(blocks));
+        if (seed % 10 == 0) {
+            window->Press("cmdOK");
+            QVERIFY2(!window->IsOpen() && game.NumSquares == loaded.Rows * loaded.Cols, tag.c_str());
+        }
+    }
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsTest>(argc, argv);
+}
+
+#include "options_test.moc"
