@@ -99,7 +99,7 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     app.add_option("--cols", options.Cols, "columns of the board, 3 to 9 (default 5)")
         ->check(CLI::Range(MinSide, MaxSide));
     app.add_option("--blocks", options.Blocks, "blocked squares, such as 7:12:");
-    app.add_option("--robot", options.Robot, "seed of the robot person (default 1)");
+    app.add_option("--robot", options.Robot, "seed of the robot person (default 1)")->check(CLI::NonNegativeNumber);
     app.add_option("--jobs", options.Jobs, "games at a time (default: the number of cores)")
         ->check(CLI::Range(1, MostJobs));
     app.add_option("--format", options.Format, "table, csv or json")->transform(CLI::CheckedTransformer(formats));

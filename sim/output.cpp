@@ -61,7 +61,7 @@ void Output::Write(std::string_view text) {
     }
 }
 
-void Output::Commit() {
+void Output::Finish() {
     errno = 0;
     if (std::fflush(file_) != 0 || std::ferror(file_) != 0) {
         Fail(errno);
@@ -74,6 +74,9 @@ void Output::Commit() {
     if (std::fclose(file) != 0) {
         Fail(errno);
     }
+}
+
+void Output::Commit() {
     if (draft_.empty()) {
         return;
     }

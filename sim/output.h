@@ -25,6 +25,9 @@ public:
 
     /// Throws OutputError when something cannot be written.
     void Write(std::string_view text);
+    /// Everything is on the disk; throws like Write.
+    void Finish();
+    /// Gives the file its name. Finish() goes before.
     void Commit();
 
 private:

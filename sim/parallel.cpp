@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <atomic>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "sim/simulate.h"
@@ -122,6 +122,29 @@ bool HandOver(const Pack& pack, const std::function<bool(const GameResult&)>& ta
     return true;
 }
 
+/// The jobs of a run; they end with it, however it ends.
+class JobThreads {
+public:
+    explicit JobThreads(PackQueue& queue) : queue_(queue) {}
+    ~JobThreads() {
+        queue_.Stop();
+        for (std::thread& job : jobs_) {
+            job.join();
+        }
+    }
+    JobThreads(const JobThreads&) = delete;
+    JobThreads& operator=(const JobThreads&) = delete;
+
+    template <class Body>
+    void Start(Body&& body) {
+        jobs_.emplace_back(std::forward<Body>(body));
+    }
+
+private:
+    PackQueue& queue_;
+    std::vector<std::thread> jobs_;
+};
+
 void SimulateHere(const SimOptions& options, GameFiles* files, const std::function<bool()>& stop,
                   const std::function<bool(const GameResult&)>& take) {
     PrepareThread(options, files);
@@ -143,21 +166,17 @@ void SimulateGames(const SimOptions& options, GameFiles* files, const std::funct
     const bool heavy = !options.Journal.empty();
     PackQueue queue(options.Games, heavy ? PackWithJournals : PackOfGames,
                     static_cast<std::size_t>(options.Jobs) * PacksAhead);
-    std::vector<std::thread> jobs;
+    JobThreads jobs(queue);
     for (int job = 0; job < options.Jobs; ++job) {
-        jobs.emplace_back([&] { Work(options, files, queue, stop); });
+        jobs.Start([&] { Work(options, files, queue, stop); });
     }
     std::int64_t expected = 0;
     for (Pack pack = queue.Take(); !pack.empty(); pack = queue.Take()) {
         const auto full = static_cast<std::size_t>(queue.EndOf(expected) - expected);
         expected += static_cast<std::int64_t>(full);
         if (!HandOver(pack, take) || pack.size() < full) {
-            break;
+            return;
         }
-    }
-    queue.Stop();
-    for (std::thread& job : jobs) {
-        job.join();
     }
 }
 

@@ -170,10 +170,12 @@ int RunGames(const SimOptions& options) {
     const double seconds = SecondsSince(start);
     progress.Clear();
     output.Write(writer.End());
-    output.Commit();
+    output.Finish();
     if (journal) {
+        journal->Finish();
         journal->Commit();
     }
+    output.Commit();
     std::fprintf(stderr, "%" PRId64 " games in %.2f s, %.0f games per second\n", games, seconds,
                  static_cast<double>(games) / seconds);
     return ExitCode(faulty);

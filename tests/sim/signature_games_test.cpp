@@ -1,62 +1,82 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <cinttypes>
 #include <cstdio>
-#include <string>
-#include <string_view>
+#include <fstream>
 
+#include "model/signature.h"
+#include "sim/simulate.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/golden.h"
 #include "tests/support/test_scale.h"
 
 namespace plasmos::testing {
 namespace {
 
-/// The signature of the games with the replay numbers 1 to `Games`: one hash over every roll, move,
-/// meal, purchase, attack and score. It is the same with every compiler, build type and machine. A
-/// commit that changes how games are played names the new ones here.
+class SignatureTest : public GameTest {};
+
+std::string SignatureOf(int games) {
+    SimOptions options;
+    PrepareThread(options, nullptr);
+    std::uint64_t signature = 0;
+    for (int index = 0; index < games; ++index) {
+        signature = FoldHash(signature, SimulateGame(options, index).Signature);
+    }
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%016" PRIx64, signature);
+    return digits;
+}
+
+/// The signatures of the first games of the fixed set; a change of play changes them, nothing else does.
 struct SignatureRow {
+    std::string_view Name;
     int Games;
     std::string_view Signature;
 };
 
-void PrintTo(const SignatureRow& row, std::ostream* out) {
-    *out << row.Games << " games";
-}
-
-constexpr SignatureRow SignatureRows[] = {
-    {200, "8be5f39e3d4f0a5e"},
-    {2000, "080b5d10e4f24545"},
-    {20000, "65e9d779fd086d53"},
+const SignatureRow Rows[] = {
+    {"of_20_games", 20, "76bd0896b96d2144"},
+    {"of_400_games", 400, "9d7d37798768530e"},
+    {"of_20000_games", 20000, "65e9d779fd086d53"},
 };
 
-class Signatures : public ::testing::TestWithParam<SignatureRow> {};
+class SignatureOfFixedGames : public GameRows<SignatureRow> {};
 
-std::string OutputOf(const std::string& command) {
-    std::string output;
-    std::FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) {
-        return output;
+TEST_P(SignatureOfFixedGames, IsTheRecordedOne) {
+    const SignatureRow& row = GetParam();
+    if (row.Games > Scaled(20000)) {
+        GTEST_SKIP() << "too many games for a slow build";
     }
-    char bytes[256];
-    while (std::fgets(bytes, sizeof bytes, pipe) != nullptr) {
-        output += bytes;
+    EXPECT_EQ(SignatureOf(row.Games), row.Signature);
+    if (row.Games <= 400) {
+        EXPECT_EQ(SignatureOf(row.Games), row.Signature) << "played again in the same process";
     }
-    pclose(pipe);
-    return output;
 }
 
-TEST_P(Signatures, AreTheSameEverywhere) {
-    const int games = GetParam().Games;
-    if (games > Scaled(SignatureRows[2].Games)) {
-        GTEST_SKIP() << "left to a longer run";
-    }
-    const auto output = OutputOf(PLASMOS_SIM " --bench --games " + std::to_string(games));
-    const auto found = output.find("signature=");
-    ASSERT_NE(found, std::string::npos) << output;
-    EXPECT_EQ(output.substr(found + 10, 16), GetParam().Signature) << output;
+INSTANTIATE_TEST_SUITE_P(Fixed, SignatureOfFixedGames, ::testing::ValuesIn(Rows), RowName());
+
+TEST_F(SignatureTest, AChangedRollChangesIt) {
+    EXPECT_NE(SignatureOf(1), SignatureOf(2));
 }
 
-INSTANTIATE_TEST_SUITE_P(Bench, Signatures, ::testing::ValuesIn(SignatureRows),
-                         [](const auto& row) { return "Games" + std::to_string(row.param.Games); });
+class Golden : public ::testing::TestWithParam<GoldenGame> {};
+
+TEST_P(Golden, IsPlayedStepByStepAsRecorded) {
+    ForgetGame();
+    const auto played = TellSteps(GetParam());
+    std::ifstream file(GoldenFile(GetParam().Name));
+    std::size_t number = 0;
+    for (std::string recorded; std::getline(file, recorded); ++number) {
+        ASSERT_LT(number, played.size()) << "the game is shorter than recorded; the next step was\n" << recorded;
+        ASSERT_EQ(played[number], recorded) << "step " << number << " is the first that differs";
+    }
+    EXPECT_EQ(number, played.size()) << "the game is longer than recorded";
+    ForgetGame();
+}
+
+INSTANTIATE_TEST_SUITE_P(Games, Golden, ::testing::ValuesIn(GoldenGames()),
+                         [](const auto& row) { return row.param.Name; });
 
 }  // namespace
 }  // namespace plasmos::testing
