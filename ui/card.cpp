@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/card.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include "ui/palette.h"
+
+namespace plasmos {
+
+namespace {
+
+/// A colour with a share of white; dark ones keep themselves, for their text is light.
+QColor Mixed(const QColor& colour, double white) {
+    const double share = colour.lightness() < 140 && colour.blue() > 200 && colour.red() < 60 ? white * 0.25 : white;
+    const auto mix = [share](int part) { return static_cast<int>(part + (255 - part) * share); };
+    return QColor(mix(colour.red()), mix(colour.green()), mix(colour.blue()));
+}
+
+}  // namespace
+
+void PillLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0, 0, 0, 60), 1));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.6, height() / 2.6);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(font());
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
+void Card::SetColours(const QColor& background, const QColor& edge) {
+    background_ = background;
+    edge_ = edge;
+    update();
+}
+
+void Card::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(edge_, 1.2));
+    QLinearGradient soft(0, 0, 0, height());
+    soft.setColorAt(0, Mixed(background_, 0.42));
+    soft.setColorAt(1, Mixed(background_, 0.12));
+    painter.setBrush(soft);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+}
+
+FitLabel::FitLabel(QWidget* parent, int largest, int smallest)
+    : QLabel(parent), largest_(largest), smallest_(smallest) {
+    setWordWrap(true);
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    setFont(LookFont(largest));
+}
+
+void FitLabel::SetText(const QString& text) {
+    setText(text);
+    Fit();
+}
+
+int FitLabel::HeightAt(int width) const {
+    const QFontMetrics metrics(LookFont(largest_, font().bold()));
+    return metrics.boundingRect(QRect(0, 0, std::max(width, 10), 10000), Qt::TextWordWrap, text()).height() + 2;
+}
+
+void FitLabel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    Fit();
+}
+
+void FitLabel::Fit() {
+    for (int pixels = largest_; pixels >= smallest_; --pixels) {
+        const QFont candidate = LookFont(pixels, font().bold());
+        const QRect room(0, 0, std::max(width(), 10), 10000);
+        if (pixels == smallest_ ||
+            QFontMetrics(candidate).boundingRect(room, Qt::TextWordWrap, text()).height() <= height()) {
+            setFont(candidate);
+            return;
+        }
+    }
+}
+
+QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, QRgb colour) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(LookFont(pixels, bold));
+    SetLabelColour(label, QColor(colour));
+    return label;
+}
+
+void SetLabelColour(QLabel* label, const QColor& colour) {
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    palette.setColor(QPalette::Text, colour);
+    label->setPalette(palette);
+}
+
+}  // namespace plasmos

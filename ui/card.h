@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+#include <QWidget>
+
+namespace plasmos {
+
+/// A rounded card of the strip beside the board.
+class Card : public QWidget {
+public:
+    explicit Card(QWidget* parent) : QWidget(parent) {}
+
+    void SetColours(const QColor& background, const QColor& edge);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor background_ = Qt::white;
+    QColor edge_ = QColor(0xDD, 0xD8, 0xCB);
+};
+
+/// A label that fills a rounded rectangle with its palette's window colour.
+class PillLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// A label with wrapped text that takes a smaller letter when the text does not fit.
+class FitLabel : public QLabel {
+public:
+    FitLabel(QWidget* parent, int largest, int smallest);
+
+    void SetText(const QString& text);
+    /// Height the text takes with the largest letter at a width.
+    int HeightAt(int width) const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Fit();
+
+    int largest_;
+    int smallest_;
+};
+
+/// A plain label of a size, weight and colour.
+QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, QRgb colour);
+void SetLabelColour(QLabel* label, const QColor& colour);
+
+}  // namespace plasmos

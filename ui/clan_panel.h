@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <array>
+
+namespace plasmos {
+
+class GeneChips;
+
+/// One card per clan in the order of play.
+class ClanPanel : public QWidget {
+public:
+    explicit ClanPanel(QWidget* parent);
+
+    std::array<QLabel*, 6> bplab;     ///< by clan - 1
+    std::array<QLabel*, 6> orderlab;  ///< by place - 1
+    std::array<GeneChips*, 6> gList;  ///< by clan - 1
+
+    void ShowBP(int clan);
+    void ShowOrder();
+    void ShowGenes(int clan);
+    void ShowCurrentClan(int clan);
+    /// Takes everything from the state; forgetting begins a new game.
+    void ShowAll(bool forget);
+
+    int FullHeight() const;
+    int LeastHeight() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Columns {
+        double Score, BP, Amoebas, Mutation, Width;
+    };
+
+    bool Shown() const;
+    double CardHeight() const;
+    Columns ColumnsOf() const;
+    QRectF CardRect(int place) const;
+    bool Roomy() const { return CardHeight() >= 66; }
+    void Arrange();
+    void DrawCard(QPainter& painter, int place) const;
+    void DrawFigures(QPainter& painter, int clan, const QRectF& card) const;
+
+    int current_ = 0;
+};
+
+}  // namespace plasmos

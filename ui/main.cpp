@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QMessageBox>
+#include <QSessionManager>
+#include <cstdio>
+
+#include "flow/start.h"
+#include "model/game_files.h"
+#include "model/game_state.h"
+#include "model/platform.h"
+#include "ui/end_signals.h"
+#include "ui/palette.h"
+#include "ui/qt_settings.h"
+#include "ui/uboard.h"
+
+int main(int argc, char** argv) {
+    using namespace plasmos;
+    if (argc > 1) {
+        std::fputs("plasmos takes no arguments\n", stderr);
+        return 2;
+    }
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    DataFolder files(DataFolderPath());
+    QtSettings settings;
+    game.Files = &files;
+    game.Settings = &settings;
+    const std::string fault = PrepareDataFolder();
+    UBoard board;
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
+        Qt::DirectConnection);
+    const EndSignals endSignals([&board] { board.close(); });
+    board.show();
+    QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
+    if (!fault.empty()) {
+        notice.setModal(false);
+        notice.show();
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <array>
+#include <functional>
+
+#include "ui/options_model.h"
+
+namespace plasmos {
+
+/// The small board on which blocked squares are placed.
+class ZyPicture : public QWidget {
+public:
+    ZyPicture(QWidget* parent, OptionsModel& model);
+
+    /// A square is clicked: units of the picture; button 1 left, 2 right.
+    std::function<void(int x, int y, int button)> OnClick;
+    /// The model's board has another size.
+    void Follow();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    OptionsModel& model_;
+};
+
+/// `frmOptions`: the board's size and blocks, and the players' names.
+class OptionsDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files);
+
+    void cmdOK_Click();
+    void cmdApply_Click();
+    void cmdCancel_Click();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* MakeBoardPage();
+    QWidget* MakeNamesPage();
+    void MakeButtons(QVBoxLayout* outer);
+    QSpinBox* MakeUpDown(QWidget* page, const char* name, void (OptionsModel::*set)(int));
+    void NextTab();
+    bool Save();
+    /// Takes everything from the model.
+    void Follow();
+
+    SettingsStore& settings_;
+    GameFiles& files_;
+    OptionsModel model_;
+    bool following_ = false;
+    QTabWidget* tbsOptions_;
+    QSpinBox* rowUD_ = nullptr;
+    QSpinBox* colsUD_ = nullptr;
+    QSpinBox* blockUD_ = nullptr;
+    ZyPicture* optZyPict_ = nullptr;
+    QLabel* bounds_ = nullptr;
+    QLabel* diagnosis_ = nullptr;
+    QLabel* fault_ = nullptr;
+    std::array<QLineEdit*, 7> pname_{};
+};
+
+}  // namespace plasmos

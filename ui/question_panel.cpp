@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/question_panel.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "rules/ask.h"
+#include "rules/choice_forms.h"
+#include "rules/food_form.h"
+#include "rules/gene_form.h"
+#include "rules/victim_form.h"
+#include "ui/choice_panels.h"
+#include "ui/food_panel.h"
+#include "ui/gene_panel.h"
+#include "ui/palette.h"
+#include "ui/victim_panel.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int HeadHeight = 38;
+
+class RepeatFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonDblClick) {
+            return true;
+        }
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            const bool answers = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return ||
+                                 key->key() == Qt::Key_Enter || key->key() == Qt::Key_Escape;
+            return answers && key->isAutoRepeat();
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+void RefuseRepeats(QWidget* control) {
+    control->installEventFilter(new RepeatFilter(control));
+}
+
+QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QString& title)
+    : Card(parent),
+      clan_(question.Clan),
+      title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
+      close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
+      body_(new QVBoxLayout) {
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(14, 6, 14, 12);
+    outer->setSpacing(6);
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
+    title_->setText(title);
+    title_->setWordWrap(true);
+    head->addWidget(title_, 1);
+    close_->setToolTip(QStringLiteral("Close (Esc)"));
+    close_->setFocusPolicy(Qt::NoFocus);
+    close_->setStyleSheet(
+        QStringLiteral("QPushButton{border:none;background:transparent;color:#7A7669;font-size:18px;"
+                       "padding:0;min-height:24px;min-width:24px;max-width:24px}"
+                       "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
+    head->addWidget(close_, 0, Qt::AlignTop);
+    outer->addLayout(head);
+    body_->setSpacing(6);
+    outer->addLayout(body_);
+    connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
+    SetColours(QColor(look::Card), clan_ > 0 ? ShadesOf(clan_).Dark : QColor(look::Teal));
+}
+
+int QuestionPanel::HeightFor(int width) const {
+    const int wanted = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0;
+    return std::max(wanted, layout()->totalMinimumSize().height());
+}
+
+void QuestionPanel::Handle(const std::function<void()>& handler) {
+    if (retired_) {
+        return;
+    }
+    try {
+        handler();
+        Reread();
+    } catch (const std::exception&) {
+        if (OnFault) {
+            OnFault(std::current_exception());
+        }
+        return;
+    }
+    if (OnHandled) {
+        OnHandled();
+    }
+}
+
+QPushButton* QuestionPanel::MakeButton(const QString& name, const QString& caption, bool main) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setProperty("main", main);
+    button->setAutoDefault(true);
+    RefuseRepeats(button);
+    return button;
+}
+
+void QuestionPanel::paintEvent(QPaintEvent* event) {
+    Card::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(clan_ > 0 ? ShadesOf(clan_).Body : QColor(look::Teal));
+    painter.drawRoundedRect(QRectF(1.5, 1.5, width() - 3, 5), 2.5, 2.5);
+    if (clan_ > 0) {
+        DrawClanBadge(painter, clan_, QPointF(26, HeadHeight / 2.0 + 1), 10);
+    }
+}
+
+void QuestionPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        if (!event->isAutoRepeat()) {
+            CloseAsked();
+        }
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* button = qobject_cast<QPushButton*>(focusWidget());
+        if (button != nullptr && button->isEnabled() && !event->isAutoRepeat()) {
+            button->click();
+        }
+        return;
+    }
+    Card::keyPressEvent(event);
+}
+
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
+    switch (question.Kind) {
+        case QuestionKind::Number: return std::make_unique<NumberPanel>(parent, static_cast<AmNumfrm&>(question));
+        case QuestionKind::Amoeba: return std::make_unique<AmoebaPanel>(parent, static_cast<AmChoicefrm&>(question));
+        case QuestionKind::Food: return std::make_unique<FoodPanel>(parent, static_cast<FoodForm&>(question));
+        case QuestionKind::Victim: return std::make_unique<VictimPanel>(parent, static_cast<VictimForm&>(question));
+        case QuestionKind::Genes: return std::make_unique<GenePanel>(parent, static_cast<GeneForm&>(question));
+        case QuestionKind::Box: return std::make_unique<BoxPanel>(parent, static_cast<BoxQuestion&>(question));
+        case QuestionKind::YesNo:
+        case QuestionKind::Square: break;
+    }
+    return nullptr;
+}
+
+}  // namespace plasmos

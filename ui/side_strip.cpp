@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/side_strip.h"
+
+#include <algorithm>
+
+#include "model/game_state.h"
+#include "ui/clan_panel.h"
+#include "ui/environment_view.h"
+#include "ui/log_view.h"
+#include "ui/question_card.h"
+#include "ui/question_panel.h"
+#include "ui/start_card.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Gap = 8;
+constexpr int QuestionHeight = 154;
+constexpr int LeastLog = 54;
+constexpr int PleasantLog = 130;
+
+}  // namespace
+
+SideStrip::SideStrip(QWidget* parent)
+    : QWidget(parent),
+      Environment(new EnvironmentView(this)),
+      Start(new StartCard(this)),
+      Question(new QuestionCard(this)),
+      Clans(new ClanPanel(this)),
+      Log(new LogView(this)) {
+    SetPlaying(false);
+}
+
+void SideStrip::SetPlaying(bool playing) {
+    playing_ = playing;
+    Start->setVisible(!playing);
+    Question->setVisible(playing);
+    Arrange();
+}
+
+void SideStrip::SetPanels(const std::vector<QuestionPanel*>& panels) {
+    panels_ = panels;
+    Arrange();
+}
+
+void SideStrip::resizeEvent(QResizeEvent*) {
+    Arrange();
+}
+
+int SideStrip::ArrangeHead() {
+    const int environment = Environment->sizeHint().height();
+    const bool shown = playing_ || game.NumPlayers > 0;
+    Environment->setGeometry(0, 0, width(), environment);
+    Environment->setVisible(shown);
+    int top = shown ? environment + Gap : 0;
+    if (playing_) {
+        const int question = panels_.empty() ? QuestionHeight : Question->HeightFor(width(), true);
+        Question->setGeometry(0, top, width(), question);
+        top += question + Gap;
+    } else {
+        const int start = Start->sizeHint().height();
+        Start->setGeometry(0, top, width(), start);
+        top += start + Gap;
+    }
+    return top;
+}
+
+// The topmost dialog comes first; those below it follow while there is room.
+int SideStrip::ArrangePanels(int top) {
+    bool first = true;
+    for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
+        const int wanted = (*panel)->HeightFor(width());
+        const bool fits = top + wanted <= height();
+        if (first && !fits && playing_) {
+            top = Environment->height() + Gap;
+            Question->setVisible(false);
+        } else if (first) {
+            Question->setVisible(playing_);
+        }
+        (*panel)->setVisible(first || fits);
+        if (first || fits) {
+            (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, 60)));
+            top += wanted + Gap;
+        }
+        first = false;
+    }
+    if (panels_.empty()) {
+        Question->setVisible(playing_);
+    }
+    return top;
+}
+
+void SideStrip::Arrange() {
+    int top = ArrangePanels(ArrangeHead());
+    const int room = height() - top;
+    const int least = Clans->LeastHeight();
+    const bool clans = least > 0 && room >= least;
+    Clans->setVisible(clans);
+    if (clans) {
+        const int wanted = std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least));
+        Clans->setGeometry(0, top, width(), wanted);
+        top += wanted + Gap;
+    }
+    const int log = height() - top;
+    Log->setVisible(log >= LeastLog);
+    Log->setGeometry(0, top, width(), std::max(log, LeastLog));
+}
+
+}  // namespace plasmos

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+namespace plasmos {
+
+class ClanPanel;
+class EnvironmentView;
+class LogView;
+class QuestionCard;
+class QuestionPanel;
+class StartCard;
+
+/// The strip beside the board: environment, question or start, open dialogs, clans, log. What does not
+/// fit below an open dialog makes room for it.
+class SideStrip : public QWidget {
+public:
+    explicit SideStrip(QWidget* parent);
+
+    EnvironmentView* Environment;
+    StartCard* Start;
+    QuestionCard* Question;
+    ClanPanel* Clans;
+    LogView* Log;
+
+    /// A game is on: the question card takes the place of the start card.
+    void SetPlaying(bool playing);
+    /// The open dialogs, the topmost last.
+    void SetPanels(const std::vector<QuestionPanel*>& panels);
+    void Arrange();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int ArrangeHead();
+    int ArrangePanels(int top);
+
+    bool playing_ = false;
+    std::vector<QuestionPanel*> panels_;
+};
+
+}  // namespace plasmos

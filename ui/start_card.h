@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "ui/card.h"
+
+namespace plasmos {
+
+/// What greets the person between two games: Go, the replay number, and a game to watch.
+class StartCard : public Card {
+public:
+    explicit StartCard(QWidget* parent);
+
+    QPushButton* gob;
+    QPushButton* watchb;
+    QLineEdit* txtReplay;
+
+    /// A line about the game that is over; empty before the first.
+    void ShowResult(const QString& line, int clan);
+    QSize sizeHint() const override { return {440, 214}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QLabel* title_;
+    FitLabel* text_;
+    QLabel* replayLabel_;
+    int winner_ = 0;
+};
+
+}  // namespace plasmos
