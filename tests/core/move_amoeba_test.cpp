@@ -262,7 +262,7 @@ TEST_F(Moving, APieceWhoseLineFailsStaysWhereItIs) {
     EXPECT_EQ(game.Amoeba[1][1].Slot, 3);
     EXPECT_EQ(ErrorRecords(), 1);
     EXPECT_THAT(files.Errors(), HasSubstr("Player: 1 (Player 1)  Moeba: 1\n"));
-    EXPECT_THAT(files.Errors(), HasSubstr("Error #61: Disk full\n"));
+    EXPECT_THAT(files.Errors(), HasSubstr("Error #61: Disk full: memory/movefil.txt (no space)\n"));
 }
 
 TEST_F(Moving, APieceWhoseSpotLineFailsStaysToo) {

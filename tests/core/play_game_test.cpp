@@ -3,16 +3,11 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
-#include <fstream>
-#include <map>
 #include <regex>
-#include <sstream>
 
 #include "flow/scoring.h"
 #include "flow/start.h"
 #include "model/consistency.h"
-#include "model/game_files.h"
 #include "rules/aggression.h"
 #include "rules/ask.h"
 #include "rules/division.h"
@@ -21,6 +16,7 @@
 #include "rules/new_genes.h"
 #include "sim/robot.h"
 #include "tests/support/game_fixture.h"
+#include "tests/support/memory_files.h"
 #include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
@@ -29,50 +25,14 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-/// Files in memory; a name can be made to fail.
-class MemoryFiles : public GameFiles {
-public:
-    std::string PathOf(std::string_view name) const override { return Concat("memory/", name); }
-    void MakeFolder() override {
-        if (FolderFails) {
-            throw RuntimeError(70, "Permission denied: memory (forbidden)");
-        }
-    }
-    bool Exists(std::string_view name) const override { return Texts.count(std::string(name)) != 0; }
-    void Append(std::string_view name, std::string_view text) override {
-        if (name == Failing && FailuresLeft > 0) {
-            --FailuresLeft;
-            throw RuntimeError(61, Concat("Disk full: ", PathOf(name), " (no space)"));
-        }
-        Texts[std::string(name)] += text;
-    }
-    void Rewrite(std::string_view name, std::string_view text) override { Texts[std::string(name)] = text; }
-    std::vector<std::string> ReadLines(std::string_view name, int most) const override {
-        std::vector<std::string> lines;
-        std::istringstream text(Texts.at(std::string(name)));
-        for (std::string line; static_cast<int>(lines.size()) < most && std::getline(text, line);) {
-            lines.push_back(line);
-        }
-        return lines;
-    }
-
-    std::map<std::string, std::string> Texts;
-    std::string Failing;
-    int FailuresLeft = 1000000;
-    bool FolderFails = false;
-};
-
 class PlayGameTest : public GameTest {
 protected:
     PlayGameTest() {
-        game.Files = &files_;
         game.FastMode = true;
         game.HasRequestedReplay = true;
         game.RequestedReplay = 4711;
         game.RequestedClans = 3;
     }
-    ~PlayGameTest() override { game.Files = nullptr; }
-
     std::string WithoutDates(const std::string& text) const {
         return std::regex_replace(text, std::regex("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}"), "DATE");
     }
@@ -81,9 +41,9 @@ protected:
 };
 
 TEST_F(PlayGameTest, TheMoveFileBeginsWithTheGamesHeader) {
-    files_.Texts["movefil.txt"] = "an earlier game";
+    files_.Files["movefil.txt"] = "an earlier game";
     PlayUnattended();
-    EXPECT_THAT(WithoutDates(files_.Texts["movefil.txt"]),
+    EXPECT_THAT(WithoutDates(files_.Files["movefil.txt"]),
                 ::testing::MatchesRegex("\n\nGame: 4711 DATE\n\n(position [0-9]+|Turn: 1   Amoeba)(.|\n)*"));
 }
 
@@ -91,7 +51,7 @@ TEST_F(PlayGameTest, TwoGamesWithTheSameReplayNumberGiveEqualMoveFilesButForTheD
     std::vector<std::string> moves;
     for (int time = 0; time < 2; ++time) {
         PlayUnattended();
-        moves.push_back(WithoutDates(files_.Texts["movefil.txt"]));
+        moves.push_back(WithoutDates(files_.Files["movefil.txt"]));
     }
     EXPECT_EQ(moves[0], moves[1]);
     EXPECT_GT(moves[0].size(), 1000U);
@@ -104,7 +64,7 @@ TEST_F(PlayGameTest, TwoGamesWithTheSameAnswersGiveEqualMoveFilesToo) {
         game.Window = &robot;
         PlayGame();
         game.Window = nullptr;
-        moves.push_back(WithoutDates(files_.Texts["movefil.txt"]));
+        moves.push_back(WithoutDates(files_.Files["movefil.txt"]));
     }
     EXPECT_EQ(moves[0], moves[1]);
 }
@@ -146,9 +106,8 @@ void PrintTo(const FaultRow& row, std::ostream* out) {
 class PhaseFaults : public GameRows<FaultRow> {};
 
 TEST_P(PhaseFaults, GiveOneRecordAndEndTheProgram) {
-    MemoryFiles files;
     NewPosition(4);
-    game.Files = &files;
+    MemoryFiles files;
     game.Turn = 3;
     game.ReplayNo = 12.5F;
     GetParam().Break();
@@ -158,11 +117,10 @@ TEST_P(PhaseFaults, GiveOneRecordAndEndTheProgram) {
     } catch (const ProgramEnd& end) {
         EXPECT_EQ(end.ExitCode, 1);
     }
-    const auto record = files.Texts["errfile.txt"];
+    const auto record = files.Files["errfile.txt"];
     EXPECT_THAT(record, ::testing::MatchesRegex(
                             "ReplayNo: 12.5\nPlayer: [0-9]+ \\([^\n]*\\)  Moeba: [0-9]+\nTurn: [0-9]+   No. "
                             "Players: 4\nError #9: Subscript out of range\n\n\n"));
-    game.Files = nullptr;
 }
 
 const FaultRow FaultRows[] = {
@@ -176,16 +134,16 @@ const FaultRow FaultRows[] = {
 INSTANTIATE_TEST_SUITE_P(Phases, PhaseFaults, ::testing::ValuesIn(FaultRows), RowName());
 
 TEST_F(PlayGameTest, AFaultUnderTheDriverIsToldAndTheNextGameWorks) {
-    files_.Texts["zynames.txt"] = "1 - Only one\n";
+    files_.Files["zynames.txt"] = "1 - Only one\n";
     ScriptedBoard board;
     board.AnswerBy([](Question& question) { static_cast<BoxQuestion&>(question).ok_Click(); });
     PlayUnattended();
     ASSERT_EQ(board.Boxes.size(), 1U);
     EXPECT_THAT(board.Boxes[0], HasSubstr("memory/zynames.txt has 1 names for clan 1 and must have 7"));
     EXPECT_THAT(board.Boxes[0], HasSubstr("Clan 1 (Player 1)"));
-    EXPECT_THAT(files_.Texts["errfile.txt"], HasSubstr("Error #5"));
-    EXPECT_EQ(files_.Texts["zynames.txt"], "1 - Only one\n") << "an existing names file is never repaired";
-    files_.Texts.erase("zynames.txt");
+    EXPECT_THAT(files_.Files["errfile.txt"], HasSubstr("Error #5"));
+    EXPECT_EQ(files_.Files["zynames.txt"], "1 - Only one\n") << "an existing names file is never repaired";
+    files_.Files.erase("zynames.txt");
     PlayUnattended();
     EXPECT_EQ(game.Turn, 11);
     EXPECT_EQ(board.Boxes.size(), 1U);
@@ -193,7 +151,7 @@ TEST_F(PlayGameTest, AFaultUnderTheDriverIsToldAndTheNextGameWorks) {
 
 TEST_F(PlayGameTest, AnEnvelopeOfLinesForClan6NamesNobodyInAGameOfFive) {
     game.RequestedClans = 5;
-    files_.Texts["zynames.txt"] = "6 - A\n6 - B\n6 - C\n6 - D\n6 - E\n6 - F\n6 - G\n";
+    files_.Files["zynames.txt"] = "6 - A\n6 - B\n6 - C\n6 - D\n6 - E\n6 - F\n6 - G\n";
     ScriptedBoard board;
     PlayUnattended();
     EXPECT_THAT(board.Boxes[0], HasSubstr("has 0 names for clan 1"));
@@ -214,13 +172,12 @@ TEST_F(PlayGameTest, ATraceLineIsTriedThreeTimes) {
     game.Turn = 2;
     game.Drift = 1;
     Put(1, 1, 7);
-    files_.Failing = "movefil.txt";
-    files_.FailuresLeft = 2;
+    files_.Failures = 2;
     {
         const Script rolls({5});
         EXPECT_NO_THROW(MovementPhase());
     }
-    EXPECT_EQ(files_.Texts.count("errfile.txt"), 0U);
+    EXPECT_EQ(files_.Files.count("errfile.txt"), 0U);
 }
 
 TEST_F(PlayGameTest, ADiskThatIsFullInTheMiddleOfMovesLeavesEveryPieceWhereItIs) {
@@ -230,12 +187,12 @@ TEST_F(PlayGameTest, ADiskThatIsFullInTheMiddleOfMovesLeavesEveryPieceWhereItIs)
     game.Drift = 1;
     Put(1, 1, 7);
     Put(2, 1, 9);
-    files_.Failing = "movefil.txt";
+    files_.Refused = "moving to square";
     MovementPhase();
     EXPECT_EQ(game.Amoeba[1][1].Square, 7);
     EXPECT_EQ(game.Amoeba[1][2].Square, 9);
     EXPECT_EQ(CheckConsistency(), "");
-    const auto& errors = files_.Texts["errfile.txt"];
+    const auto& errors = files_.Files["errfile.txt"];
     EXPECT_THAT(errors, HasSubstr("Player: 1 (Player 1)  Moeba: 1\n"));
     EXPECT_THAT(errors, HasSubstr("Error #61: Disk full: memory/movefil.txt"));
     EXPECT_EQ(std::count(errors.begin(), errors.end(), '#'), 2) << "one record for each piece";
@@ -247,7 +204,7 @@ TEST_F(PlayGameTest, LeavingAGameEndsItQuietly) {
     board.Then(Do("leave", [](Question&) { throw GameLeft{}; }));
     EXPECT_NO_THROW(PlayGame());
     EXPECT_TRUE(board.Boxes.empty());
-    EXPECT_EQ(files_.Texts.count("errfile.txt"), 0U);
+    EXPECT_EQ(files_.Files.count("errfile.txt"), 0U);
 }
 
 TEST_F(PlayGameTest, TheProgramsEndIsNoError) {
@@ -255,7 +212,7 @@ TEST_F(PlayGameTest, TheProgramsEndIsNoError) {
     game.RequestedClans = 0;
     board.Then(EndTheProgram());
     EXPECT_THROW(PlayGame(), ProgramEnd);
-    EXPECT_EQ(files_.Texts.count("errfile.txt"), 0U);
+    EXPECT_EQ(files_.Files.count("errfile.txt"), 0U);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include "model/game_files.h"
 #include "model/game_state.h"
+#include "model/line_collector.h"
 #include "model/runtime_error.h"
 #include "model/text.h"
 
@@ -20,21 +21,31 @@ public:
     ~MemoryFiles() override { game.Files = nullptr; }
 
     std::string PathOf(std::string_view name) const override { return Concat("memory/", name); }
-    void MakeFolder() override {}
+    void MakeFolder() override {
+        if (FolderFails) {
+            throw RuntimeError(70, "Permission denied: memory (forbidden)");
+        }
+    }
     bool Exists(std::string_view name) const override { return Files.count(std::string(name)) > 0; }
     void Append(std::string_view name, std::string_view text) override {
         ++Tries;
         if (Failures > 0) {
             --Failures;
-            throw RuntimeError(61, "Disk full");
+            throw RuntimeError(61, Concat("Disk full: ", PathOf(name), " (no space)"));
         }
         if (!Refused.empty() && text.find(Refused) != std::string_view::npos) {
-            throw RuntimeError(61, "Disk full");
+            throw RuntimeError(61, Concat("Disk full: ", PathOf(name), " (no space)"));
         }
         Files[std::string(name)] += text;
     }
     void Rewrite(std::string_view name, std::string_view text) override { Files[std::string(name)] = text; }
-    std::vector<std::string> ReadLines(std::string_view, int) const override { return {}; }
+    std::vector<std::string> ReadLines(std::string_view name, int most) const override {
+        LineCollector lines(most);
+        lines.Take(Files.at(std::string(name)));
+        return lines.Lines();
+    }
+
+    bool FolderFails = false;
 
     std::string Moves() { return Files[std::string(MoveFile)]; }
     std::string Errors() { return Files[std::string(ErrorFile)]; }
