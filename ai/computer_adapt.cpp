@@ -51,16 +51,16 @@ private:
             if (!game.Genes[gene][clan_]) {
                 continue;
             }
-            const bool favourite = IsFavourite(clan_, gene) && gene != GeneNumber("ray");
-            if (gene != GeneNumber("div") && !favourite) {
+            const bool favourite = IsFavourite(clan_, gene) && gene != GeneId("ray");
+            if (gene != GeneId("div") && !favourite) {
                 InsertByPrice(gene);
             }
         }
         if (HasGene(clan_, "div")) {
-            protected_.Add(GeneNumber("div"));
+            protected_.Add(GeneId("div"));
         }
         for (int gene = 1; gene <= GeneCount; ++gene) {
-            const bool favourite = IsFavourite(clan_, gene) && gene != GeneNumber("ray") && gene != GeneNumber("div");
+            const bool favourite = IsFavourite(clan_, gene) && gene != GeneId("ray") && gene != GeneId("div");
             if (game.Genes[gene][clan_] && favourite) {
                 protected_.Add(gene);
             }
@@ -78,7 +78,7 @@ private:
 
     void Discard(int gene) {
         DiscardGene(gene);
-        credit_ += gene == GeneNumber("ray") ? RayCredit : 0;
+        credit_ += gene == GeneId("ray") ? RayCredit : 0;
     }
 
     /// True: the excess is settled.

@@ -88,7 +88,7 @@ private:
 
     void BuyFallback() {
         for (const GeneCode gene : {GeneCode("per"), GeneCode("agg"), GeneCode("mv2"), GeneCode("arm")}) {
-            const bool tooHard = gene.Number == GeneNumber("mv2") && game.Menu.normmen;
+            const bool tooHard = gene.Number == GeneId("mv2") && game.Menu.normmen;
             if (!tooHard && Buy(gene.Number)) {
                 return;
             }
@@ -98,7 +98,7 @@ private:
     void BuyByChance() {
         for (int failed = 0; failed < FailedDraws && Spare() >= LeastForDraws && BelowCap();) {
             const int gene = RollDie(GeneCount);
-            const bool refused = gene == GeneNumber("ray") && game.Turn == LastTurn;
+            const bool refused = gene == GeneId("ray") && game.Turn == LastTurn;
             failed = !refused && Buy(gene) ? 0 : failed + 1;
         }
     }
@@ -106,7 +106,7 @@ private:
     void BuyIntelligence() {
         if (game.Turn >= FirstTurnForIntelligence && Spare() >= LeastForIntelligence &&
             game.BP[clan_] % reserve_ >= LeastForIntelligence) {
-            Buy(GeneNumber("int"));
+            Buy(GeneId("int"));
         }
     }
 

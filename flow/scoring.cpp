@@ -96,7 +96,7 @@ void TestVictory() {
 int CountScoredGenes(int clan) {
     int count = 0;
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (game.Genes[gene][clan] && gene != GeneNumber("ray")) {
+        if (game.Genes[gene][clan] && gene != GeneId("ray")) {
             count += count >= GenesBeforeDouble ? 2 : 1;
         }
     }
@@ -113,8 +113,10 @@ void FillScoreTables() {
 
 void RecordFoodHistory() {
     for (int square = 1; square <= game.NumSquares; ++square) {
+        const auto& food = game.Food[square];
+        auto& history = game.FoodHistory[square];
         for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-            game.FoodHistory[square][clan][game.Turn] = game.Food[square][clan];
+            history[clan][game.Turn] = food[clan];
         }
     }
 }

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "model/encoding.h"
+#include "model/line_collector.h"
 #include "model/runtime_error.h"
 #include "model/text.h"
 
@@ -17,8 +18,6 @@ namespace plasmos {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::size_t LongestLine = 1000;
 
 int ErrorNumber(int systemError) {
     switch (systemError) {
@@ -79,66 +78,6 @@ void WriteAll(File file, const std::string& path, std::string_view bytes) {
         RaiseFileError(path, written && flushed ? errno : reason);
     }
 }
-
-/// A line of the greatest length without the character that the cut has broken at its end.
-std::string_view WithoutBrokenEnd(std::string_view line) {
-    constexpr std::size_t longestRest = 3;
-    for (std::size_t rest = 0; rest <= longestRest; ++rest) {
-        if (const auto whole = line.substr(0, line.size() - rest); IsValidUtf8(whole)) {
-            return whole;
-        }
-    }
-    return line;
-}
-
-/// Splits the bytes of a file into lines as they come, so that neither a long file nor a long line
-/// has to fit into memory.
-class LineCollector {
-public:
-    explicit LineCollector(int most) : most_(static_cast<std::size_t>(most)) {}
-
-    bool Full() const { return lines_.size() >= most_; }
-
-    void Take(std::string_view bytes) {
-        while (!bytes.empty() && !Full()) {
-            const auto end = bytes.find('\n');
-            const auto part = bytes.substr(0, end);
-            line_.append(part.substr(0, LongestLine - std::min(LongestLine, line_.size())));
-            if (end == std::string_view::npos) {
-                return;
-            }
-            Finish();
-            bytes.remove_prefix(end + 1);
-        }
-    }
-
-    std::vector<std::string> Lines() {
-        if (!line_.empty() && !Full()) {
-            Finish();
-        }
-        return std::move(lines_);
-    }
-
-private:
-    void Finish() {
-        std::string_view line = line_;
-        if (lines_.empty() && line.substr(0, 3) == "\xEF\xBB\xBF") {
-            line.remove_prefix(3);
-        }
-        if (!line.empty() && line.back() == '\r') {
-            line.remove_suffix(1);
-        }
-        if (line_.size() == LongestLine) {
-            line = WithoutBrokenEnd(line);
-        }
-        lines_.push_back(FromFileBytes(line));
-        line_.clear();
-    }
-
-    std::size_t most_;
-    std::string line_;
-    std::vector<std::string> lines_;
-};
 
 }  // namespace
 

@@ -39,15 +39,15 @@ constexpr Table<CatalogueEntry, 0, GeneCount> Entries = [] {
 
 bool FamilyAllows(int clan, int gene) {
     switch (gene) {
-        case GeneNumber("mv1"): return !HasGene(clan, "mv2");
-        case GeneNumber("spe"): return !HasGene(clan, "per");
-        case GeneNumber("sfs"): return !HasGene(clan, "agg");
-        case GeneNumber("def"):
-        case GeneNumber("esc"): return !HasGene(clan, "arm");
-        case GeneNumber("per"): return HasGene(clan, "spe");
-        case GeneNumber("mv2"): return HasGene(clan, "mv1");
-        case GeneNumber("agg"): return HasGene(clan, "sfs");
-        case GeneNumber("arm"): return HasGene(clan, "def") || HasGene(clan, "esc");
+        case GeneId("mv1"): return !HasGene(clan, "mv2");
+        case GeneId("spe"): return !HasGene(clan, "per");
+        case GeneId("sfs"): return !HasGene(clan, "agg");
+        case GeneId("def"):
+        case GeneId("esc"): return !HasGene(clan, "arm");
+        case GeneId("per"): return HasGene(clan, "spe");
+        case GeneId("mv2"): return HasGene(clan, "mv1");
+        case GeneId("agg"): return HasGene(clan, "sfs");
+        case GeneId("arm"): return HasGene(clan, "def") || HasGene(clan, "esc");
         default: return true;
     }
 }
@@ -55,10 +55,10 @@ bool FamilyAllows(int clan, int gene) {
 /// The gene that an upgrade replaces in the current clan; 0: none.
 int ReplacedGene(int upgrade) {
     switch (upgrade) {
-        case GeneNumber("per"): return GeneNumber("spe");
-        case GeneNumber("mv2"): return GeneNumber("mv1");
-        case GeneNumber("agg"): return GeneNumber("sfs");
-        case GeneNumber("arm"): return HasGene(game.CurPlayer, "def") ? GeneNumber("def") : GeneNumber("esc");
+        case GeneId("per"): return GeneId("spe");
+        case GeneId("mv2"): return GeneId("mv1");
+        case GeneId("agg"): return GeneId("sfs");
+        case GeneId("arm"): return HasGene(game.CurPlayer, "def") ? GeneId("def") : GeneId("esc");
         default: return 0;
     }
 }
@@ -106,7 +106,7 @@ void BuyGene(int gene) {
     if (const int replaced = ReplacedGene(gene); replaced != 0) {
         DiscardGene(replaced);
     }
-    if (gene == GeneNumber("ten") && !game.Players[clan].IsComputer) {
+    if (gene == GeneId("ten") && !game.Players[clan].IsComputer) {
         Show(&Presentation::ShowAutoFlags, clan);
     }
 }
@@ -117,7 +117,7 @@ void DiscardGene(int gene) {
     game.Players[clan].MutationLevel -= game.Catalogue[gene].MutationPoints;
     ++game.Catalogue[gene].Supply;
     Show(&Presentation::ShowGenes, clan);
-    if (gene == GeneNumber("ten") && !game.Players[clan].IsComputer) {
+    if (gene == GeneId("ten") && !game.Players[clan].IsComputer) {
         LoseTentacle(clan);
     }
 }
@@ -146,7 +146,7 @@ std::string MutationTip(int clan) {
 std::string GeneTip(int gene) {
     const CatalogueEntry& entry = Entries[gene];
     const bool fewClans = game.NumPlayers == 3 || game.NumPlayers == 4;
-    const int points = gene == GeneNumber("sfs") && fewClans ? entry.PointsFew : entry.PointsMany;
+    const int points = gene == GeneId("sfs") && fewClans ? entry.PointsFew : entry.PointsMany;
     return Concat(entry.Cost, " BP; UV ", points);
 }
 

@@ -29,6 +29,11 @@ struct GeneCode {
     int Number;
 };
 
+/// The number of a gene code written in the source.
+consteval int GeneId(const char* code) {
+    return GeneNumber(code);
+}
+
 /// Display name of gene 1..20; an empty text for any other number.
 std::string_view GeneName(int gene);
 

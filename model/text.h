@@ -48,6 +48,7 @@ public:
 
     friend constexpr bool operator==(const FixedText& a, const FixedText& b) { return a.View() == b.View(); }
     friend constexpr bool operator==(const FixedText& a, std::string_view b) { return a.View() == b; }
+    friend constexpr bool operator==(const FixedText& a, const char* b) { return a.View() == b; }
 
 private:
     static constexpr bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }

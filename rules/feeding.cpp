@@ -21,17 +21,16 @@ const Piece& Eater() {
     return game.Amoeba[game.CurAmoeba][game.CurPlayer];
 }
 
-Table<int, 0, 7> DigitsOf(int menu) {
-    Table<int, 0, 7> reversed;
-    int count = 0;
-    for (; menu > 0 && count < 7; menu /= 10) {
-        reversed[++count] = menu % 10;
+/// Calls visit(place, digit) for the digits of a menu, from the last to the first; place 1 is the first.
+template <class Visit>
+void ForDigits(int menu, Visit&& visit) {
+    int place = 0;
+    for (int rest = menu; rest > 0; rest /= 10) {
+        ++place;
     }
-    Table<int, 0, 7> digits;
-    for (int i = 1; i <= count; ++i) {
-        digits[i] = reversed[count + 1 - i];
+    for (int rest = menu; rest > 0; rest /= 10) {
+        visit(place--, rest % 10);
     }
-    return digits;
 }
 
 /// The lowest colour from one upward that the square lacks and that is not the eater's; 6 ends it.
@@ -97,14 +96,13 @@ void EatMenu(int menu, int square) {
         return;
     }
     const int clan = game.CurPlayer;
-    const auto digits = DigitsOf(menu);
-    for (int i = 1; i <= 7 && digits[i] > 0; ++i) {
-        const int colour = game.MenuColours[i];
-        if (colour != 0) {
-            game.Food[square][colour] -= digits[i];
+    auto& food = game.Food[square];
+    ForDigits(menu, [&](int place, int digit) {
+        if (const int colour = game.MenuColours[place]; colour != 0) {
+            food[colour] -= digit;
         }
-    }
-    game.Food[square][clan] += Excretion;
+    });
+    food[clan] += Excretion;
     Sign(SignedEvent::Meal, clan, square, menu);
     Say(Eater().Name, " eats ", menu, " in ", square);
     Show(&Presentation::DrawSquare, square);
@@ -138,11 +136,9 @@ void Starve(int square) {
 
 Table<int, 0, MaxClans> SuggestedAmounts(int square, int clan) {
     Table<int, 0, MaxClans> amounts;
-    const auto digits = DigitsOf(SuggestMenu(square, clan));
+    const int menu = SuggestMenu(square, clan);
     OrderEqualAmounts();
-    for (int i = 1; i <= 6 && digits[i] > 0; ++i) {
-        amounts[game.MenuColours[i]] += digits[i];
-    }
+    ForDigits(menu, [&](int place, int digit) { amounts[game.MenuColours[place]] += digit; });
     return amounts;
 }
 

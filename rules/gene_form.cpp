@@ -115,7 +115,7 @@ void GeneForm::gcheck_Click(int gene) {
 }
 
 void GeneForm::AdaptClick(int gene) {
-    const int points = gene == GeneNumber("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
+    const int points = gene == GeneId("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
     game.DiscardedPoints += gcheck[gene].Ticked ? -points : points;
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - game.DiscardedPoints);
     resetbVisible = true;

@@ -128,22 +128,19 @@ constexpr void SortPair(int& larger, int& smaller) {
     larger = most;
 }
 
-/// How many foreign colours a menu needs without "sub" and "fru"; one colour holds two pieces where
-/// there are three clans.
+/// Without "sub" and "fru" an amoeba can eat where enough foreign colours lie; with three clans one of
+/// them must lie there twice.
 bool CanEatPlain(int square, int clan) {
     const auto& food = game.Food[square];
-    int colours = 0;
-    int most = 0;
+    int colours = food[clan] > 0 ? -1 : 0;
     for (int colour = 1; colour <= MaxClans; ++colour) {
-        const int pieces = colour == clan ? 0 : food[colour];
-        colours += pieces > 0 ? 1 : 0;
-        most = std::max(most, pieces);
+        colours += food[colour] > 0 ? 1 : 0;
     }
-    switch (game.NumPlayers) {
-        case 3: return colours >= 2 && most >= 2;
-        case 4: return colours >= 3;
-        default: return colours >= 4;
+    if (game.NumPlayers == 3) {
+        const auto twice = [&](int colour) { return colour != clan && food[colour] >= 2; };
+        return colours >= 2 && (twice(1) || twice(2) || twice(3));
     }
+    return colours >= (game.NumPlayers == 4 ? 3 : 4);
 }
 
 /// The food on offer without the work lists: the same number as sorting them gives.
@@ -226,13 +223,12 @@ bool CanEat(int square, int clan) {
 }
 
 void OrderEqualAmounts() {
-    const auto score = [](int place) {
-        const int colour = game.MenuColours[place];
-        return colour == 0 ? 0 : game.Players[colour].Score;
-    };
-    for (int i = 2; i <= 6 && game.MenuAmounts[i] != 0; ++i) {
-        for (int j = i; j > 1 && game.MenuAmounts[j] == game.MenuAmounts[j - 1] && score(j) > score(j - 1); --j) {
-            std::swap(game.MenuColours[j], game.MenuColours[j - 1]);
+    const auto score = [](int colour) { return colour == 0 ? 0 : game.Players[colour].Score; };
+    const int* const amount = game.MenuAmounts.begin();
+    int* const colour = game.MenuColours.begin();
+    for (int i = 2; i <= 7 && amount[i] != 0; ++i) {
+        for (int j = i; j > 1 && amount[j] == amount[j - 1] && score(colour[j]) > score(colour[j - 1]); --j) {
+            std::swap(colour[j], colour[j - 1]);
         }
     }
 }

@@ -3,41 +3,16 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
 #include <new>
 
 #include "model/game_files.h"
 #include "tests/support/game_fixture.h"
+#include "tests/support/memory_files.h"
 
 namespace plasmos::testing {
 namespace {
 
 using ::testing::HasSubstr;
-
-/// Files in memory, which fail as often as they are told to.
-class MemoryFiles : public GameFiles {
-public:
-    MemoryFiles() { game.Files = this; }
-    ~MemoryFiles() override { game.Files = nullptr; }
-
-    std::string PathOf(std::string_view name) const override { return Concat("memory/", name); }
-    void MakeFolder() override {}
-    bool Exists(std::string_view name) const override { return Files.count(std::string(name)) > 0; }
-    void Append(std::string_view name, std::string_view text) override {
-        ++Tries;
-        if (Failures > 0) {
-            --Failures;
-            throw RuntimeError(61, "Disk full");
-        }
-        Files[std::string(name)] += text;
-    }
-    void Rewrite(std::string_view name, std::string_view text) override { Files[std::string(name)] = text; }
-    std::vector<std::string> ReadLines(std::string_view, int) const override { return {}; }
-
-    std::map<std::string, std::string> Files;
-    int Failures = 0;
-    int Tries = 0;
-};
 
 /// The kind of a trace line and the file it goes to.
 struct KindRow {
