@@ -230,11 +230,11 @@ TEST_F(Attacks, PersistenceAttacksTheSameClanAgain) {
     Give(1, "per");
     Victims(2, {0});
     Victims(3, {0});
-    Give(2, "def");
+    Give(3, "def");
     Script script({1, 2, 2, 1});
-    AttackAmoeba(2, 13, 0);
-    EXPECT_TRUE(IsGone(2, 1));
-    EXPECT_FALSE(IsGone(3, 1));
+    AttackAmoeba(3, 13, 0);
+    EXPECT_TRUE(IsGone(3, 1));
+    EXPECT_FALSE(IsGone(2, 1)) << "although its number is lower";
     EXPECT_EQ(game.BP[1], 0) << "a computer clan pays once";
 }
 

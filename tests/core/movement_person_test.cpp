@@ -71,7 +71,6 @@ const std::string Choose = "\nChoose a square for A1 to Move into:";
 
 using Texts = std::vector<std::string>;
 
-const Texts Nothing;
 const Texts PaidOffer = {Drifting + PayOffer};
 const Texts PaidOfferAndChoice = {Drifting + PayOffer, Drifting + PayOffer + Choose};
 const Texts TwoOffers = {Drifting + PayOffer, FreeOffer};

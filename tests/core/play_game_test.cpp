@@ -126,7 +126,7 @@ TEST_P(PhaseFaults, GiveOneRecordAndEndTheProgram) {
 const FaultRow FaultRows[] = {
     {"Movement", MovementPhase, [] { game.PlayOrder[4] = 99; }},
     {"Environment", EnvironmentPhase, [] { game.Turn = 11; }},
-    {"NewGenes", NewGenesPhase, [] { game.PlayOrder[2] = 8; }},
+    {"NewGenes", NewGenesPhase, [] { game.PlayOrder[1] = 8; }},
     {"Division", DivisionPhase, [] { game.PlayOrder[1] = 7; }},
     {"Aggression", AggressionPhase, [] { game.PlayOrder[3] = 1000; }},
     {"Scoring", ScorePhase, [] { game.AmoebaCount[2] = 8; }},

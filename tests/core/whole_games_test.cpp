@@ -59,6 +59,7 @@ struct GameRow {
     int Cols;
     std::string_view Blocks;
     bool Victory;
+    bool Easy = false;
 };
 
 void PrintTo(const GameRow& row, std::ostream* out) {
@@ -73,6 +74,7 @@ protected:
         game.RequestedClans = GetParam().Clans;
         game.FastMode = true;
         game.Menu.victorymen = GetParam().Victory;
+        game.Menu.normmen = !GetParam().Easy;
         PlayUnattended();
     }
 };
@@ -111,6 +113,8 @@ constexpr GameRow GameRowList[] = {
     {"five_clans", 5, 5, 5, "", false},
     {"six_clans", 6, 5, 5, "", false},
     {"clans_by_die", 0, 5, 5, "", false},
+    {"on_easy", 0, 5, 5, "", false, true},
+    {"on_easy_with_blocks_to_42_points", 0, 4, 9, "7:12:", true, true},
     {"to_42_points", 4, 5, 5, "", true},
     {"eight_blocks", 4, 5, 5, "1:3:7:9:13:17:19:25:", false},
     {"the_smallest_board_and_six_clans", 6, 3, 4, "", false},
