@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
     const EndSignals endSignals([&board] { board.close(); });
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
+    notice.setPalette(LookPalette());
     if (!fault.empty()) {
         notice.setModal(false);
         notice.show();

@@ -35,6 +35,7 @@ private slots:
     void theStoreIsInTheWay();
     void theOptionsFileCannotBeWritten();
     void theFastModeCannotBeSaved();
+    void aDarkDesktop();
     void twoStoresWrite();
     void writtenByHand();
 };
@@ -252,6 +253,42 @@ void SettingsTest::theFastModeCannotBeSaved() {
     QVERIFY(box->text().contains(QStringLiteral("/read/only")));
     box->close();
     game.Settings = nullptr;
+}
+
+// Light or dark, letters stand out against what is behind them.
+void SettingsTest::aDarkDesktop() {
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(40, 40, 40));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(dark);
+    const auto legible = [](const QWidget* widget) {
+        const QPalette& palette = widget->palette();
+        const int letters = qGray(palette.color(QPalette::WindowText).rgb());
+        return qGray(palette.color(QPalette::Window).rgb()) - letters > 100;
+    };
+    {
+        Preferences window;
+        ReadOnlySettings settings;
+        QVERIFY(legible(&window.Board()));
+        QVERIFY(legible(window.Dialog()));
+        for (const char* name : {"boundslab", "diaglab"}) {
+            const auto* label = window.Dialog()->findChild<QLabel*>(QString::fromLatin1(name));
+            QVERIFY2(qGray(label->palette().color(QPalette::WindowText).rgb()) < 150, name);
+        }
+        const QImage page = window.Dialog()->grab().toImage();
+        QVERIFY(qGray(page.pixel(8, page.height() - 8)) > 200);
+        window.Press("cmdCancel");
+        game.Settings = &settings;
+        window.Menu(QStringLiteral("fast_men"));
+        auto* box = window.Board().findChild<QMessageBox*>();
+        QVERIFY(box != nullptr);
+        QVERIFY(legible(box));
+        QVERIFY(qGray(box->grab().toImage().pixel(4, 4)) > 200);
+        box->close();
+        game.Settings = &window.Settings();
+    }
+    QApplication::setPalette(before);
 }
 
 void SettingsTest::twoStoresWrite() {
