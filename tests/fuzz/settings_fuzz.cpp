@@ -39,7 +39,7 @@ void Act(OptionsModel& model, Bytes& bytes) {
 
 void LoadAndPlay(MemorySettings& settings) {
     game.Settings = &settings;
-    Require(BoardFault(ReadBoardSettings()).empty(), "the saved board is inside the bounds");
+    Require(BoardFault(ReadBoardSettings(settings)).empty(), "the saved board is inside the bounds");
     LoadBoard();
     game.AutoPlay = true;
     game.RequestedClans = 6;
@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (int act = 0; act < 200 && !bytes.AtEnd(); ++act) {
         Act(model, bytes);
         model.Save(settings, files);
-        const BoardSize saved = ReadBoardSettings();
+        const BoardSize saved = ReadBoardSettings(settings);
         Require(BoardFault(saved).empty(), "what the dialog saves is inside the bounds");
     }
     LoadAndPlay(settings);
