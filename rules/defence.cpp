@@ -82,7 +82,7 @@ bool EscapePerson(int clan, int amoeba) {
     }
     const int square = game.Amoeba[amoeba][clan].Square;
     PayForEscape(clan);
-    MoveAlone(clan, amoeba, FindPersonsDestination(clan, amoeba, false));
+    MoveAlone(clan, amoeba, FindPersonsDestination(clan, amoeba, MoveKind::Escape));
     const Piece& piece = game.Amoeba[amoeba][clan];
     const bool escaped = piece.Square != square;
     TellPerson(clan, escaped ? Concat("Your amoeba ", piece.Name, " escapes to ", piece.Square, ".")

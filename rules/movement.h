@@ -16,8 +16,11 @@ void MovePersonsAmoeba(int clan, int amoeba);
 /// reaches are offered, else those of `list`. The message line has its text back afterwards.
 int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list = {});
 
+/// What a person's amoeba moves for.
+enum class MoveKind { FirstAttempt, SecondAttempt, Escape };
+
 /// How the direction of a person's move is found: by choice with "mv2", else by die (6 chooses),
-/// with "mv1" by two dice. `firstAttempt` chooses the words.
-int FindPersonsDestination(int clan, int amoeba, bool firstAttempt);
+/// with "mv1" by two dice. In an escape a first 6 chooses at once, without a second die.
+int FindPersonsDestination(int clan, int amoeba, MoveKind kind);
 
 }  // namespace plasmos

@@ -76,7 +76,8 @@ bool Attempt(int clan, int amoeba, bool first, const std::string& driftMessage) 
     if (!freeAttempt) {
         PayForMove(clan);
     }
-    MoveAmoeba(clan, amoeba, FindPersonsDestination(clan, amoeba, first));
+    MoveAmoeba(clan, amoeba,
+               FindPersonsDestination(clan, amoeba, first ? MoveKind::FirstAttempt : MoveKind::SecondAttempt));
     return true;
 }
 
@@ -122,16 +123,17 @@ int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) 
     return chosen;
 }
 
-int FindPersonsDestination(int clan, int amoeba, bool firstAttempt) {
+int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
     const int square = game.Amoeba[amoeba][clan].Square;
     if (HasGene(clan, "mv2")) {
         return ChooseNeighbour(clan, amoeba);
     }
     const int direction = RollDirection();
-    if (HasGene(clan, "mv1")) {
+    const bool chooses = kind == MoveKind::Escape && direction == WhereItWants;
+    if (HasGene(clan, "mv1") && !chooses) {
         return ThrowAgain(clan, amoeba, direction, square);
     }
-    const bool anyway = firstAttempt && direction == game.Drift;
+    const bool anyway = kind == MoveKind::FirstAttempt && direction == game.Drift;
     TellPerson(clan,
                Concat("Amoeba ", amoeba, " will move ", DirectionText(direction), anyway ? " anyway." : " instead."));
     return direction == WhereItWants ? ChooseNeighbour(clan, amoeba) : MoveDestination(square, direction);

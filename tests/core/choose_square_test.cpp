@@ -65,10 +65,10 @@ TEST_F(Choosing, TheDirectionOfASecondAttemptIsAlwaysInstead) {
     game.Drift = game.NumCols;
     {
         Script script({2});
-        EXPECT_EQ(FindPersonsDestination(2, 3, true), 18);
+        EXPECT_EQ(FindPersonsDestination(2, 3, MoveKind::FirstAttempt), 18);
     }
     Script script({2});
-    EXPECT_EQ(FindPersonsDestination(2, 3, false), 18);
+    EXPECT_EQ(FindPersonsDestination(2, 3, MoveKind::SecondAttempt), 18);
     EXPECT_THAT(board.LogLines, ElementsAre("Amoeba 3 will move Down anyway.", "Amoeba 3 will move Down instead."));
 }
 

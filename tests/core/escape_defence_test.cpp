@@ -202,6 +202,16 @@ TEST_F(Attacked, APersonWithMovement1ChoosesOneOfTwo) {
     EXPECT_THAT(board.Questions[1].Offered, ElementsAre(8, 12));
 }
 
+TEST_F(Attacked, AFirst6OfMovement1ChoosesAtOnceAndThrowsNoSecondDie) {
+    Person(2);
+    Give(2, {"esc", "mv1"});
+    board.Then({Yes(), Square(18)});
+    Script script({6, Spot});
+    EXPECT_TRUE(EscapeAmoeba(2, 1));
+    EXPECT_THAT(board.Questions[1].Offered, ElementsAre(8, 12, 14, 18));
+    EXPECT_EQ(game.Amoeba[1][2].Square, 18);
+}
+
 TEST_F(Attacked, AnEscapeHasNoSecondAttemptAndTakesNothingAlong) {
     Person(2);
     Give(2, {"esc", "spe", "ten"});
