@@ -12,10 +12,6 @@ namespace plasmos {
 
 namespace {
 
-bool IsFighter(int clan) {
-    return HasGene(clan, "sfs") || HasGene(clan, "agg");
-}
-
 bool CanEscape(int clan) {
     return HasGene(clan, "esc") && (HasGene(clan, "str") || game.BP[clan] >= 1);
 }

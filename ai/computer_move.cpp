@@ -5,6 +5,7 @@
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
+#include "rules/feeding.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"
 
@@ -89,7 +90,7 @@ private:
     }
 
     void FindCandidates() {
-        const bool fighter = Has("sfs") || Has("agg");
+        const bool fighter = IsFighter(clan_);
         const bool hunting = Has("par") && game.ParasiteHunt;
         const SquareList reachable = Neighbours(origin_, clan_);
         for (int i = 1; i <= reachable.Count(); ++i) {

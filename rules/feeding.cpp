@@ -43,6 +43,10 @@ int NextLentColour(int colour, int square, int clan) {
 
 }  // namespace
 
+bool IsFighter(int clan) {
+    return HasGene(clan, "sfs") || HasGene(clan, "agg");
+}
+
 bool IsVictim(int eater, int clan, int square) {
     if (clan == eater || game.Occupancy[square][clan] == 0) {
         return false;

@@ -22,6 +22,9 @@ void EatSuggestion(int menu, int square);
 /// The current amoeba eats nothing: the line, one point of damage, a pause.
 void Starve(int square);
 
+/// Whether a clan may fight for its food: it holds "sfs" or "agg".
+bool IsFighter(int clan);
+
 /// Whether a clan is a victim for the eater in a square: another clan with a piece there that is not
 /// protected ("sfs" against "arm", or "par" against a clan without BP).
 bool IsVictim(int eater, int clan, int square);

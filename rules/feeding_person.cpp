@@ -13,10 +13,6 @@ namespace plasmos {
 
 namespace {
 
-bool IsFighter(int clan) {
-    return HasGene(clan, "sfs") || HasGene(clan, "agg");
-}
-
 int CountHosts(int clan, int square) {
     int hosts = 0;
     for (int host = 1; host <= game.NumPlayers && hosts < 2; ++host) {
