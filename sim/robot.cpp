@@ -130,6 +130,13 @@ void Robot::FinishFood(FoodForm& form) {
     form.eatb_Click();
 }
 
+/// The amount is drawn before the field, in a statement of its own: the order of a call's arguments is
+/// the compiler's.
+void Robot::TypeAmount(FoodForm& form) {
+    const std::string amount = Concat(Below(12));
+    form.fdtxt_Change(Below(8), amount);
+}
+
 void Robot::TryFood(FoodForm& form) {
     switch (Below(8)) {
         case 0:
@@ -140,7 +147,7 @@ void Robot::TryFood(FoodForm& form) {
             form.eatb_Click();
             break;
         case 1:
-            form.fdtxt_Change(Below(8), Concat(Below(12)));
+            TypeAmount(form);
             form.eatb_Click();
             break;
         case 2: form.Form_Close(); break;

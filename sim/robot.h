@@ -40,6 +40,7 @@ private:
     void AnswerNumber(AmNumfrm& form);
     void AnswerAmoeba(AmChoicefrm& form);
     void AnswerFood(FoodForm& form);
+    void TypeAmount(FoodForm& form);
     void TryFood(FoodForm& form);
     void FinishFood(FoodForm& form);
     void CarryFood(FoodForm& form);

@@ -3,8 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <regex>
-
 #include "flow/scoring.h"
 #include "flow/start.h"
 #include "model/consistency.h"
@@ -34,7 +32,13 @@ protected:
         game.RequestedClans = 3;
     }
     std::string WithoutDates(const std::string& text) const {
-        return std::regex_replace(text, std::regex("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8}"), "DATE");
+        constexpr std::string_view header = "Game: 4711 ";
+        constexpr std::size_t dateAndTime = std::string_view("2000-01-01 00:00:00").size();
+        std::string without = text;
+        if (const auto found = text.find(header); found != std::string::npos) {
+            without.replace(found + header.size(), dateAndTime, "DATE");
+        }
+        return without;
     }
 
     MemoryFiles files_;
@@ -44,7 +48,8 @@ TEST_F(PlayGameTest, TheMoveFileBeginsWithTheGamesHeader) {
     files_.Files["movefil.txt"] = "an earlier game";
     PlayUnattended();
     EXPECT_THAT(WithoutDates(files_.Files["movefil.txt"]),
-                ::testing::MatchesRegex("\n\nGame: 4711 DATE\n\n(position [0-9]+|Turn: 1   Amoeba)(.|\n)*"));
+                ::testing::AnyOf(::testing::StartsWith("\n\nGame: 4711 DATE\n\nposition "),
+                                 ::testing::StartsWith("\n\nGame: 4711 DATE\n\nTurn: 1   Amoeba ")));
 }
 
 TEST_F(PlayGameTest, TwoGamesWithTheSameReplayNumberGiveEqualMoveFilesButForTheDate) {
