@@ -73,8 +73,8 @@ bool Struggle(int clan, int square) {
 }  // namespace
 
 void ComputerFeedAmoeba(int clan, int /*amoeba*/, int square) {
-    if (const int menu = SuggestMenu(square, clan); menu >= 1) {
-        EatSuggestion(menu, square);
+    if (CanEat(square, clan)) {
+        EatSuggestion(SuggestMenu(square, clan), square);
         return;
     }
     const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(clan, square);

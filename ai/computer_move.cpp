@@ -27,11 +27,11 @@ bool HasSpeed(int clan) {
 class MovePass {
 public:
     MovePass(int clan, int amoeba, bool second)
-        : clan_(clan), amoeba_(amoeba), second_(second), origin_(piece().Square) {}
+        : clan_(clan), amoeba_(amoeba), second_(second), origin_(piece().Square), canEatHere_(CanEat(origin_, clan)) {}
 
     /// Works out the destination, moves there, and tells whether a direction die was rolled.
     bool Run() {
-        const bool hungryHere = second_ || !CanEat(origin_, clan_);
+        const bool hungryHere = second_ || !canEatHere_;
         driftSquare_ = FindDriftSquare();
         if (!hungryHere || (game.BP[clan_] <= 0 && !HasGene(clan_, "str"))) {
             DriftAlong(hungryHere);
@@ -58,7 +58,7 @@ private:
         if (game.Drift != WhereItWants) {
             return MoveDestination(origin_);
         }
-        if (CanEat(origin_, clan_)) {
+        if (canEatHere_) {
             return origin_;
         }
         const SquareList reachable = Neighbours(origin_, clan_);
@@ -219,6 +219,7 @@ private:
     int amoeba_;
     bool second_;
     int origin_;
+    bool canEatHere_;
     int driftSquare_ = 0;
     int destination_ = 0;
     bool found_ = false;

@@ -12,9 +12,7 @@ SquareList Neighbours(int square, int clan) {
     for (const int direction : leftRightUpDown) {
         const int next = game.NextTo[square][direction];
         own = own || next == square;
-        if (next == square || !list.Has(next)) {
-            list.Add(next);
-        }
+        list.Add(next);
     }
     if (HasGene(clan, "hol") && !own) {
         list.Add(square);

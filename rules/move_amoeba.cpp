@@ -81,7 +81,7 @@ bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
 RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
     RiderList riders;
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        if (clan == mover || game.Occupancy[from][clan] == 0 || !HasGene(clan, "hol")) {
+        if (!HasGene(clan, "hol") || clan == mover || game.Occupancy[from][clan] == 0) {
             continue;
         }
         if (!game.Players[clan].IsComputer) {
@@ -120,6 +120,23 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     Show(&Presentation::AnimateMove, clan, amoeba, from, destination);
     Show(&Presentation::DrawSquare, from);
     Show(&Presentation::DrawSquare, destination);
+}
+
+/// The free spot of a square closest to a spot, the lower one of two; 0: all are taken.
+int NearestFreeSpot(int square, int slot) {
+    const std::uint32_t taken = game.SpotsTaken[square];
+    const auto isFree = [&](int spot) {
+        return spot >= 1 && spot <= MaxSpots && (taken >> static_cast<unsigned>(spot) & 1U) == 0;
+    };
+    for (int distance = 0; distance <= MaxSpots; ++distance) {
+        if (isFree(slot - distance)) {
+            return slot - distance;
+        }
+        if (isFree(slot + distance)) {
+            return slot + distance;
+        }
+    }
+    return 0;
 }
 
 void MoveWithCompany(int clan, int amoeba, int destination) {
@@ -182,13 +199,7 @@ void MoveAmoeba(int clan, int amoeba, int destination) {
 
 void MoveBeside(int clan, int amoeba, int otherSlot) {
     const int square = game.Amoeba[amoeba][clan].Square;
-    int nearest = 0;
-    for (int spot = 1; spot <= MaxSpots; ++spot) {
-        const bool free = (game.SpotsTaken[square] >> static_cast<unsigned>(spot) & 1U) == 0;
-        if (free && (nearest == 0 || std::abs(spot - otherSlot) < std::abs(nearest - otherSlot))) {
-            nearest = spot;
-        }
-    }
+    const int nearest = NearestFreeSpot(square, otherSlot);
     if (nearest == 0) {
         return;
     }

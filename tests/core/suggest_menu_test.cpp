@@ -92,6 +92,38 @@ const ChainRow ChainRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Chains, Suggestions, ::testing::ValuesIn(ChainRows), RowName());
 
+class LookingAhead : public GameTest {
+protected:
+    static inline const std::vector<std::vector<std::string_view>> GenesOfTaste = {
+        {}, {"sub"}, {"fru"}, {"sub", "fru"}};
+
+    /// Counts square 8's food up like a number, 0 to `most` of each colour; false: it began anew.
+    static bool NextFood(int clans, int most) {
+        for (int colour = 1; colour <= clans; ++colour) {
+            if (++game.Food[8][colour] <= most) {
+                return true;
+            }
+            game.Food[8][colour] = 0;
+        }
+        return false;
+    }
+};
+
+TEST_F(LookingAhead, FindsAMenuExactlyWhereOneIsSuggested) {
+    constexpr int most = 5;
+    for (int clans = 3; clans <= MaxClans; ++clans) {
+        for (const auto& genes : GenesOfTaste) {
+            NewPosition(clans);
+            for (const auto code : genes) {
+                Give(2, code);
+            }
+            do {
+                ASSERT_EQ(CanEat(8, 2), SuggestMenu(8, 2) > 0) << ::testing::PrintToString(game.Food[8]);
+            } while (NextFood(clans, most));
+        }
+    }
+}
+
 class AnyFood : public GameTest {
 protected:
     /// Any number of clans, any genes of feeding, any food in square 8; gives the eater.
