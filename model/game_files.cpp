@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/game_files.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -10,6 +11,7 @@
 
 #include "model/encoding.h"
 #include "model/line_collector.h"
+#include "model/platform.h"
 #include "model/runtime_error.h"
 #include "model/text.h"
 
@@ -59,13 +61,21 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-File OpenFile(const std::string& path, const char* mode) {
+/// Opens a file; an error names it as the person knows it.
+File OpenFile(const std::string& path, const char* mode, const std::string& knownAs) {
     errno = 0;
     File file(std::fopen(path.c_str(), mode));
     if (!file) {
-        RaiseFileError(path, errno);
+        RaiseFileError(knownAs, errno);
     }
     return file;
+}
+
+/// A name that no other writer uses, be it another program: what is written here is renamed when it is
+/// whole.
+std::string DraftName(const std::string& path) {
+    static std::atomic<unsigned> drafts = 0;
+    return Concat(path, ".", ProcessNumber(), "-", static_cast<int>(++drafts), ".new");
 }
 
 void WriteAll(File file, const std::string& path, std::string_view bytes) {
@@ -105,18 +115,18 @@ bool DataFolder::Exists(std::string_view name) const {
 
 void DataFolder::Append(std::string_view name, std::string_view text) {
     const auto path = PathOf(name);
-    WriteAll(OpenFile(path, "ab"), path, ToFileBytes(text));
+    WriteAll(OpenFile(path, "ab", path), path, ToFileBytes(text));
 }
 
 void DataFolder::Rewrite(std::string_view name, std::string_view text) {
     const auto path = PathOf(name);
-    const auto draft = path + ".new";
+    const auto draft = DraftName(path);
     std::error_code error;
     if (fs::is_directory(path, error)) {
         RaiseFileError(path, EISDIR);
     }
     try {
-        WriteAll(OpenFile(draft, "wb"), path, ToFileBytes(text));
+        WriteAll(OpenFile(draft, "wb", path), path, ToFileBytes(text));
         fs::rename(draft, path, error);
     } catch (const RuntimeError&) {
         fs::remove(draft, error);
@@ -135,7 +145,7 @@ std::vector<std::string> DataFolder::ReadLines(std::string_view name, int most) 
     if (fs::is_directory(path, error)) {
         RaiseFileError(path, EISDIR);
     }
-    const File file = OpenFile(path, "rb");
+    const File file = OpenFile(path, "rb", path);
     LineCollector lines(most);
     char bytes[16384];
     while (!lines.Full()) {

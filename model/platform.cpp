@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/platform.h"
 
+#ifdef _WIN32
+#include <process.h>
+#else
+#include <unistd.h>
+#endif
+
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -54,6 +60,14 @@ double SecondsSinceMidnight() {
     const auto whole = std::chrono::time_point_cast<std::chrono::seconds>(now);
     const std::chrono::duration<double> part = now - whole;
     return local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec + part.count();
+}
+
+int ProcessNumber() {
+#ifdef _WIN32
+    return _getpid();
+#else
+    return static_cast<int>(getpid());
+#endif
 }
 
 void SleepMilliseconds(int milliseconds) {

@@ -15,6 +15,9 @@ std::string DateAndTime();
 /// Seconds since local midnight, with fractions.
 double SecondsSinceMidnight();
 
+/// The system's number of this process.
+int ProcessNumber();
+
 /// Whether the platform has up-down controls, which the options dialog needs.
 bool HasUpDownControls();
 

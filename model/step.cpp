@@ -35,11 +35,11 @@ void BeginStep(Step step, int clan, int amoeba) {
 }
 
 void EndStep(Step step, int clan, int amoeba) {
-#ifndef NDEBUG
-    if (const auto fault = CheckConsistency(step == Step::Score); !fault.empty()) {
-        throw RuntimeError(51, Concat("Internal error: after ", StepName(step), ": ", fault));
+    if constexpr (EveryStepIsChecked) {
+        if (const auto fault = CheckConsistency(step == Step::Score); !fault.empty()) {
+            throw RuntimeError(51, Concat("Internal error: after ", StepName(step), ": ", fault));
+        }
     }
-#endif
     if (game.Listener != nullptr) {
         game.Listener->OnEnd(step, clan, amoeba);
     }

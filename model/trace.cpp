@@ -15,6 +15,15 @@ namespace {
 constexpr int Tries = 3;
 constexpr int PauseBetweenTries = 50;
 
+/// Somebody may have deleted the folder since the game began.
+void MakeFolderAgain() {
+    try {
+        game.Files->MakeFolder();
+    } catch (const RuntimeError&) {
+        // The next try names what is wrong with the file itself.
+    }
+}
+
 void AppendWithPatience(std::string_view file, const std::string& text) {
     for (int tried = 1;; ++tried) {
         try {
@@ -24,8 +33,9 @@ void AppendWithPatience(std::string_view file, const std::string& text) {
             if (tried == Tries) {
                 throw;
             }
-            SleepMilliseconds(PauseBetweenTries);
         }
+        SleepMilliseconds(PauseBetweenTries);
+        MakeFolderAgain();
     }
 }
 

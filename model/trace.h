@@ -16,7 +16,8 @@ inline bool TracesAreKept() {
 
 /// Appends a text as one line: kind "rnd" or "rand" to the random-number file, "crt" nowhere, every
 /// other kind to the move file. A text that ends in a line break leaves an empty line after it.
-/// A line that fails is tried three times, 50 ms apart, before it is an error.
+/// A line that fails is tried three times, 50 ms apart, before it is an error; a data folder that is gone
+/// is made again in between.
 void WriteTrace(std::string_view text, std::string_view kind);
 
 /// Empties the move file.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/move_amoeba.h"
 
-#include <cstdlib>
 #include <exception>
 #include <vector>
 
@@ -193,7 +192,10 @@ void MoveAmoeba(int clan, int amoeba, int destination) {
             MoveWithCompany(clan, amoeba, destination);
         }
     } catch (const std::exception&) {
-        AppendErrorRecord(CurrentError(), clan, amoeba);
+        const RuntimeError error = CurrentError();
+        AppendErrorRecord(error, clan, amoeba);
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        LogLine(piece.Name, " stays in ", piece.Square, ": ", std::string_view(error.what()));
     }
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "ai/computer_attack.h"
+#include "model/step.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/scripted_board.h"
 
@@ -24,16 +25,9 @@ protected:
 };
 
 /// There is one copy of Aggression. What two clans with it would do shows only where nobody counts the
-/// copies after every step, as debug builds do.
-constexpr bool CopiesAreCounted =
-#ifdef NDEBUG
-    false;
-#else
-    true;
-#endif
-
+/// copies after every step.
 #define NEEDS_TWO_AGGRESSIVE_CLANS() \
-    if (CopiesAreCounted)            \
+    if (EveryStepIsChecked)          \
     GTEST_SKIP() << "a second copy of Aggression does not exist"
 
 // ---- deaths ----

@@ -5,13 +5,11 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "model/platform.h"
 #include "model/runtime_error.h"
 #include "model/trace.h"
-#include "tests/support/game_fixture.h"
+#include "tests/support/on_disk.h"
 
 namespace plasmos::testing {
 namespace {
@@ -21,43 +19,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
-
-/// A folder of the disk that is gone after the test.
-class OnDisk : public GameTest {
-protected:
-    OnDisk() : home_(MakeHome()), folder((home_ / "QX" / "Plasmo6").string()), files(folder) {}
-    ~OnDisk() override { fs::remove_all(home_); }
-
-    std::string Bytes(std::string_view name) const {
-        std::ifstream file(files.PathOf(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    void Lay(std::string_view name, std::string_view bytes) const {
-        std::ofstream(files.PathOf(name), std::ios::binary) << bytes;
-    }
-    /// The number of the run-time error that an operation raises; 0: none.
-    template <class Operation>
-    static int ErrorOf(Operation operation) {
-        try {
-            operation();
-        } catch (const RuntimeError& error) {
-            return error.Number;
-        }
-        return 0;
-    }
-
-private:
-    static fs::path MakeHome() {
-        std::string name = (fs::temp_directory_path() / "plasmos-test-XXXXXX").string();
-        return {mkdtemp(name.data())};
-    }
-
-    fs::path home_;
-
-protected:
-    const std::string folder;
-    DataFolder files;
-};
 
 TEST_F(OnDisk, TheFolderIsMadeWithAllItsParents) {
     EXPECT_FALSE(fs::exists(folder));

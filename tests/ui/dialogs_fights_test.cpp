@@ -125,6 +125,7 @@ void DialogsFightsTest::aWrongSquareAttacksNobody() {
 }
 
 void DialogsFightsTest::noEndsTheStep() {
+    NEEDS_A_STATE_NO_GAME_REACHES("a second copy of Aggression does not exist");
     AttackScene scene;
     Give(4, "agg");
     game.BP[4] = 1;
@@ -229,6 +230,7 @@ void DialogsFightsTest::persistenceAttacksTwice() {
 }
 
 void DialogsFightsTest::onlyOneAttackATurn() {
+    NEEDS_A_STATE_NO_GAME_REACHES("a second copy of Aggression does not exist");
     AttackScene scene;
     Person(2);
     Give(2, "agg");
