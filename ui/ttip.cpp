@@ -65,6 +65,11 @@ void ToolTips::ttTimer_Timer() {
     ShowTip(over ? TipTextAt(units.x(), units.y()) : std::string());
 }
 
+void ToolTips::Stop() {
+    ttTimer_->stop();
+    TTwin_->hide();
+}
+
 void ToolTips::ShowTip(const std::string& text) {
     if (text.empty()) {
         if (ttTimer_->interval() != WaitingMilliseconds) {

@@ -22,6 +22,8 @@ public:
 
     /// Shows, moves or hides `TTwin`; a shown tip is looked at again every 5 ms, else every 1500 ms.
     void ShowTip(const std::string& text);
+    /// Hides `TTwin` and looks no more: the program ends.
+    void Stop();
 
 private:
     void ttTimer_Timer();

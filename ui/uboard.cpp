@@ -230,6 +230,8 @@ void UBoard::SaveWindow() {
 }
 
 void UBoard::EndProgram() {
+    zyTimer_.stop();
+    tips_->Stop();
     wait_.End();
 }
 

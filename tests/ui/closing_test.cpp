@@ -6,8 +6,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QSettings>
 #include <QTimer>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 
 #include "model/game_files.h"
@@ -78,6 +80,9 @@ private slots:
     void betweenGames();
     void aSecondEndIsNoTrouble();
     void theProgramIsTerminated();
+    void aProcessEnds_data();
+    void aProcessEnds();
+    void twoProgramsShareTheirFolder();
     void aGameIsTerminated_data();
     void aGameIsTerminated();
 };
@@ -131,7 +136,10 @@ int ClosingTest::Play(int clans, bool two, int at, Way way) {
             QTest::qWait(2);
             QCOMPARE(std::memcmp(&before, &game, sizeof before), 0);
             QCOMPARE(asked, askedBefore);
-            QVERIFY(!board.findChild<QTimer*>(QStringLiteral("zyTimer"))->isActive());
+            for (const QTimer* timer : board.findChildren<QTimer*>()) {
+                QVERIFY2(!timer->isActive(), qPrintable(timer->objectName() + QLatin1String(" runs on in ") +
+                                                        QLatin1String(timer->parent()->metaObject()->className())));
+            }
             board.gob_Click();
             QVERIFY2(!board.Playing() && std::memcmp(&before, &game, sizeof before) == 0, "a game after the end");
         }();
@@ -206,33 +214,94 @@ bool CatchesTerm(qint64 process) {
     return false;
 }
 
-/// Starts a program with a data folder of its own and terminates it some time after it is ready.
-void Terminate(const QString& program, const QStringList& arguments, int milliseconds) {
+/// A program with folders for itself, or with another one's.
+class Program {
+public:
+    explicit Program(const QString& home) : home_(home) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("PLASMOS_DATA"), home + QStringLiteral("/data"));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home);
+        process_.setProcessEnvironment(environment);
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    }
+    void Start(const QString& program, const QStringList& arguments) {
+        process_.start(program, arguments);
+        QVERIFY(process_.waitForStarted());
+    }
+    void StartReady(const QString& program, const QStringList& arguments) {
+        Start(program, arguments);
+        QTRY_VERIFY_WITH_TIMEOUT(CatchesTerm(process_.processId()), 20000);
+    }
+    void Terminate() {
+        QCOMPARE(process_.state(), QProcess::Running);
+        process_.terminate();
+        EndsWell();
+    }
+    /// Ends with code 0, no error record, and the window's place saved.
+    void EndsWell() {
+        QVERIFY2(process_.waitForFinished(20000), "it does not end");
+        QCOMPARE(process_.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process_.exitCode(), 0);
+        QVERIFY(!QFile::exists(home_ + QStringLiteral("/data/errfile.txt")));
+        QVERIFY(!QSettings(home_ + QStringLiteral("/QX/Plasmos.conf"), QSettings::IniFormat)
+                     .value(QStringLiteral("board/left"))
+                     .toString()
+                     .isEmpty());
+    }
+
+private:
+    QString home_;
+    QProcess process_;
+};
+
+/// Starts a program and terminates it some time after it is ready.
+void TerminateAfter(const QString& name, const QStringList& arguments, int milliseconds) {
     const QTemporaryDir home;
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("PLASMOS_DATA"), home.path() + QStringLiteral("/data"));
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    QVERIFY(process.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(CatchesTerm(process.processId()), 20000);
+    Program program(home.path());
+    program.StartReady(name, arguments);
     QTest::qWait(milliseconds);
-    QCOMPARE(process.state(), QProcess::Running);
-    process.terminate();
-    QVERIFY2(process.waitForFinished(10000), "it does not end");
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
-    QVERIFY(!QFile::exists(home.path() + QStringLiteral("/data/errfile.txt")));
+    program.Terminate();
 }
 
 }  // namespace
 
 void ClosingTest::theProgramIsTerminated() {
     for (const int milliseconds : {0, 3, 150}) {
-        Terminate(QStringLiteral(PLASMOS_PROGRAM), {}, milliseconds);
+        TerminateAfter(QStringLiteral(PLASMOS_PROGRAM), {}, milliseconds);
     }
+}
+
+void ClosingTest::aProcessEnds_data() {
+    QTest::addColumn<int>("way");
+    QTest::addColumn<int>("at");
+    for (int sample = 0; sample < Scaled(15); ++sample) {
+        QTest::addRow("way %d at wait %d", sample % 5, 1 + sample * 37 % 200) << sample % 5 << 1 + sample * 37 % 200;
+    }
+}
+
+// Each end once more in a process of its own: whatever lived on would show in its exit code.
+void ClosingTest::aProcessEnds() {
+    QFETCH(int, way);
+    QFETCH(int, at);
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.Start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--end"), QString::number(way), QString::number(at)});
+    program.EndsWell();
+}
+
+// Both write the same trace files and the same settings.
+void ClosingTest::twoProgramsShareTheirFolder() {
+    const QTemporaryDir home;
+    Program first(home.path());
+    Program second(home.path());
+    first.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
+    second.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
+    QTest::qWait(600);
+    first.Terminate();
+    QTest::qWait(100);
+    second.Terminate();
 }
 
 void ClosingTest::aGameIsTerminated_data() {
@@ -244,21 +313,32 @@ void ClosingTest::aGameIsTerminated_data() {
 
 void ClosingTest::aGameIsTerminated() {
     QFETCH(int, milliseconds);
-    Terminate(QCoreApplication::applicationFilePath(),
-              {milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")}, milliseconds);
+    TerminateAfter(QCoreApplication::applicationFilePath(),
+                   {milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")}, milliseconds);
 }
 
-/// A program that plays game after game until it is told to end.
+/// A program that plays game after game until it is told to end, or does so itself in the first one:
+///   --play | --watch | --end WAY AT
 int PlayOn(int argc, char** argv) {
     QApplication application(argc, argv);
     PrepareApplication(application);
     DataFolder files(qEnvironmentVariable("PLASMOS_DATA").toStdString());
+    QtSettings settings;
     game.Files = &files;
+    game.Settings = &settings;
     const bool watch = std::strcmp(argv[1], "--watch") == 0;
-    UBoard board;
+    ClosingBoard board;
+    if (argc == 4) {
+        board.How = Ways[std::atoi(argv[2])];
+        board.At = std::atoi(argv[3]);
+    }
     AutoPerson person(board);
-    board.SetSpeed(watch ? 1 : 0.05);
-    board.OnQuestion = [&person](Question& question) { person.Answer(question); };
+    board.SetSpeed(watch ? 1 : argc == 4 ? 0 : 0.05);
+    board.OnQuestion = [&](Question& question) {
+        if (board.At == 0 || board.Count < board.At) {
+            person.Answer(question);
+        }
+    };
     const EndSignals endSignals([&board] { board.close(); });
     board.show();
     QTimer again;
@@ -271,7 +351,8 @@ int PlayOn(int argc, char** argv) {
 }  // namespace plasmos::testing
 
 int main(int argc, char** argv) {
-    const bool child = argc == 2 && (std::strcmp(argv[1], "--play") == 0 || std::strcmp(argv[1], "--watch") == 0);
+    const bool child = argc >= 2 && (std::strcmp(argv[1], "--play") == 0 || std::strcmp(argv[1], "--watch") == 0 ||
+                                     std::strcmp(argv[1], "--end") == 0);
     return child ? plasmos::testing::PlayOn(argc, argv)
                  : plasmos::testing::RunWindowTests<plasmos::testing::ClosingTest>(argc, argv);
 }

@@ -4,8 +4,10 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QFont>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPalette>
 #include <QTimer>
 
 #include "model/consistency.h"
@@ -27,7 +29,7 @@ public:
     }
 
     void Act() {
-        switch (Below(12)) {
+        switch (Below(13)) {
             case 0:
             case 1: ClickAnything(); break;
             case 2: PressAKey(); break;
@@ -37,6 +39,7 @@ public:
             case 6: scene_.Board().resize(900 + Below(900), 600 + Below(500)); break;
             case 7: ChangeTheFocus(); break;
             case 8: ClickAButton(); break;
+            case 9: ChangeTheLooks(); break;
             default: AnswerTop();
         }
     }
@@ -108,6 +111,14 @@ private:
         }
     }
 
+    /// The desktop's font and colours change, as with another scale of the screen.
+    void ChangeTheLooks() {
+        QFont font = QApplication::font();
+        font.setPointSizeF(6 + Below(14));
+        QApplication::setFont(font);
+        QApplication::setPalette(Below(2) == 0 ? QPalette(Qt::black) : QPalette(Qt::lightGray));
+    }
+
     Scene& scene_;
     AutoPerson person_;
     Pcg32 generator_;
@@ -117,10 +128,18 @@ class MonkeyTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init();
     void playsAbout_data();
     void playsAbout();
     void thenAnotherGame();
 };
+
+void MonkeyTest::init() {
+    static const QFont font = QApplication::font();
+    static const QPalette palette = QApplication::palette();
+    QApplication::setFont(font);
+    QApplication::setPalette(palette);
+}
 
 void MonkeyTest::playsAbout_data() {
     QTest::addColumn<int>("seed");
