@@ -26,6 +26,7 @@ bool HasSpeed(int clan) {
 /// One pass of the decision: where the amoeba goes, and in which mood.
 class MovePass {
 public:
+    // cppcheck-suppress uninitMemberVar  // a list of squares is filled as far as its count
     MovePass(int clan, int amoeba, bool second)
         : clan_(clan), amoeba_(amoeba), second_(second), origin_(piece().Square), canEatHere_(CanEat(origin_, clan)) {}
 
@@ -68,6 +69,7 @@ private:
                 feeding.Add(reachable[i]);
             }
         }
+        // cppcheck-suppress uninitvar  // filled as far as its count
         return feeding.Count() == 0 ? origin_ : feeding[RollDie(feeding.Count())];
     }
 

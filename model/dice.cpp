@@ -55,11 +55,11 @@ bool ParseReplayNumber(std::string_view text, float& number) {
     if (!LooksDecimal(text)) {
         return false;
     }
+    if (text.substr(0, 2) == "+-") {
+        return false;
+    }
     if (text.front() == '+') {
         text.remove_prefix(1);
-        if (text.empty() || text.front() == '-') {
-            return false;
-        }
     }
     float value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

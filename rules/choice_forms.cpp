@@ -32,7 +32,7 @@ void AmNumfrm::Activate() {
 
 void AmNumfrm::LimitTo(int most) {
     for (int k = 0; k <= 7; ++k) {
-        amopt[k].Enabled = amopt[k].Enabled && k <= most;
+        amopt[k].Enabled = k <= most && amopt[k].Enabled;
     }
 }
 

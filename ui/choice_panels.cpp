@@ -11,13 +11,13 @@ namespace plasmos {
 
 namespace {
 
-QWidget* FirstEnabled(const std::array<QPushButton*, 8>& options) {
+QPushButton* FirstEnabled(const std::array<QPushButton*, 8>& options) {
     for (QPushButton* option : options) {
         if (option->isEnabled() && option->isVisibleTo(option->parentWidget())) {
             return option;
         }
     }
-    return options[0];
+    return options.front();
 }
 
 QString TitleOf(const std::string& caption, const char* fallback) {

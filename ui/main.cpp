@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     DataFolder files(DataFolderPath());
     QtSettings settings;
     game.Files = &files;
+    // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
     game.Settings = &settings;
     const std::string fault = PrepareDataFolder();
     UBoard board;

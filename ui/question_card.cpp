@@ -65,7 +65,7 @@ void QuestionCard::ShowClan(int clan) {
     playerlab->setText(clan > 0 ? ToQt(game.Players[clan].Name.View()) : QString());
     playerlab->setVisible(clan > 0);
     Recolour();
-    resizeEvent(nullptr);
+    Arrange();
 }
 
 void QuestionCard::AskYesNo(bool on) {
@@ -98,6 +98,10 @@ int QuestionCard::HeightFor(int width, bool tight) const {
 }
 
 void QuestionCard::resizeEvent(QResizeEvent*) {
+    Arrange();
+}
+
+void QuestionCard::Arrange() {
     const int head = Pad + 26;
     const int name = std::min(playerlab->sizeHint().width() + 10, std::max(60, width() - head - 190));
     playerlab->setGeometry(head, 8, name, 20);

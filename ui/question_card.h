@@ -37,6 +37,7 @@ protected:
 
 private:
     void Recolour();
+    void Arrange();
 
     QLabel* hint_;
     int messageClan_ = 0;
