@@ -11,6 +11,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 
 #include "model/game_files.h"
 #include "tests/support/game_fixture.h"
@@ -35,6 +36,7 @@ public:
     Way How = Way::Close;
     int Count = 0;
     QElapsedTimer Since;
+    std::function<void()> OnAt;  ///< happens instead of an end
 
     void Wait() override {
         Next();
@@ -47,7 +49,12 @@ public:
 
 private:
     void Next() {
-        if (++Count == At) {
+        if (++Count != At) {
+            return;
+        }
+        if (OnAt) {
+            OnAt();
+        } else {
             SetSpeed(0.2);
             QMetaObject::invokeMethod(
                 this, [this] { BringAbout(); }, Qt::QueuedConnection);
@@ -82,6 +89,7 @@ private slots:
     void theProgramIsTerminated();
     void aProcessEnds_data();
     void aProcessEnds();
+    void aFaultEndsTheProgram();
     void twoProgramsShareTheirFolder();
     void aGameIsTerminated_data();
     void aGameIsTerminated();
@@ -238,11 +246,14 @@ public:
         process_.terminate();
         EndsWell();
     }
-    /// Ends with code 0, no error record, and the window's place saved.
-    void EndsWell() {
+    void Ends(int exitCode) {
         QVERIFY2(process_.waitForFinished(20000), "it does not end");
         QCOMPARE(process_.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process_.exitCode(), 0);
+        QCOMPARE(process_.exitCode(), exitCode);
+    }
+    /// Ends with code 0, no error record, and the window's place saved.
+    void EndsWell() {
+        Ends(0);
         QVERIFY(!QFile::exists(home_ + QStringLiteral("/data/errfile.txt")));
         QVERIFY(!QSettings(home_ + QStringLiteral("/QX/Plasmos.conf"), QSettings::IniFormat)
                      .value(QStringLiteral("board/left"))
@@ -291,6 +302,20 @@ void ClosingTest::aProcessEnds() {
     program.EndsWell();
 }
 
+// A phase that cannot go on: the record is written, and the exit code tells.
+void ClosingTest::aFaultEndsTheProgram() {
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.Start(QCoreApplication::applicationFilePath(), {QStringLiteral("--fault")});
+    program.Ends(1);
+    QFile errors(home.path() + QStringLiteral("/data/errfile.txt"));
+    QVERIFY(errors.open(QIODevice::ReadOnly));
+    const QByteArray records = errors.readAll();
+    QVERIFY(records.startsWith("ReplayNo: 5\r\n"));
+    QVERIFY(
+        records.endsWith("Error #5: Invalid procedure call: the tape has no roll for a die with 6 faces\r\n\r\n\r\n"));
+}
+
 // Both write the same trace files and the same settings.
 void ClosingTest::twoProgramsShareTheirFolder() {
     const QTemporaryDir home;
@@ -318,7 +343,7 @@ void ClosingTest::aGameIsTerminated() {
 }
 
 /// A program that plays game after game until it is told to end, or does so itself in the first one:
-///   --play | --watch | --end WAY AT
+///   --play | --watch | --end WAY AT | --fault
 int PlayOn(int argc, char** argv) {
     QApplication application(argc, argv);
     PrepareApplication(application);
@@ -326,14 +351,22 @@ int PlayOn(int argc, char** argv) {
     QtSettings settings;
     game.Files = &files;
     game.Settings = &settings;
-    const bool watch = std::strcmp(argv[1], "--watch") == 0;
+    const bool fault = std::strcmp(argv[1], "--fault") == 0;
+    const bool watch = fault || std::strcmp(argv[1], "--watch") == 0;
     ClosingBoard board;
-    if (argc == 4) {
+    DiceTape noMoreRolls({});
+    if (fault) {
+        game.HasRequestedReplay = true;
+        game.RequestedReplay = 5;
+        game.RequestedClans = 4;
+        board.At = 60;
+        board.OnAt = [&noMoreRolls] { game.Tape = &noMoreRolls; };
+    } else if (argc == 4) {
         board.How = Ways[std::atoi(argv[2])];
         board.At = std::atoi(argv[3]);
     }
     AutoPerson person(board);
-    board.SetSpeed(watch ? 1 : argc == 4 ? 0 : 0.05);
+    board.SetSpeed(fault || argc == 4 ? 0 : watch ? 1 : 0.05);
     board.OnQuestion = [&](Question& question) {
         if (board.At == 0 || board.Count < board.At) {
             person.Answer(question);
@@ -352,7 +385,7 @@ int PlayOn(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     const bool child = argc >= 2 && (std::strcmp(argv[1], "--play") == 0 || std::strcmp(argv[1], "--watch") == 0 ||
-                                     std::strcmp(argv[1], "--end") == 0);
+                                     std::strcmp(argv[1], "--fault") == 0 || std::strcmp(argv[1], "--end") == 0);
     return child ? plasmos::testing::PlayOn(argc, argv)
                  : plasmos::testing::RunWindowTests<plasmos::testing::ClosingTest>(argc, argv);
 }
