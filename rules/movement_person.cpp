@@ -89,14 +89,20 @@ int ChooseNeighbour(int clan, int amoeba) {
     return ChooseSquare(clan, amoeba, true);
 }
 
-/// The second throw of a clan with "mv1", after a first that led to a square or to a choice.
-int ThrowAgain(int clan, int amoeba, int firstDirection, int square) {
-    const int secondDirection = RollDirection();
-    if (secondDirection == WhereItWants || firstDirection == WhereItWants) {
-        return ChooseNeighbour(clan, amoeba);
+/// Where a throw leads: the square in its direction, or the one that the person chooses.
+int SquareOfThrow(int clan, int amoeba, int direction) {
+    return direction == WhereItWants ? ChooseNeighbour(clan, amoeba)
+                                     : MoveDestination(game.Amoeba[amoeba][clan].Square, direction);
+}
+
+/// The second throw of a clan with "mv1", after a first that led to a square.
+int ThrowAgain(int clan, int amoeba, int one) {
+    const int direction = RollDirection();
+    const int two = SquareOfThrow(clan, amoeba, direction);
+    if (direction == WhereItWants) {
+        return two;
     }
-    const int one = MoveDestination(square, firstDirection);
-    const int two = MoveDestination(square, secondDirection);
+    const int square = game.Amoeba[amoeba][clan].Square;
     const auto& label = game.Amoeba[amoeba][clan].Name;
     if (one == two) {
         TellPerson(clan, Concat(label, one == square ? " will stay in " : " will move to ", one, " instead"));
@@ -124,19 +130,18 @@ int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) 
 }
 
 int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
-    const int square = game.Amoeba[amoeba][clan].Square;
     if (HasGene(clan, "mv2")) {
         return ChooseNeighbour(clan, amoeba);
     }
     const int direction = RollDirection();
     const bool chooses = kind == MoveKind::Escape && direction == WhereItWants;
     if (HasGene(clan, "mv1") && !chooses) {
-        return ThrowAgain(clan, amoeba, direction, square);
+        return ThrowAgain(clan, amoeba, SquareOfThrow(clan, amoeba, direction));
     }
     const bool anyway = kind == MoveKind::FirstAttempt && direction == game.Drift;
     TellPerson(clan,
                Concat("Amoeba ", amoeba, " will move ", DirectionText(direction), anyway ? " anyway." : " instead."));
-    return direction == WhereItWants ? ChooseNeighbour(clan, amoeba) : MoveDestination(square, direction);
+    return SquareOfThrow(clan, amoeba, direction);
 }
 
 void MovePersonsAmoeba(int clan, int amoeba) {

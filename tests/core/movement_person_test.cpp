@@ -73,6 +73,7 @@ using Texts = std::vector<std::string>;
 
 const Texts PaidOffer = {Drifting + PayOffer};
 const Texts PaidOfferAndChoice = {Drifting + PayOffer, Drifting + PayOffer + Choose};
+const Texts PaidOfferAndTwoChoices = {Drifting + PayOffer, Drifting + PayOffer + Choose, Drifting + PayOffer + Choose};
 const Texts TwoOffers = {Drifting + PayOffer, FreeOffer};
 const Texts StreamlinedOffer = {Drifting + FreeOffer};
 
@@ -146,9 +147,14 @@ const AttemptRow TwoDiceRows[] = {
      {"A1 will stay in 13 instead"}, BlockAt<12>},
     {"a_6_on_the_second_throw_lets_it_choose", {"mv1"}, 2, {Yes(), Square(14)}, {2, 6, 9}, 14, 1, PaidOfferAndChoice,
      {}},
-    {"a_6_on_the_first_throw_is_followed_by_the_second", {"mv1"}, 2, {Yes(), Square(12)}, {6, 2, 9}, 12, 1,
-     PaidOfferAndChoice, {}},
-    {"two_sixes", {"mv1"}, 2, {Yes(), Square(8)}, {6, 6, 9}, 8, 1, PaidOfferAndChoice, {}},
+    {"a_6_on_the_first_throw_lets_it_choose_and_throw_again", {"mv1"}, 2, {Yes(), Square(12), Square(18)}, {6, 2, 9},
+     18, 1, PaidOfferAndTwoChoices, {}},
+    {"its_choice_is_one_of_the_two_squares_then", {"mv1"}, 2, {Yes(), Square(12), Square(8), Square(12)}, {6, 2, 9}, 12,
+     1, PaidOfferAndTwoChoices, {}},
+    {"a_second_throw_to_the_chosen_square_asks_no_more", {"mv1"}, 2, {Yes(), Square(18)}, {6, 2, 9}, 18, 1,
+     PaidOfferAndChoice, {"A1 will move to 18 instead"}},
+    {"two_sixes_let_it_choose_twice", {"mv1"}, 2, {Yes(), Square(12), Square(8)}, {6, 6, 9}, 8, 1,
+     PaidOfferAndTwoChoices, {}},
     {"movement_2_chooses_without_a_die", {"mv2"}, 2, {Yes(), Square(8)}, {9}, 8, 1, PaidOfferAndChoice, {}},
     {"movement_2_with_streamlining_costs_nothing", {"mv2", "str"}, 0, {Yes(), Square(12)}, {9}, 12, 0,
      {Drifting + FreeOffer, Drifting + FreeOffer + Choose}, {}},
