@@ -23,7 +23,7 @@ test     libgtest-dev        unit tests
 test     libgmock-dev        matchers of the unit tests
 test     librapidcheck-dev   property tests
 ci       clang               the second compiler
-ci       clang-tidy          reads the core for mistakes
+ci       clang-tidy          reads the sources for mistakes
 ci       clang-format        keeps the sources in one shape
 ci       libclang-rt-dev     sanitizers and fuzzing with clang++
 ci       libbenchmark-dev    benchmarks

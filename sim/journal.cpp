@@ -30,7 +30,7 @@ void Append(std::string& text, const Pieces&... pieces) {
 /// "name":[...] with the elements that put() writes for 1 to count.
 template <class Put>
 void AppendList(std::string& text, std::string_view name, int count, Put&& put) {
-    Append(text, ",\"", name, "\":[");
+    Append(text, ",\"", name, R"(":[)");
     for (int i = 1; i <= count; ++i) {
         Append(text, i == 1 ? "" : ",");
         put(i);
@@ -39,20 +39,20 @@ void AppendList(std::string& text, std::string_view name, int count, Put&& put) 
 }
 
 void AppendFoodFields(std::string& text, const FoodForm& form) {
-    Append(text, ",\"mode\":");
+    Append(text, R"(,"mode":)");
     AppendJsonText(text, form.Mode);
-    Append(text, ",\"square\":", form.Square, ",\"suggested\":", form.SuggestedMenu);
+    Append(text, R"(,"square":)", form.Square, R"(,"suggested":)", form.SuggestedMenu);
     AppendList(text, "inSquare", game.NumPlayers, [&](int colour) { Append(text, form.fdtxt[colour].InSquare); });
-    Append(text, ",\"legal\":");
+    Append(text, R"(,"legal":)");
     AppendJsonText(text, form.LegalMenuLabel);
-    Append(text, ",\"parasitism\":", form.paroptEnabled ? "true" : "false",
-           ",\"struggle\":", form.sfsoptEnabled ? "true" : "false");
+    Append(text, R"(,"parasitism":)", form.paroptEnabled ? "true" : "false", R"(,"struggle":)",
+           form.sfsoptEnabled ? "true" : "false");
 }
 
 void AppendGeneFields(std::string& text, const GeneForm& form) {
-    Append(text, ",\"mode\":");
+    Append(text, R"(,"mode":)");
     AppendJsonText(text, game.DialogMode);
-    Append(text, ",\"bp\":", game.BP[form.Clan], ",\"uvCost\":", form.UVdiff);
+    Append(text, R"(,"bp":)", game.BP[form.Clan], R"(,"uvCost":)", form.UVdiff);
     AppendList(text, "ticked", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Ticked ? 1 : 0); });
     AppendList(text, "enabled", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Enabled ? 1 : 0); });
 }
@@ -68,7 +68,7 @@ void AppendFields(std::string& text, const Question& question) {
         case QuestionKind::Number: {
             const auto& form = static_cast<const AmNumfrm&>(question);
             bool first = true;
-            Append(text, ",\"allowed\":[");
+            Append(text, R"(,"allowed":[)");
             for (int k = 0; k <= 7; ++k) {
                 if (form.amopt[k].Visible && form.amopt[k].Enabled) {
                     Append(text, first ? "" : ",", k);
@@ -87,20 +87,20 @@ void AppendFields(std::string& text, const Question& question) {
 void AppendPiecesOf(std::string& text, int clan) {
     AppendList(text, "amoebas", game.MaxAmoeba, [&](int amoeba) {
         const Piece& piece = game.Amoeba[amoeba][clan];
-        Append(text, "{\"name\":");
+        Append(text, R"({"name":)");
         AppendJsonText(text, piece.Name);
-        Append(text, ",\"square\":", piece.Square, ",\"damage\":", piece.Damage, ",\"spot\":", piece.Slot, "}");
+        Append(text, R"(,"square":)", piece.Square, R"(,"damage":)", piece.Damage, R"(,"spot":)", piece.Slot, "}");
     });
 }
 
 void AppendClan(std::string& text, int clan) {
     const Clan& player = game.Players[clan];
-    Append(text, "{\"name\":");
+    Append(text, R"({"name":)");
     AppendJsonText(text, player.Name);
-    Append(text, ",\"score\":", player.Score, ",\"bp\":", game.BP[clan], ",\"mutation\":", player.MutationLevel,
-           ",\"personality\":", player.Personality, ",\"personalityName\":");
+    Append(text, R"(,"score":)", player.Score, R"(,"bp":)", game.BP[clan], R"(,"mutation":)", player.MutationLevel,
+           R"(,"personality":)", player.Personality, R"(,"personalityName":)");
     AppendJsonText(text, player.PersonalityName);
-    Append(text, ",\"computer\":", player.IsComputer ? "true" : "false", ",\"genes\":[");
+    Append(text, R"(,"computer":)", player.IsComputer ? "true" : "false", R"(,"genes":[)");
     bool first = true;
     for (int gene = 1; gene <= GeneCount; ++gene) {
         if (game.Genes[gene][clan]) {
@@ -125,8 +125,8 @@ void AppendJsonText(std::string& text, std::string_view value) {
 }
 
 void AppendState(std::string& text) {
-    Append(text, "{\"turn\":", game.Turn, ",\"uv\":", game.UVLevel, ",\"drift\":", game.Drift,
-           ",\"gameOver\":", game.GameOver ? "true" : "false");
+    Append(text, R"({"turn":)", game.Turn, R"(,"uv":)", game.UVLevel, R"(,"drift":)", game.Drift, R"(,"gameOver":)",
+           game.GameOver ? "true" : "false");
     AppendList(text, "deck", LastCard + 1, [&](int i) {
         const EnvironmentCard& card = game.EnvDeck[i - 1];
         Append(text, "[", card.UV, ",", card.DriftDirection, "]");
@@ -145,8 +145,8 @@ void AppendState(std::string& text) {
 }
 
 std::string GameRecord() {
-    std::string text = Concat("{\"t\":\"game\",\"replay\":", ReplayText(game.ReplayNo), ",\"clans\":", game.NumPlayers,
-                              ",\"rows\":", game.NumRows, ",\"cols\":", game.NumCols, ",\"blocks\":[");
+    std::string text = Concat(R"({"t":"game","replay":)", ReplayText(game.ReplayNo), R"(,"clans":)", game.NumPlayers,
+                              R"(,"rows":)", game.NumRows, R"(,"cols":)", game.NumCols, R"(,"blocks":[)");
     const auto separate = [&] { Append(text, text.back() == '[' ? "" : ","); };
     for (int square = 1; square <= game.NumSquares; ++square) {
         if (game.Blocked[square]) {
@@ -154,8 +154,8 @@ std::string GameRecord() {
             Append(text, square);
         }
     }
-    Append(text, "],\"difficulty\":\"", game.Menu.normmen ? "Normal" : "Easy",
-           "\",\"victory\":", game.Menu.victorymen ? "true" : "false", ",\"persons\":[");
+    Append(text, R"(],"difficulty":")", game.Menu.normmen ? "Normal" : "Easy", R"(","victory":)",
+           game.Menu.victorymen ? "true" : "false", R"(,"persons":[)");
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         if (!game.Players[clan].IsComputer) {
             separate();
@@ -171,16 +171,16 @@ void Journal::Start() {
 }
 
 void Journal::OnRoll(int n, int face) {
-    Append(text_, "{\"t\":\"roll\",\"n\":", n, ",\"r\":", face, "}\n");
+    Append(text_, R"({"t":"roll","n":)", n, R"(,"r":)", face, "}\n");
 }
 
 void Journal::OnBegin(Step step, int clan, int amoeba) {
-    Append(text_, "{\"t\":\"begin\",\"step\":\"", StepName(step), "\",\"turn\":", game.Turn);
+    Append(text_, R"({"t":"begin","step":")", StepName(step), R"(","turn":)", game.Turn);
     if (clan != 0) {
-        Append(text_, ",\"clan\":", clan);
+        Append(text_, R"(,"clan":)", clan);
     }
     if (amoeba != 0) {
-        Append(text_, ",\"amoeba\":", amoeba);
+        Append(text_, R"(,"amoeba":)", amoeba);
     }
     Append(text_, "}\n");
 }
@@ -189,33 +189,33 @@ void Journal::OnEnd(Step step, int /*clan*/, int /*amoeba*/) {
     if (step == Step::NewGame) {
         text_.insert(0, GameRecord());
     }
-    Append(text_, "{\"t\":\"end\",\"step\":\"", StepName(step), "\",\"state\":");
+    Append(text_, R"({"t":"end","step":")", StepName(step), R"(","state":)");
     AppendState(text_);
     Append(text_, "}\n");
 }
 
 void Journal::OnSay(std::string_view line) {
-    Append(text_, "{\"t\":\"say\",\"text\":");
+    Append(text_, R"({"t":"say","text":)");
     AppendJsonText(text_, line);
     Append(text_, "}\n");
 }
 
 void Journal::OnBox(std::string_view text) {
-    Append(text_, "{\"t\":\"box\",\"text\":");
+    Append(text_, R"({"t":"box","text":)");
     AppendJsonText(text_, text);
     Append(text_, "}\n");
 }
 
 void Journal::OnAsk(const Question& question) {
-    Append(text_, "{\"t\":\"ask\",\"kind\":\"", QuestionKindName(question.Kind), "\",\"clan\":", question.Clan,
-           ",\"text\":");
+    Append(text_, R"({"t":"ask","kind":")", QuestionKindName(question.Kind), R"(","clan":)", question.Clan,
+           R"(,"text":)");
     AppendJsonText(text_, question.Text);
     AppendFields(text_, question);
     Append(text_, "}\n");
 }
 
 void Journal::OnAnswer(const Question& /*question*/, std::string_view value, bool accepted) {
-    Append(text_, "{\"t\":\"answer\",\"value\":");
+    Append(text_, R"({"t":"answer","value":)");
     if (IsWholeNumber(value)) {
         Append(text_, value);
     } else {
@@ -225,7 +225,7 @@ void Journal::OnAnswer(const Question& /*question*/, std::string_view value, boo
 }
 
 void Journal::OnOver() {
-    Append(text_, "{\"t\":\"over\",\"turns\":", std::min(game.Turn, LastTurn), ",\"winner\":", game.PlayOrder[1]);
+    Append(text_, R"({"t":"over","turns":)", std::min(game.Turn, LastTurn), R"(,"winner":)", game.PlayOrder[1]);
     AppendList(text_, "order", game.NumPlayers, [&](int place) { Append(text_, game.PlayOrder[place]); });
     Append(text_, "}\n");
 }

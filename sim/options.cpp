@@ -42,7 +42,7 @@ void CheckBoard(const SimOptions& options) {
 
 void CheckReplay(const SimOptions& options) {
     const double first = options.FirstReplay;
-    const double games = static_cast<double>(options.Games);
+    const auto games = static_cast<double>(options.Games);
     if (first + games >= ReplayBound || first <= -ReplayBound) {
         throw UsageError(Concat("--replay: the first replay number plus the number of games must stay below 16777216, ",
                                 "and the first above -16777216"));

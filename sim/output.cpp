@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "model/text.h"
 
@@ -26,7 +27,7 @@ bool IsDrafted(const std::string& name) {
 
 }  // namespace
 
-Output::Output(const std::string& name) : name_(name) {
+Output::Output(std::string name) : name_(std::move(name)) {
     if (name_.empty()) {
         file_ = stdout;
         return;

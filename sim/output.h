@@ -18,7 +18,7 @@ struct OutputError : std::runtime_error {
 class Output {
 public:
     /// An empty name: standard output. Throws OutputError when the file cannot be opened.
-    explicit Output(const std::string& name);
+    explicit Output(std::string name);
     ~Output();
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;

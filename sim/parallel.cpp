@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -114,12 +115,7 @@ void Work(const SimOptions& options, GameFiles* files, PackQueue& queue, const s
 
 /// Hands one pack over. False: no more results are wanted, or the pack was cut short.
 bool HandOver(const Pack& pack, const std::function<bool(const GameResult&)>& take) {
-    for (const GameResult& result : pack) {
-        if (!take(result)) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(pack.begin(), pack.end(), take);
 }
 
 /// The jobs of a run; they end with it, however it ends.

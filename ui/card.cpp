@@ -14,7 +14,7 @@ namespace {
 QColor Mixed(const QColor& colour, double white) {
     const double share = colour.lightness() < 140 && colour.blue() > 200 && colour.red() < 60 ? white * 0.25 : white;
     const auto mix = [share](int part) { return static_cast<int>(part + (255 - part) * share); };
-    return QColor(mix(colour.red()), mix(colour.green()), mix(colour.blue()));
+    return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     QApplication application(argc, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     DataFolder files(DataFolderPath());
     QtSettings settings;
     game.Files = &files;

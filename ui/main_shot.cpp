@@ -198,7 +198,7 @@ int main(int argc, char** argv) {
     }
     int count = 1;
     QApplication application(count, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     const QTemporaryDir folder;
     DataFolder files(folder.path().toStdString());
     MemorySettings settings;

@@ -44,7 +44,7 @@ const ClanShades& ShadesOf(int clan) {
 }
 
 QColor FromBgr(std::int32_t colour) {
-    return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+    return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
 QColor LabelBackground(int clan) {
@@ -53,7 +53,7 @@ QColor LabelBackground(int clan) {
 
 QColor LabelText(int clan) {
     if (clan < 1 || clan > MaxClans) {
-        return QColor(look::Ink);
+        return {look::Ink};
     }
     return game.Players[clan].Colour == Blue ? QColor(255, 255, 0) : QColor(Qt::black);
 }
@@ -149,12 +149,12 @@ QString LookSheet() {
         "QToolTip{background:#FFFBE6;color:#22272B;border:1px solid #CFC8B8}");
 }
 
-void PrepareApplication(QApplication& application) {
+void PrepareApplication() {
     QApplication::setOrganizationName(QStringLiteral("QX"));
     QApplication::setApplicationName(QStringLiteral("Plasmos"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    application.setPalette(LookPalette());
-    application.setFont(LookFont(13));
+    QApplication::setPalette(LookPalette());
+    QApplication::setFont(LookFont(13));
 }
 
 }  // namespace plasmos

@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <string_view>
 
-class QApplication;
 class QPainter;
 
 namespace plasmos {
@@ -60,7 +59,7 @@ QPalette LookPalette();
 /// Style sheet of the window's ordinary controls.
 QString LookSheet();
 /// Names, style and palette of the application; call once after it is made.
-void PrepareApplication(QApplication& application);
+void PrepareApplication();
 
 inline QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));

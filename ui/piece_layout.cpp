@@ -81,7 +81,9 @@ std::vector<Lying> PiecesIn(int square) {
 
 QPointF SquareCorner(int square) {
     const int place = std::max(square - 1, 0);
-    return QPointF(place % game.NumCols, place / game.NumCols) * SquareUnits;
+    const int row = place / game.NumCols;
+    const int column = place % game.NumCols;
+    return QPointF(column, row) * SquareUnits;
 }
 
 QPointF SpotCentre(int spot, int square, double radius) {

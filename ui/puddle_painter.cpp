@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 #include <algorithm>
+#include <cmath>
 
 #include "model/game_state.h"
 #include "ui/palette.h"
@@ -58,8 +59,9 @@ void DrawWater(QPainter& painter, const QRectF& puddle) {
     QPainterPath edge;
     edge.addRoundedRect(puddle, 130, 130);
     painter.setClipPath(edge);
-    int wave = 0;
-    for (double y = puddle.top() + 380; y < puddle.bottom(); y += 670, ++wave) {
+    const int waves = static_cast<int>(std::ceil((puddle.height() - 380) / 670));
+    for (int wave = 0; wave < waves; ++wave) {
+        const double y = puddle.top() + 380 + 670 * wave;
         const double x = puddle.left() + 240 + (wave * 977) % 1400;
         QPainterPath ripple(QPointF(x, y));
         for (int i = 0; i < 3; ++i) {

@@ -132,7 +132,7 @@ void PuddleView::DrawBackground() {
                       .arg(devicePixelRatioF())
                       .arg(game.NumRows)
                       .arg(game.NumCols)
-                      .arg(gridlines_);
+                      .arg(gridlines_ ? 1 : 0);
     for (int square = 1; square <= game.NumSquares; ++square) {
         key += QLatin1Char(game.Blocked[square] ? '1' : '0');
     }
@@ -182,7 +182,7 @@ void PuddleView::DrawWaiting(QPainter& painter) const {
         }
     }
     for (int clan = 1; clan <= MaxClans; ++clan) {
-        const auto place = (static_cast<std::size_t>(clan) * 2 - 1) * free.size() / (2 * MaxClans);
+        const auto place = (static_cast<std::size_t>(clan) * 2 - 1) * free.size() / (std::size_t{2} * MaxClans);
         const QPointF corner = SquareCorner(free[place]);
         const double aside = clan % 2 == 0 ? 480 : 720;
         DrawBlob(painter, {clan, clan, 0, false, false, 1}, corner + QPointF(aside, 600), 330);

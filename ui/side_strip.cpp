@@ -69,6 +69,7 @@ int SideStrip::ArrangeHead() {
 // The topmost dialog comes first; those below it follow while there is room.
 int SideStrip::ArrangePanels(int top) {
     bool first = true;
+    // NOLINTNEXTLINE(modernize-loop-convert): clang++ 14 cannot compile the views of <ranges>
     for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
         const int wanted = (*panel)->HeightFor(width());
         const bool fits = top + wanted <= height();

@@ -346,7 +346,7 @@ void ClosingTest::aGameIsTerminated() {
 ///   --play | --watch | --end WAY AT | --fault
 int PlayOn(int argc, char** argv) {
     QApplication application(argc, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     DataFolder files(qEnvironmentVariable("PLASMOS_DATA").toStdString());
     QtSettings settings;
     game.Files = &files;

@@ -153,7 +153,7 @@ int RunWindowTests(int argc, char** argv) {
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    PrepareApplication(application);
+    PrepareApplication();
     Tests tests;
     return QTest::qExec(&tests, argc, argv);
 }
