@@ -31,6 +31,14 @@ there=$(wine "$folder/plasmos-sim.exe" --bench --games $games | signature)
 echo "signature of $games games: here $here, under Wine $there"
 [ "$here" = "$there" ]
 
-wine "$folder/plasmos-sim.exe" --games 1 --data 'C:\QX\Plasmo6' >/dev/null 2>&1
-find "$WINEPREFIX/drive_c/QX" | sort
-[ -f "$WINEPREFIX/drive_c/QX/Plasmo6/movefil.txt" ]
+# A game as the window plays it makes its data folder, and nothing else on the whole disk.
+x86_64-w64-mingw32-g++-posix -std=c++20 -O2 -static -I "$root" -o "$folder/one-game.exe" \
+    "$root/tests/support/main_one_game.cpp" "$folder/libplasmos_core.a"
+disk=$WINEPREFIX/drive_c
+rm -rf "$disk/QX"
+find "$disk" | sort >"$folder/before.txt"
+wine "$folder/one-game.exe"
+find "$disk" | sort >"$folder/after.txt"
+made=$(comm -13 "$folder/before.txt" "$folder/after.txt" | sed "s|^$disk/||" | tr '\n' ' ')
+echo "made on the disk: $made"
+[ "$made" = 'QX QX/Plasmo6 QX/Plasmo6/movefil.txt QX/Plasmo6/zynames.txt ' ]

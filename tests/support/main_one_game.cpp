@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One game of computer clans with trace files where the window would keep them, for looking afterwards
+// at what lies on the disk.
+#include <cstdio>
+
+#include "flow/play_game.h"
+#include "flow/start.h"
+#include "model/game_files.h"
+#include "model/game_state.h"
+#include "model/platform.h"
+
+int main() {
+    using namespace plasmos;
+    DataFolder files(DataFolderPath());
+    game.Files = &files;
+    if (const auto fault = PrepareDataFolder(); !fault.empty()) {
+        std::fprintf(stderr, "%s\n", fault.c_str());
+        return 1;
+    }
+    LoadBoard();
+    game.RequestedClans = 4;
+    game.FastMode = true;
+    PlayUnattended();
+    std::printf("%s\n", files.PathOf({}).c_str());
+    return game.Turn == LastTurn + 1 ? 0 : 1;
+}
