@@ -60,6 +60,11 @@ std::string CheckSquare(int square) {
             return Concat("square ", square, " holds ", food, " food of clan ", clan);
         }
     }
+    for (int colour = game.NumPlayers + 1; colour <= MaxClans; ++colour) {
+        if (game.Food[square][colour] != 0) {
+            return Concat("square ", square, " holds food of colour ", colour, ", which is not in play");
+        }
+    }
     for (int clan = 0; clan <= MaxClans; ++clan) {
         if (count[clan] != game.Occupancy[square][clan]) {
             return Concat("square ", square, " counts ", int{game.Occupancy[square][clan]}, " pieces in column ", clan,

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/move_amoeba.h"
 
+#include <array>
+#include <cstddef>
 #include <exception>
-#include <vector>
 
 #include "model/dice.h"
 #include "model/genes.h"
@@ -24,7 +25,17 @@ struct Rider {
     int Amoeba;
 };
 
-using RiderList = std::vector<Rider>;
+/// Riders in the order in which they follow; every piece of a game finds room.
+class RiderList {
+public:
+    void Add(const Rider& rider) { riders_[count_++] = rider; }
+    const Rider* begin() const { return riders_.data(); }
+    const Rider* end() const { return riders_.data() + count_; }
+
+private:
+    std::array<Rider, std::size_t{MaxClans} * MaxPieces> riders_;  // filled as far as count_
+    std::size_t count_ = 0;
+};
 
 void LayFood(const TentacleLoad& load, int from, int to, int sign) {
     for (int colour = 1; load.HasFood && colour <= game.NumPlayers; ++colour) {
@@ -67,7 +78,7 @@ void AskRiders(int clan, int from, int to, RiderList& riders) {
     VictimForm form(clan, "HOLD", "Choose the Hitch-hiker(s):", from);
     ForPiecesIn(from, clan, [&](int amoeba) { form.Allow(clan, amoeba); });
     for (const VictimFigure& figure : AskVictims(form)) {
-        riders.push_back({figure.Clan, figure.Amoeba});
+        riders.Add({figure.Clan, figure.Amoeba});
     }
 }
 
@@ -86,7 +97,7 @@ RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
         if (!game.Players[clan].IsComputer) {
             AskRiders(clan, from, to, riders);
         } else if (WantsToRide(clan, from, to, load)) {
-            ForPiecesIn(from, clan, [&](int amoeba) { riders.push_back({clan, amoeba}); });
+            ForPiecesIn(from, clan, [&](int amoeba) { riders.Add({clan, amoeba}); });
         }
     }
     return riders;
@@ -146,7 +157,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     if (load.DraggedAmoeba != 0) {
         --game.BP[clan];
         Show(&Presentation::ShowBP, clan);
-        riders.push_back({clan, load.DraggedAmoeba});
+        riders.Add({clan, load.DraggedAmoeba});
     }
     for (const Rider& rider : riders) {
         MoveAlone(rider.Clan, rider.Amoeba, destination);

@@ -59,6 +59,7 @@ const FaultRow FaultRows[] = {
      "mv1"},
     {"an_amoeba_too_many_counted", [] { ++game.AmoebaCount[1]; }, "clan 1"},
     {"an_amoeba_too_few_counted", [] { --game.AmoebaCount[4]; }, "clan 4"},
+    {"food_of_a_colour_that_is_not_in_play", [] { game.Food[7][5] = 1; }, "square 7 holds food of colour 5"},
     {"a_piece_on_a_block",
      [] {
          LiftPiece(1, 2);

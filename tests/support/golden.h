@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,9 @@ struct GoldenGame {
     std::string Name;
     SimOptions Options;
 };
+inline void PrintTo(const GoldenGame& golden, std::ostream* out) {
+    *out << golden.Name;
+}
 
 /// The six recorded games: computer clans of every number, boards with and without blocks, persons.
 std::vector<GoldenGame> GoldenGames();
