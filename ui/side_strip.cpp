@@ -17,7 +17,7 @@ namespace {
 
 constexpr int Gap = 8;
 constexpr int QuestionHeight = 154;
-constexpr int LeastLog = 54;
+constexpr int LeastLog = 48;
 constexpr int PleasantLog = 130;
 
 }  // namespace
@@ -59,7 +59,7 @@ int SideStrip::ArrangeHead() {
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {
-        const int start = Start->sizeHint().height();
+        const int start = Start->HeightFor(width());
         Start->setGeometry(0, top, width(), start);
         top += start + Gap;
     }

@@ -19,13 +19,18 @@ public:
 
     /// A line about the game that is over; empty before the first.
     void ShowResult(const QString& line, int clan);
-    QSize sizeHint() const override { return {440, 214}; }
+    /// A result is told in fewer lines where there is little room, so that the final scores stay in sight.
+    int HeightFor(int width) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    bool IsShort(int width) const { return winner_ > 0 && width < Roomy; }
+
+    static constexpr int Roomy = 420;
+
     QLabel* title_;
     FitLabel* text_;
     QLabel* replayLabel_;

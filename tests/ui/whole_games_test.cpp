@@ -195,6 +195,9 @@ void WholeGamesTest::aPersonPlays() {
     QCOMPARE(CheckConsistency(true), std::string());
     QCOMPARE(scene.FileText(ErrorFile), QString());
     QVERIFY(scene.Sees(QStringLiteral("gob")) && scene.Enabled(QStringLiteral("gob")));
+    QVERIFY2(scene.Sees(QStringLiteral("orderlab1")), "the final scores are hidden");
+    const QWidget* watch = scene.Find(QStringLiteral("watchb"));
+    QVERIFY2(watch->width() >= watch->sizeHint().width(), "a button's text is cut");
     QVERIFY(scene.Sees(QStringLiteral("txtReplay")));
     QCOMPARE(scene.Text(QStringLiteral("txtReplay")), QString());
     QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isEnabled());
