@@ -112,6 +112,7 @@ void SetUpGame() {
     ShuffleEnvDeck();
     game.Drift = game.EnvDeck[0].DriftDirection;
     Show(&Presentation::ShowDrift);
+    Show(&Presentation::ShowAutoFlags, 0);
     game.NumPlayers = GetPlayerCount();
     game.MaxAmoeba = game.NumPlayers >= 5 ? 6 : 7;
     FillScoreTables();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flow/play_game.h"
 
+#include <cstdio>
 #include <exception>
 
 #include "flow/new_game.h"
 #include "flow/scoring.h"
+#include "flow/start.h"
 #include "model/dice.h"
 #include "model/game_files.h"
 #include "model/narration.h"
@@ -32,6 +34,21 @@ void WriteHeader() {
     Board().StartLog(header);
 }
 
+void TellInABox(const std::string& text) {
+    BoxQuestion box(0, text);
+    OpenQuestion open(box);
+    open.Wait();
+}
+
+/// Without its data folder no game begins.
+void RefuseGame(const std::string& fault) {
+    if (game.Window == nullptr) {
+        std::fprintf(stderr, "%s\n", fault.c_str());
+        throw ProgramEnd{1};
+    }
+    TellInABox(fault);
+}
+
 /// Ends this game and tells the person what happened and where; the window stays usable.
 void EndBrokenGame(const RuntimeError& error) {
     const int clan = game.CurPlayer;
@@ -42,23 +59,30 @@ void EndBrokenGame(const RuntimeError& error) {
     const auto name = game.Players[clan].Name.String();
     const auto where = clan != 0 ? Concat("\nClan ", clan, " (", name, ")") : std::string();
     game.AutoPlay = false;
-    BoxQuestion box(
-        0, Concat("This game cannot go on.\nError #", error.Number, ": ", std::string_view(error.what()), where));
-    OpenQuestion open(box);
-    open.Wait();
+    TellInABox(Concat("This game cannot go on.\nError #", error.Number, ": ", std::string_view(error.what()), where));
+}
+
+/// Plays; an error ends the game. The person may leave it while its last box is open, too.
+template <class Game>
+void PlayToTheEnd(Game&& play) {
+    try {
+        play();
+    } catch (const std::exception&) {
+        EndBrokenGame(CurrentError());
+    }
 }
 
 template <class Game>
 void PlayGuarded(Game&& play) {
     try {
-        if (game.Files != nullptr) {
-            game.Files->MakeFolder();
+        if (const auto fault = PrepareDataFolder(); fault.empty()) {
+            PlayToTheEnd(play);
+        } else {
+            RefuseGame(fault);
         }
-        play();
     } catch (const GameLeft&) {
+        game.AutoPlay = false;
         Show(&Presentation::DisableAutoEating);
-    } catch (const std::exception&) {
-        EndBrokenGame(CurrentError());
     }
 }
 

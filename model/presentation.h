@@ -48,7 +48,8 @@ public:
     virtual void ShowCurrentClan(int /*clan*/) {}
     /// A clan's genes and the mutation level in their tool tip.
     virtual void ShowGenes(int /*clan*/) {}
-    /// Automatic eating and tentacle use: check marks, labels and what is enabled follow the clan.
+    /// Automatic eating and tentacle use: check marks, labels and what is enabled follow the
+    /// clan; 0: a new game begins, nothing is automatic.
     virtual void ShowAutoFlags(int /*clan*/) {}
     /// The game is over: nothing automatic can be switched on until the next.
     virtual void DisableAutoEating() {}

@@ -25,11 +25,13 @@ for target in "${targets[@]}"; do
     grown=$folder/corpus/$target
     mkdir -p "$grown"
     echo "=== $target, $seconds seconds"
+    status=0
     "$folder/tests/fuzz/${target}_fuzz" -max_total_time="$seconds" -timeout=20 -max_len=8192 -print_final_stats=1 \
-        -artifact_prefix="$folder/$target-" "$grown" "$root/tests/fuzz/corpus/$target" 2>&1 |
-        grep -E 'ERROR|SUMMARY|does not hold|stat::number_of_executed_units|artifact' || true
-    if compgen -G "$folder/$target-*" >/dev/null; then
-        echo "$target: there is a finding, see $folder" >&2
+        -artifact_prefix="$folder/$target-" "$grown" "$root/tests/fuzz/corpus/$target" >"$folder/$target.log" 2>&1 ||
+        status=$?
+    grep -E 'ERROR|SUMMARY|does not hold|stat::number_of_executed_units|artifact' "$folder/$target.log" || true
+    if [ "$status" -ne 0 ] || compgen -G "$folder/$target-*" >/dev/null; then
+        echo "$target: there is a finding, see $folder/$target.log" >&2
         exit 1
     fi
 done

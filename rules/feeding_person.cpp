@@ -137,6 +137,7 @@ private:
             }
         }
         if (form_.fdtxt[7].Visible || !victims.HasChoice()) {
+            Board().ShowMessage("There is no further host to pick; eat, or design another menu.", form_.Clan);
             return;
         }
         const auto picked = AskVictims(victims);

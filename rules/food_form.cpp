@@ -92,6 +92,11 @@ void FoodForm::fdtxt_LostFocus(int field) {
     }
 }
 
+void FoodForm::SendHostsAway() {
+    Hosts = {};
+    fdtxt[0].Visible = fdtxt[7].Visible = false;
+}
+
 void FoodForm::paropt_Click() {
     if (!paroptEnabled) {
         return;
@@ -100,8 +105,7 @@ void FoodForm::paropt_Click() {
     if (paroptValue) {
         sfsoptValue = false;
     } else {
-        Hosts = {};
-        fdtxt[0].Visible = fdtxt[7].Visible = false;
+        SendHostsAway();
     }
     UpdateButtons();
 }
@@ -113,8 +117,7 @@ void FoodForm::sfsopt_Click() {
     sfsoptValue = !sfsoptValue;
     if (sfsoptValue && paroptValue) {
         paroptValue = false;
-        Hosts = {};
-        fdtxt[0].Visible = fdtxt[7].Visible = false;
+        SendHostsAway();
     }
     UpdateButtons();
 }
@@ -142,6 +145,8 @@ void FoodForm::suggest_Click() {
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         fdtxt[colour].Text = Concat(SuggestedAmounts[colour]);
     }
+    paroptValue = false;
+    SendHostsAway();
     UpdateButtons();
 }
 

@@ -44,6 +44,8 @@ public:
     /// What the fields hold, as one line: "0,2,1" for the colours 1 to NumPlayers.
     std::string Entry() const;
     bool AllZero() const;
+    /// Withdraws the lent pieces.
+    void SendHostsAway();
     /// Works out eatb and victimb from the fields and alternatives.
     void UpdateButtons();
 

@@ -167,6 +167,9 @@ void GeneForm::resetb_Click() {
 }
 
 void GeneForm::doneb_Click() {
+    if (game.DoneFlag != 0) {
+        return;
+    }
     if (game.DialogMode == "ENVIRONMENT") {
         if (UVdiff > 0) {
             NoteAnswer(*this, "done", false);

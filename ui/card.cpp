@@ -3,6 +3,8 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextLayout>
+#include <cmath>
 
 #include "ui/palette.h"
 
@@ -81,6 +83,55 @@ void FitLabel::Fit() {
             return;
         }
     }
+}
+
+WrapLabel::WrapLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+double WrapLabel::LayOut(QTextLayout& layout, double width) const {
+    QString lines = text();
+    layout.setText(lines.replace(QLatin1Char('\n'), QChar::LineSeparator));
+    layout.setFont(font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    double y = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(std::max(width, 20.0));
+        line.setPosition(QPointF(0, y));
+        y += line.height();
+    }
+    layout.endLayout();
+    return y;
+}
+
+int WrapLabel::heightForWidth(int width) const {
+    QTextLayout layout;
+    return wordWrap() ? static_cast<int>(std::ceil(LayOut(layout, width))) : QLabel::heightForWidth(width);
+}
+
+QSize WrapLabel::sizeHint() const {
+    constexpr int usual = 300;
+    return wordWrap() ? QSize(usual, heightForWidth(usual)) : QLabel::sizeHint();
+}
+
+QSize WrapLabel::minimumSizeHint() const {
+    return wordWrap() ? QSize(40, QFontMetrics(font()).height()) : QLabel::minimumSizeHint();
+}
+
+void WrapLabel::paintEvent(QPaintEvent* event) {
+    if (!wordWrap()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QTextLayout layout;
+    LayOut(layout, width());
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    layout.draw(&painter, QPointF(0, 0));
 }
 
 QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, QRgb colour) {

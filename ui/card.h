@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QWidget>
 
+class QTextLayout;
+
 namespace plasmos {
 
 /// A rounded card of the strip beside the board.
@@ -48,6 +50,23 @@ private:
 
     int largest_;
     int smallest_;
+};
+
+/// A text that breaks at blanks, and within a word that is longer than a line, such as a path.
+class WrapLabel : public QLabel {
+public:
+    explicit WrapLabel(QWidget* parent);
+
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    /// Breaks the text into lines and gives their height.
+    double LayOut(QTextLayout& layout, double width) const;
 };
 
 /// A plain label of a size, weight and colour.

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/choice_panels.h"
 
+#include <QFontMetrics>
 #include <QGridLayout>
+#include <QIcon>
+#include <QPainter>
 #include <algorithm>
 
 #include "model/game_state.h"
+#include "ui/blob_shape.h"
 #include "ui/palette.h"
 
 namespace plasmos {
@@ -24,11 +28,36 @@ QString TitleOf(const std::string& caption, const char* fallback) {
     return caption.empty() ? QString::fromLatin1(fallback) : ToQt(caption);
 }
 
+/// The piece as it looks on the board.
+QIcon BlobIcon(int clan, int amoeba, double ratio) {
+    constexpr int side = 24;
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    BlobLook look;
+    look.Clan = clan;
+    look.Amoeba = amoeba;
+    DrawBlob(painter, look, QPointF(side / 2.0, side / 2.0), side / 2.0 - 2);
+    return QIcon(picture);
+}
+
+/// A name on half a dialog's width; an "&" in it is a letter like any other.
+QString ButtonText(const QPushButton& button, const std::string& name) {
+    constexpr int widest = 96;
+    return QFontMetrics(button.font())
+        .elidedText(ToQt(name), Qt::ElideRight, widest)
+        .replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
 }  // namespace
 
 QLabel* MakeText(QWidget* parent, const char* name, int pixels) {
-    QLabel* label = MakeLabel(parent, QString::fromLatin1(name), pixels, false, look::Ink);
-    label->setWordWrap(true);
+    auto* label = new WrapLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(LookFont(pixels));
+    SetLabelColour(label, QColor(look::Ink));
     return label;
 }
 
@@ -83,6 +112,7 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
     for (int k = 0; k <= 7; ++k) {
         QPushButton* option = MakeButton(QStringLiteral("amopt%1").arg(k), QString(), false);
         option->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        option->setIconSize(QSize(24, 24));
         connect(option, &QPushButton::clicked, this, [this, k] { Handle([this, k] { form_.amopt_Click(k); }); });
         options_[static_cast<std::size_t>(k)] = option;
         grid->addWidget(option, std::max(k - 1, 0) / 2, (k + 1) % 2);
@@ -90,6 +120,9 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
     grid->addWidget(none_, 4, 0, 1, 2);
     connect(none_, &QPushButton::clicked, this, [this] { Handle([this] { form_.amoptb_Click(); }); });
     Body()->addLayout(grid);
+    std::vector<QWidget*> controls(options_.begin() + 1, options_.end());
+    controls.push_back(none_);
+    OrderTabs(controls);
     AmoebaPanel::Reread();
 }
 
@@ -101,7 +134,9 @@ void AmoebaPanel::Reread() {
         const ChoiceOption& choice = form_.amopt[k];
         option->setVisible(choice.Visible && k > 0);
         option->setEnabled(choice.Enabled);
-        option->setText(QStringLiteral("%1  %2").arg(k).arg(ToQt(choice.Caption)));
+        option->setText(ButtonText(*option, choice.Caption));
+        option->setToolTip(ToQt(choice.Caption));
+        option->setIcon(k > 0 && Clan() > 0 ? BlobIcon(Clan(), k, devicePixelRatioF()) : QIcon());
     }
 }
 

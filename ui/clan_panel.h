@@ -41,7 +41,7 @@ private:
     double CardHeight() const;
     Columns ColumnsOf() const;
     QRectF CardRect(int place) const;
-    bool Roomy() const { return CardHeight() >= 66; }
+    bool Roomy() const { return CardHeight() >= 70; }
     void Arrange();
     void DrawCard(QPainter& painter, int place) const;
     void DrawFigures(QPainter& painter, int clan, const QRectF& card) const;

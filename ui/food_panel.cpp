@@ -64,6 +64,12 @@ FoodPanel::FoodPanel(QWidget* parent, FoodForm& form)
     Body()->addLayout(buttons);
     connect(eatb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.eatb_Click(); }); });
     connect(victimb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.victimb_Click(); }); });
+    std::vector<QWidget*> controls;
+    for (int field = 1; field <= MaxClans; ++field) {
+        controls.push_back(rows_[static_cast<std::size_t>(field)].Entry);
+    }
+    controls.insert(controls.end(), {suggest_, paropt_, sfsopt_, eatb_, victimb_});
+    OrderTabs(controls);
     FoodPanel::Reread();
 }
 
@@ -92,6 +98,7 @@ void FoodPanel::MakeRow(int field) {
     auto* cube = new QLabel(row.Line);
     cube->setPixmap(CubePicture(IsLent(field) ? 0 : field, devicePixelRatioF()));
     row.Name = MakeLabel(row.Line, QStringLiteral("fdname%1").arg(field), 13, false, look::Ink);
+    row.Name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row.Count = MakeLabel(row.Line, QStringLiteral("fdlab%1").arg(field), 14, true, look::Ink);
     row.Count->setToolTip(QStringLiteral("Pieces of this colour in the square"));
     row.Entry = new QLineEdit(row.Line);
@@ -100,11 +107,14 @@ void FoodPanel::MakeRow(int field) {
     row.Entry->setAlignment(Qt::AlignCenter);
     row.Entry->installEventFilter(this);
     const QString step = QStringLiteral("padding:0;min-width:24px;max-width:24px;min-height:22px;font-size:15px");
-    row.Less = MakeButton(QStringLiteral("less%1").arg(field), QStringLiteral("−"), false);
-    row.More = MakeButton(QStringLiteral("more%1").arg(field), QStringLiteral("+"), false);
+    row.Less = new QPushButton(QStringLiteral("−"), row.Line);
+    row.Less->setObjectName(QStringLiteral("less%1").arg(field));
+    row.More = new QPushButton(QStringLiteral("+"), row.Line);
+    row.More->setObjectName(QStringLiteral("more%1").arg(field));
     for (QPushButton* button : {row.Less, row.More}) {
         button->setStyleSheet(step);
         button->setFocusPolicy(Qt::NoFocus);
+        button->setAutoRepeat(true);
     }
     for (QWidget* part : std::initializer_list<QWidget*>{cube, row.Name, row.Count, row.Less, row.Entry, row.More}) {
         line->addWidget(part, part == row.Name ? 1 : 0);

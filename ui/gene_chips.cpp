@@ -41,12 +41,16 @@ void GeneChips::Follow() {
         }
     }
     setToolTip(ToQt(MutationTip(clan_)));
+    setAccessibleDescription(Names());
+    update();
+}
+
+QString GeneChips::Names() const {
     QStringList names;
     for (const int gene : genes_) {
         names << ToQt(GeneName(gene));
     }
-    setAccessibleDescription(names.join(QStringLiteral(", ")));
-    update();
+    return names.join(QStringLiteral(", "));
 }
 
 void GeneChips::Forget() {
@@ -79,10 +83,24 @@ std::vector<GeneChips::Chip> GeneChips::Chips() const {
     std::vector<Chip> chips;
     for (const int form : {FullNames, Codes, TinyCodes}) {
         if (Arrange(form, chips)) {
-            break;
+            return chips;
         }
     }
+    CutToFit(chips);
     return chips;
+}
+
+// The last one in sight tells how many more there are.
+void GeneChips::CutToFit(std::vector<Chip>& chips) const {
+    const auto hidden = [this](const Chip& chip) { return chip.Rect.bottom() > height() + 1; };
+    const auto cut = std::find_if(chips.begin(), chips.end(), hidden);
+    if (cut == chips.begin() || cut == chips.end()) {
+        return;
+    }
+    const auto more = chips.end() - cut + 1;
+    chips.erase(cut, chips.end());
+    chips.back().Gene = 0;
+    chips.back().Text = QStringLiteral("+%1").arg(more);
 }
 
 void GeneChips::paintEvent(QPaintEvent*) {
@@ -104,7 +122,7 @@ bool GeneChips::event(QEvent* event) {
         QString tip = toolTip();
         for (const Chip& chip : Chips()) {
             if (chip.Rect.contains(QPointF(help->pos()))) {
-                tip += QLatin1Char('\n') + ChipText(chip.Gene, FullNames);
+                tip += QLatin1Char('\n') + (chip.Gene > 0 ? ChipText(chip.Gene, FullNames) : Names());
             }
         }
         QToolTip::showText(help->globalPos(), tip, this);

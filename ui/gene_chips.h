@@ -7,7 +7,8 @@
 namespace plasmos {
 
 /// The visible list of a clan's genes in the order of purchase. Names are shortened to their codes
-/// where they would not fit.
+/// where they would not fit; where even these do not, the last one says how many more there are, and
+/// its tool tip names them all.
 class GeneChips : public QWidget {
 public:
     GeneChips(QWidget* parent, int clan);
@@ -24,14 +25,16 @@ protected:
 
 private:
     struct Chip {
-        int Gene;
+        int Gene;  ///< 0: the count of those that do not fit
         QRectF Rect;
         QString Text;
         int Form;
     };
 
     bool Arrange(int form, std::vector<Chip>& chips) const;
+    void CutToFit(std::vector<Chip>& chips) const;
     std::vector<Chip> Chips() const;
+    QString Names() const;
 
     int clan_;
     std::vector<int> genes_;

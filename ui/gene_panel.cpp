@@ -51,6 +51,9 @@ GenePanel::GenePanel(QWidget* parent, GeneForm& form)
     connect(EnvBP_, &QLineEdit::returnPressed, this, [this] { doneb_->setFocus(); });
     connect(resetb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.resetb_Click(); }); });
     connect(doneb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.doneb_Click(); }); });
+    std::vector<QWidget*> controls(boxes_.begin() + 1, boxes_.end());
+    controls.insert(controls.end(), {EnvBP_, resetb_, doneb_});
+    OrderTabs(controls);
     GenePanel::Reread();
 }
 
@@ -89,12 +92,19 @@ void GenePanel::MakeFoot() {
     for (QLabel* label : {payLabel_, ofLab_, UVdiffLab_, bpCaption_}) {
         label->setWordWrap(false);
     }
+    auto* price = new QHBoxLayout;
+    price->setSpacing(6);
+    for (QWidget* item : std::initializer_list<QWidget*>{payLabel_, EnvBP_, ofLab_}) {
+        price->addWidget(item);
+    }
+    price->addStretch(1);
+    price->addWidget(UVdiffLab_);
+    price->addWidget(UVdiff_);
+    Body()->addLayout(price);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(6);
-    for (QWidget* item :
-         std::initializer_list<QWidget*>{payLabel_, EnvBP_, ofLab_, UVdiffLab_, UVdiff_, bpCaption_, BPlabel_}) {
-        foot->addWidget(item);
-    }
+    foot->addWidget(bpCaption_);
+    foot->addWidget(BPlabel_);
     foot->addStretch(1);
     foot->addWidget(resetb_);
     foot->addWidget(doneb_);
@@ -104,7 +114,7 @@ void GenePanel::MakeFoot() {
 void GenePanel::Reread() {
     rereading_ = true;
     text_->setText(ToQt(form_.Text));
-    text_->setVisible(Board().Message() != form_.Text);
+    text_->setVisible(Board().Message() != form_.Text);  // the message says it already
     for (int gene = 1; gene <= GeneCount; ++gene) {
         const GeneForm::CheckBox& source = form_.gcheck[gene];
         QCheckBox* box = boxes_[static_cast<std::size_t>(gene)];

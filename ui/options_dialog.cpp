@@ -3,11 +3,14 @@
 
 #include <QFormLayout>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <algorithm>
+#include <utility>
 
 #include "model/game_files.h"
 #include "model/runtime_error.h"
@@ -27,12 +30,17 @@ constexpr int LongestName = 20;
 ZyPicture::ZyPicture(QWidget* parent, OptionsModel& model) : QWidget(parent), model_(model) {
     setObjectName(QStringLiteral("optZyPict"));
     setToolTip(
-        QStringLiteral("Left button: place or remove a stone. Right button: pick a stone, then its new square."));
+        QStringLiteral("Left button or Space: place or remove a stone.\n"
+                       "Right button or Shift and Space: pick a stone, then its new square.\n"
+                       "The arrow keys go from square to square."));
+    setFocusPolicy(Qt::StrongFocus);
     Follow();
 }
 
 void ZyPicture::Follow() {
     setFixedSize(model_.Cols() * SquarePixels, model_.Rows() * SquarePixels);
+    column_ = std::clamp(column_, 0, model_.Cols() - 1);
+    row_ = std::clamp(row_, 0, model_.Rows() - 1);
     update();
 }
 
@@ -56,6 +64,11 @@ void ZyPicture::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(picked ? QColor(255, 255, 0) : QColor(Qt::black), picked ? 3 : 1.5));
         painter.drawRoundedRect(stone, 9, 9);
     }
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(look::Ink), 1.5, Qt::DashLine));
+        painter.drawRect(column_ * SquarePixels + 2, row_ * SquarePixels + 2, SquarePixels - 4, SquarePixels - 4);
+    }
 }
 
 void ZyPicture::mouseReleaseEvent(QMouseEvent* event) {
@@ -64,8 +77,27 @@ void ZyPicture::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const double units = static_cast<double>(OptionsModel::Unit) / SquarePixels;
+    column_ = static_cast<int>(event->position().x()) / SquarePixels;
+    row_ = static_cast<int>(event->position().y()) / SquarePixels;
     OnClick(static_cast<int>(event->position().x() * units), static_cast<int>(event->position().y() * units),
             right ? 2 : 1);
+}
+
+void ZyPicture::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left: --column_; break;
+        case Qt::Key_Right: ++column_; break;
+        case Qt::Key_Up: --row_; break;
+        case Qt::Key_Down: ++row_; break;
+        case Qt::Key_Space:
+            if (OnClick && !event->isAutoRepeat()) {
+                const bool right = (event->modifiers() & Qt::ShiftModifier) != 0;
+                OnClick(column_ * OptionsModel::Unit, row_ * OptionsModel::Unit, right ? 2 : 1);
+            }
+            break;
+        default: QWidget::keyPressEvent(event); return;
+    }
+    Follow();
 }
 
 OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files)
@@ -112,7 +144,7 @@ QWidget* OptionsDialog::MakeBoardPage() {
     auto* page = new QWidget(this);
     auto* line = new QHBoxLayout(page);
     auto* left = new QVBoxLayout;
-    auto* form = new QFormLayout;
+    auto* form = fields_ = new QFormLayout;
     rowUD_ = MakeUpDown(page, "rowUD", &OptionsModel::SetRows);
     colsUD_ = MakeUpDown(page, "colsUD", &OptionsModel::SetCols);
     blockUD_ = MakeUpDown(page, "blockUD", &OptionsModel::SetBlocks);
@@ -135,6 +167,7 @@ QWidget* OptionsDialog::MakeBoardPage() {
     optZyPict_ = new ZyPicture(frame, model_);
     optZyPict_->move(4, 4);
     optZyPict_->OnClick = [this](int x, int y, int button) {
+        TakeTyped();
         button == 2 ? model_.RightClick(x, y) : model_.LeftClick(x, y);
         diagnosis_->setText(ToQt(model_.Diagnosis(x, y, button)));
         Follow();
@@ -185,6 +218,13 @@ void OptionsDialog::Follow() {
     colsUD_->setValue(model_.Cols());
     blockUD_->setRange(0, model_.MostBlocks());
     blockUD_->setValue(model_.Blocks());
+    for (const auto& [control, caption] : {std::pair{rowUD_, "&Rows"}, {colsUD_, "&Columns"}, {blockUD_, "B&locks"}}) {
+        static_cast<QLabel*>(fields_->labelForField(control))
+            ->setText(QStringLiteral("%1, %2 to %3")
+                          .arg(QLatin1String(caption))
+                          .arg(control->minimum())
+                          .arg(control->maximum()));
+    }
     bounds_->setText(ToQt(model_.Bounds()));
     optZyPict_->Follow();
     following_ = false;
@@ -194,7 +234,16 @@ void OptionsDialog::NextTab() {
     tbsOptions_->setCurrentIndex((tbsOptions_->currentIndex() + 1) % tbsOptions_->count());
 }
 
+// What is typed counts, also before it is left.
+void OptionsDialog::TakeTyped() {
+    for (QSpinBox* control : {rowUD_, colsUD_, blockUD_}) {
+        control->interpretText();
+    }
+}
+
 bool OptionsDialog::Save() {
+    TakeTyped();
+    SaveTried = true;
     const std::string fault = model_.Save(settings_, files_);
     fault_->setText(ToQt(fault));
     fault_->setVisible(!fault.empty());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -27,9 +28,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     OptionsModel& model_;
+    int column_ = 0;  ///< the square the keyboard is at, from 0
+    int row_ = 0;
 };
 
 /// `frmOptions`: the board's size and blocks, and the players' names.
@@ -38,6 +42,9 @@ class OptionsDialog : public QDialog {
 
 public:
     OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files);
+
+    /// Something was to be saved, whether it could or not.
+    bool SaveTried = false;
 
     void cmdOK_Click();
     void cmdApply_Click();
@@ -52,6 +59,7 @@ private:
     void MakeButtons(QVBoxLayout* outer);
     QSpinBox* MakeUpDown(QWidget* page, const char* name, void (OptionsModel::*set)(int));
     void NextTab();
+    void TakeTyped();
     bool Save();
     /// Takes everything from the model.
     void Follow();
@@ -61,6 +69,7 @@ private:
     OptionsModel model_;
     bool following_ = false;
     QTabWidget* tbsOptions_;
+    QFormLayout* fields_ = nullptr;
     QSpinBox* rowUD_ = nullptr;
     QSpinBox* colsUD_ = nullptr;
     QSpinBox* blockUD_ = nullptr;

@@ -210,13 +210,14 @@ std::string OptionsModel::SaveBoard(SettingsStore& settings, GameFiles& files) c
         !settings.Save("board", "blocks", BlocksText(squares))) {
         return CannotSave(settings);
     }
+    std::string fault;
     try {
         files.MakeFolder();
         files.Rewrite(OptionsFile, FileText());
     } catch (const RuntimeError& error) {
-        return error.what();
+        fault = error.what();
     }
-    return settings.Save("board", "blockno", Concat(Blocks())) ? std::string() : CannotSave(settings);
+    return settings.Save("board", "blockno", Concat(Blocks())) ? fault : CannotSave(settings);
 }
 
 // A name that is the default one is not written; an earlier one stays in the store.
@@ -231,8 +232,9 @@ std::string OptionsModel::SaveNames(SettingsStore& settings) const {
 }
 
 std::string OptionsModel::Save(SettingsStore& settings, GameFiles& files) const {
-    const std::string fault = SaveBoard(settings, files);
-    return fault.empty() ? SaveNames(settings) : fault;
+    const std::string board = SaveBoard(settings, files);
+    const std::string names = SaveNames(settings);
+    return board.empty() ? names : board;
 }
 
 }  // namespace plasmos

@@ -66,7 +66,8 @@ public:
 
     /// The text of the options file.
     std::string FileText() const;
-    /// Saves the board and then the names. The answer is what went wrong, or empty.
+    /// Saves the board and then the names; an options file that cannot be written does not keep the rest
+    /// from being saved. The answer is what went wrong, or empty.
     std::string Save(SettingsStore& settings, GameFiles& files) const;
 
 private:

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "model/presentation.h"
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
 #include "rules/food_form.h"
@@ -20,6 +21,8 @@ namespace plasmos {
 namespace {
 
 constexpr int HeadHeight = 38;
+constexpr int SideMargin = 14;
+constexpr int Spacing = 6;
 
 class RepeatFilter : public QObject {
 public:
@@ -47,13 +50,16 @@ void RefuseRepeats(QWidget* control) {
 
 QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QString& title)
     : Card(parent),
+      question_(question),
       clan_(question.Clan),
       title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
       close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
+      message_(MakeText(this, "messagelab", 13)),
       body_(new QVBoxLayout) {
     auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(14, 6, 14, 12);
-    outer->setSpacing(6);
+    outer->setContentsMargins(SideMargin, 6, SideMargin, 12);
+    outer->setSpacing(Spacing);
+    message_->hide();
     auto* head = new QHBoxLayout;
     head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
     title_->setText(title);
@@ -67,7 +73,8 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
                        "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
-    body_->setSpacing(6);
+    outer->addWidget(message_);
+    body_->setSpacing(Spacing);
     outer->addLayout(body_);
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
     SetColours(QColor(look::Card), clan_ > 0 ? ShadesOf(clan_).Dark : QColor(look::Teal));
@@ -78,8 +85,24 @@ int QuestionPanel::HeightFor(int width) const {
     return std::max(wanted, layout()->totalMinimumSize().height());
 }
 
+int QuestionPanel::HeightWith(bool message, int width) const {
+    const bool shown = !message_->isHidden();
+    const int line = message_->heightForWidth(width - 2 * SideMargin) + Spacing;
+    return HeightFor(width) + (message == shown ? 0 : message ? line : -line);
+}
+
+void QuestionPanel::ShowMessage(bool on) {
+    const QString text = ToQt(Board().Message());
+    if (message_->text() != text) {
+        message_->setText(text);
+    }
+    if (message_->isHidden() == on) {
+        message_->setVisible(on);
+    }
+}
+
 void QuestionPanel::Handle(const std::function<void()>& handler) {
-    if (retired_) {
+    if (retired_ || question_.Answered()) {
         return;
     }
     try {
@@ -103,6 +126,12 @@ QPushButton* QuestionPanel::MakeButton(const QString& name, const QString& capti
     button->setAutoDefault(true);
     RefuseRepeats(button);
     return button;
+}
+
+void QuestionPanel::OrderTabs(const std::vector<QWidget*>& controls) {
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        setTabOrder(controls[i - 1], controls[i]);
+    }
 }
 
 void QuestionPanel::paintEvent(QPaintEvent* event) {

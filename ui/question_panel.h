@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "model/question.h"
 #include "ui/card.h"
@@ -39,6 +40,10 @@ public:
 
     /// Height the panel wants at a width.
     int HeightFor(int width) const;
+    /// The same with or without the message line, which a panel shows itself where the question card
+    /// has to make room for it.
+    int HeightWith(bool message, int width) const;
+    void ShowMessage(bool on);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -49,14 +54,18 @@ protected:
     QVBoxLayout* Body() { return body_; }
     /// A button that ignores double clicks and repeated keys.
     QPushButton* MakeButton(const QString& name, const QString& caption, bool main);
+    /// The tab key goes through the controls in this order.
+    static void OrderTabs(const std::vector<QWidget*>& controls);
     void SetTitle(const QString& title) { title_->setText(title); }
     int Clan() const { return clan_; }
 
 private:
+    const Question& question_;
     int clan_;
     bool retired_ = false;
     QLabel* title_;
     QPushButton* close_;
+    QLabel* message_;
     QVBoxLayout* body_;
 };
 

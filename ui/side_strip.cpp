@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/side_strip.h"
 
+#include <QEvent>
 #include <algorithm>
 
 #include "model/game_state.h"
@@ -48,6 +49,14 @@ void SideStrip::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
+// A dialog wants another height: somebody was marked, a line came or went.
+bool SideStrip::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        Arrange();
+    }
+    return QWidget::event(event);
+}
+
 int SideStrip::ArrangeHead() {
     const int environment = Environment->sizeHint().height();
     const bool shown = playing_ || game.NumPlayers > 0;
@@ -71,14 +80,17 @@ int SideStrip::ArrangePanels(int top) {
     bool first = true;
     // NOLINTNEXTLINE(modernize-loop-convert): clang++ 14 cannot compile the views of <ranges>
     for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
-        const int wanted = (*panel)->HeightFor(width());
+        int wanted = (*panel)->HeightWith(false, width());
         const bool fits = top + wanted <= height();
-        if (first && !fits && playing_) {
+        const bool alone = first && !fits && playing_;
+        if (alone) {
             top = Environment->height() + Gap;
-            Question->setVisible(false);
-        } else if (first) {
-            Question->setVisible(playing_);
+            wanted = (*panel)->HeightWith(true, width());
         }
+        if (first) {
+            Question->setVisible(playing_ && !alone);
+        }
+        (*panel)->ShowMessage(alone);
         (*panel)->setVisible(first || fits);
         if (first || fits) {
             (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, 60)));

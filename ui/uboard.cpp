@@ -132,6 +132,8 @@ void UBoard::Play(const std::function<void()>& play) {
         exitCode = end.ExitCode;
     } catch (const std::exception& error) {
         Tell(QStringLiteral("This game cannot go on.\n%1").arg(QString::fromUtf8(error.what())));
+    } catch (const GameLeft&) {
+        // Left before the driver could hear of it: the window is as after any game.
     }
     SetPlaying(false);
     if (exitCode >= 0) {

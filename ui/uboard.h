@@ -113,7 +113,8 @@ private:
     void autoeat_men_Click();
     void autoten_men_Click();
     void pref_men_Click();
-    void OptionsClosed();
+    /// Takes the saved board; a save that was tried may have reached the settings and not the file.
+    void OptionsClosed(bool saveTried);
     void driftlab_MouseDown();
     void UVlab_MouseUp();
     void Borrow(const QString& label);

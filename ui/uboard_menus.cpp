@@ -163,15 +163,15 @@ void UBoard::pref_men_Click() {
     }
     options_ = new OptionsDialog(this, *game.Settings, *game.Files);
     options_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(options_, &QDialog::finished, this, [this] { OptionsClosed(); });
+    connect(options_, &QDialog::finished, this, [this, dialog = options_.data()] { OptionsClosed(dialog->SaveTried); });
     EnableStart();
     options_->open();
 }
 
-void UBoard::OptionsClosed() {
+void UBoard::OptionsClosed(bool saveTried) {
     options_ = nullptr;
     EnableStart();
-    if (game.Files != nullptr && game.Files->Exists(OptionsFile)) {
+    if (saveTried || (game.Files != nullptr && game.Files->Exists(OptionsFile))) {
         const GameSetup before = game;
         LoadBoard();
         if (before.NumRows != game.NumRows || before.NumCols != game.NumCols || before.Blocked != game.Blocked) {

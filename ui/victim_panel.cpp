@@ -74,6 +74,9 @@ VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
     Body()->addWidget(vfamlab_);
     Body()->addWidget(doneb_, 0, Qt::AlignRight);
     connect(doneb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.doneb_Click(); }); });
+    std::vector<QWidget*> controls(figures_.begin(), figures_.end());
+    controls.push_back(doneb_);
+    OrderTabs(controls);
     VictimPanel::Reread();
 }
 

@@ -284,6 +284,29 @@ TEST_F(PersonsParasite, TwoHostsLendTwo) {
                 ElementsAre("A1 parasitizing off of clan Player 4 and clan Player 3", "A1 eats 111 in 13"));
 }
 
+TEST_F(PersonsParasite, IsToldWhenThereIsNoFurtherHost) {
+    Feed(13, {0, 1, 0, 0});
+    std::string told;
+    const auto look = Do("look, then eat", [&](Question& question) {
+        told = board.Message();
+        dynamic_cast<FoodForm&>(question).fdtxt_Change(2, "1");
+        dynamic_cast<FoodForm&>(question).eatb_Click();
+    });
+    board.Then({Parasitize(), Pick({{4, 1}}), AnotherHost(), Pick({{3, 1}}), AnotherHost(), look});
+    FeedAmoeba(13, 1);
+    EXPECT_EQ(told, "There is no further host to pick; eat, or design another menu.");
+    EXPECT_THAT(FoodOn(13), ElementsAre(2, 0, 0, 0));
+}
+
+TEST_F(PersonsParasite, WhoTakesTheSuggestionSendsTheHostsAway) {
+    Feed(13, {0, 1, 1, 1});
+    board.Then({Parasitize(), Pick({{4, 1}}), EatSuggested()});
+    FeedAmoeba(13, 1);
+    EXPECT_THAT(FoodOn(13), ElementsAre(2, 0, 0, 0));
+    EXPECT_EQ(game.BP[4], 2);
+    EXPECT_THAT(board.LogLines, ElementsAre("A1 eats 111 in 13"));
+}
+
 TEST_F(PersonsParasite, PicksNobodyAndStarves) {
     Feed(13, {0, 1, 1, 0});
     board.Then({Parasitize(), Pick({}), Eat({0, 0, 0, 0})});

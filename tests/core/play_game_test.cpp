@@ -167,8 +167,9 @@ TEST_F(PlayGameTest, WithoutItsFolderAGameIsRefused) {
     EXPECT_THAT(PrepareDataFolder(), HasSubstr("Permission denied: memory"));
     ScriptedBoard board;
     PlayGame();
-    EXPECT_THAT(board.Boxes[0], HasSubstr("Permission denied: memory"));
+    EXPECT_THAT(board.Boxes, ::testing::ElementsAre(PrepareDataFolder())) << "the same message as at the start";
     EXPECT_EQ(game.Turn, 0);
+    EXPECT_EQ(files_.Files.count("errfile.txt"), 0U);
 }
 
 TEST_F(PlayGameTest, ATraceLineIsTriedThreeTimes) {
@@ -210,6 +211,16 @@ TEST_F(PlayGameTest, LeavingAGameEndsItQuietly) {
     EXPECT_NO_THROW(PlayGame());
     EXPECT_TRUE(board.Boxes.empty());
     EXPECT_EQ(files_.Files.count("errfile.txt"), 0U);
+}
+
+TEST_F(PlayGameTest, ABrokenGameMayBeLeftWhileItIsTold) {
+    files_.Files["zynames.txt"] = "1 - Only one\n";
+    ScriptedBoard board;
+    board.DismissBoxes(false);
+    board.Then(Do("leave", [](Question&) { throw GameLeft{}; }));
+    EXPECT_NO_THROW(PlayUnattended());
+    EXPECT_EQ(board.Boxes.size(), 1U);
+    EXPECT_FALSE(game.AutoPlay);
 }
 
 TEST_F(PlayGameTest, TheProgramsEndIsNoError) {

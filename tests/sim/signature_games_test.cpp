@@ -34,6 +34,9 @@ struct SignatureRow {
     int Games;
     std::string_view Signature;
 };
+void PrintTo(const SignatureRow& row, std::ostream* out) {
+    *out << row.Name;
+}
 
 const SignatureRow Rows[] = {
     {"of_20_games", 20, "76bd0896b96d2144"},

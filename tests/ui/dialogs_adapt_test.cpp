@@ -54,6 +54,8 @@ class DialogsAdaptTest : public QObject {
 private slots:
     void theDialogOpens();
     void genesAndBpTogether();
+    void doneTwiceIsPaidOnce();
+    void aLowWindowStillSaysWhatHappened();
     void typedBpAreNotCountedWhenABoxIsClicked();
     void rayProtectionCountsFour();
     void withoutBp();
@@ -121,6 +123,40 @@ void DialogsAdaptTest::genesAndBpTogether() {
     QCOMPARE(game.Catalogue[GeneNumber("def")].Supply, supply + 1);
     QCOMPARE(game.Players[3].MutationLevel, 8);
     QCOMPARE(CheckConsistency(), std::string());
+}
+
+// Two presses that wait in the queue together.
+void DialogsAdaptTest::doneTwiceIsPaidOnce() {
+    AdaptScene scene(9);
+    scene.ThenGenes([&] {
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        scene.Click(QStringLiteral("doneb"));
+        scene.Click(QStringLiteral("doneb"));
+        scene.Click(QStringLiteral("closeb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], 5);
+}
+
+void DialogsAdaptTest::aLowWindowStillSaysWhatHappened() {
+    AdaptScene scene(9);
+    scene.Board().resize(940, 640);
+    scene.ThenGenes([&] {
+        QCoreApplication::processEvents();
+        const bool card = scene.Sees(QStringLiteral("msglab"));
+        QVERIFY2(card != scene.Sees(QStringLiteral("messagelab")), "the message is said once");
+        QCOMPARE(scene.Text(card ? QStringLiteral("msglab") : QStringLiteral("messagelab")).toStdString(), Changed);
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        QCoreApplication::processEvents();
+        for (const char* name : {"EnvBP", "UVdiff", "resetb", "doneb"}) {
+            const QWidget* control = scene.Find(QString::fromLatin1(name));
+            QVERIFY2(control->width() >= control->minimumSizeHint().width(), name);
+            QVERIFY2(control->mapTo(&scene.Board(), control->rect().bottomRight()).x() < scene.Board().width(), name);
+            QVERIFY2(control->mapTo(&scene.Board(), control->rect().bottomRight()).y() < scene.Board().height(), name);
+        }
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
 }
 
 void DialogsAdaptTest::typedBpAreNotCountedWhenABoxIsClicked() {

@@ -100,12 +100,13 @@ void DialogsCompanyTest::theTentacleDragsOneOfMany() {
     Put(3, 4, 7);
     Put(3, 6, 7);
     Put(3, 2, 9);
+    game.Amoeba[4][3].Name = "A & 4";
     game.BP[3] = 2;
     scene.ThenYes("Would C1 like to pay 1BP to drag another amoeba of its clan along?");
     scene.Then(QuestionKind::Amoeba, [&] {
         QCOMPARE(scene.Text(QStringLiteral("amlab")), QStringLiteral("Which amoeba shall be dragged along?"));
         QVERIFY(!scene.Enabled(QStringLiteral("amopt1")) && !scene.Enabled(QStringLiteral("amopt2")));
-        QCOMPARE(scene.Text(QStringLiteral("amopt4")), QStringLiteral("4  C4"));
+        QCOMPARE(scene.Text(QStringLiteral("amopt4")), QStringLiteral("A && 4"));
         QTest::mouseClick(scene.Find(QStringLiteral("amopt2")), Qt::LeftButton);
         QCOMPARE(game.Reply, -1);
         scene.Click(QStringLiteral("amopt6"));
@@ -140,8 +141,12 @@ void DialogsCompanyTest::hitchHikers() {
     scene.Then(QuestionKind::Victim, [&] {
         QCOMPARE(scene.Text(QStringLiteral("vfamlab")), QStringLiteral("Choose the Hitch-hiker(s):"));
         QVERIFY2(!scene.Enabled(QStringLiteral("figure0")), "the mover cannot ride on itself");
+        const int before = scene.Find(QStringLiteral("vfpict"))->height();
         scene.Click(QStringLiteral("figure1"));
         scene.Click(QStringLiteral("figure2"));
+        const QWidget* words = scene.Find(QStringLiteral("vfamlab"));
+        QTRY_VERIFY2(words->height() >= words->heightForWidth(words->width()), "every word can be read");
+        QVERIFY2(scene.Find(QStringLiteral("vfpict"))->height() >= before, "the picture pays for the words");
         QCOMPARE(scene.Text(QStringLiteral("vfamlab")),
                  QStringLiteral("Choose the Hitch-hiker(s):\n1- C1 (0) of Player 3\n4- C4 (0) of Player 3"));
         scene.Click(QStringLiteral("figure1"));

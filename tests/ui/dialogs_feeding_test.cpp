@@ -45,6 +45,8 @@ private slots:
     void textsThatAreNoNumbers_data();
     void textsThatAreNoNumbers();
     void theStepButtons();
+    void quickClicksAllCount();
+    void theTabKeyGoesThroughTheDialog();
     void legalMenusFollowTheGenes_data();
     void legalMenusFollowTheGenes();
     void sixClansEatLikeFive();
@@ -231,13 +233,43 @@ void DialogsFeedingTest::theStepButtons() {
         QVERIFY2(!scene.Enabled(QStringLiteral("more1")), "there is one piece only");
         scene.Click(QStringLiteral("less1"));
         QCOMPARE(scene.Text(Field(1)), QStringLiteral("0"));
-        for (const int colour : {1, 2, 4}) {
+        QVERIFY(game.Food[7][2] >= 1);
+        scene.DoubleClick(scene.Find(QStringLiteral("more1")));
+        QCOMPARE(scene.Text(Field(1)), QStringLiteral("1"));
+        for (const int colour : {2, 4}) {
             scene.Click(QStringLiteral("more%1").arg(colour));
         }
         scene.Eat();
     });
     PHASE(scene, FeedAmoeba(7, 3));
     QCOMPARE(FoodOn(7), (std::vector<int>{0, 0, 7, 0}));
+}
+
+void DialogsFeedingTest::quickClicksAllCount() {
+    MealScene scene;
+    Feed(7, {4, 4, 0, 4});
+    scene.ThenFood([&] {
+        scene.DoubleClick(scene.Find(QStringLiteral("more2")));
+        scene.Click(QStringLiteral("more2"));
+        QCOMPARE(scene.Text(Field(2)), QStringLiteral("3"));
+        scene.Enter({1, 1, 0, 1});
+        scene.Eat();
+    });
+    PHASE(scene, FeedAmoeba(7, 3));
+}
+
+void DialogsFeedingTest::theTabKeyGoesThroughTheDialog() {
+    MealScene scene;
+    scene.ThenFood([&] {
+        const char* names[] = {"fdtxt1", "fdtxt2", "fdtxt4", "suggestb", "eatb"};
+        for (const char* name : names) {
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(name));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        scene.Enter({1, 1, 0, 1});
+        scene.Eat();
+    });
+    PHASE(scene, FeedAmoeba(7, 3));
 }
 
 void DialogsFeedingTest::legalMenusFollowTheGenes_data() {

@@ -231,9 +231,12 @@ void SettingsTest::theOptionsFileCannotBeWritten() {
     Preferences window;
     QVERIFY(QDir().mkpath(ToQt(window.Files().PathOf(OptionsFile)) + QStringLiteral("/folder")));
     window.Step("rowUD", 1);
+    window.TypeName(2, QStringLiteral("Ann"));
     window.Press("cmdOK");
     QVERIFY(window.IsOpen());
     QVERIFY(window.Label("faultlab").contains(QStringLiteral("Opts.txt")));
+    QCOMPARE(window.Saved("players", "name2"), "Ann");
+    QCOMPARE(window.Saved("board", "blockno"), "0");
     QCOMPARE(window.Values(), QStringLiteral("6x5 0"));
     QVERIFY(QDir(ToQt(window.Files().PathOf(OptionsFile))).removeRecursively());
     window.Press("cmdOK");

@@ -143,7 +143,8 @@ void CompareAmoebas(Comparison& see, const AmChoicefrm& form) {
     for (int k = 1; k <= 7; ++k) {
         see.Answers(Numbered("amopt", k), form.amopt[k].Visible, form.amopt[k].Enabled);
         if (form.amopt[k].Visible) {
-            see.Text(Numbered("amopt", k), Concat(k, "  ", game.Amoeba[k][form.Clan].Name));
+            QString name = ToQt(game.Amoeba[k][form.Clan].Name.View());
+            see.Text(Numbered("amopt", k), name.replace(QLatin1Char('&'), QStringLiteral("&&")).toStdString());
         }
     }
 }
