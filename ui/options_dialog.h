@@ -9,32 +9,11 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
-#include <functional>
 
 #include "ui/options_model.h"
+#include "ui/zy_picture.h"
 
 namespace plasmos {
-
-/// The small board on which blocked squares are placed.
-class ZyPicture : public QWidget {
-public:
-    ZyPicture(QWidget* parent, OptionsModel& model);
-
-    /// A square is clicked: units of the picture; button 1 left, 2 right.
-    std::function<void(int x, int y, int button)> OnClick;
-    /// The model's board has another size.
-    void Follow();
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    OptionsModel& model_;
-    int column_ = 0;  ///< the square the keyboard is at, from 0
-    int row_ = 0;
-};
 
 /// `frmOptions`: the board's size and blocks, and the players' names.
 class OptionsDialog : public QDialog {
