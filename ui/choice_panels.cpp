@@ -40,7 +40,7 @@ QIcon BlobIcon(int clan, int amoeba, double ratio) {
     look.Clan = clan;
     look.Amoeba = amoeba;
     DrawBlob(painter, look, QPointF(side / 2.0, side / 2.0), side / 2.0 - 2);
-    return QIcon(picture);
+    return {picture};
 }
 
 /// A name on half a dialog's width; an "&" in it is a letter like any other.
