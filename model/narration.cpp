@@ -11,11 +11,11 @@ bool WordsAreWanted() {
            (game.Window != nullptr && game.Window->WantsText());
 }
 
-void LogText(const std::string& line) {
+void LogText(const std::string& line, int clan) {
     if (game.Listener != nullptr) {
         game.Listener->OnSay(line);
     }
-    Board().Log(line);
+    Board().Log(line, clan);
 }
 
 void SayText(const std::string& line) {

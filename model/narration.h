@@ -20,7 +20,7 @@ inline bool SomebodyListens() {
 void SayText(const std::string& line);
 void SayMoreText(const std::string& line);
 void ReportText(const std::string& line);
-void LogText(const std::string& line);
+void LogText(const std::string& line, int clan = game.CurPlayer);
 
 /// One line of narration: it replaces the text of the message line and goes to the log.
 template <class... Pieces>

@@ -31,8 +31,8 @@ public:
     virtual std::string Message() const { return {}; }
     /// Empties the log and begins it with the game's header line.
     virtual void StartLog(std::string_view /*header*/) {}
-    /// One line of narration by the acting clan, for the log.
-    virtual void Log(std::string_view /*line*/) {}
+    /// One line of narration for the log, about a clan; 0: about none alone.
+    virtual void Log(std::string_view /*line*/, int /*clan*/) {}
     /// A phase of the turn begins ("Movement", "Environment", ...); Turn is set.
     virtual void ShowPhase(std::string_view /*phase*/) {}
 

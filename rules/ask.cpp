@@ -19,9 +19,9 @@ void ForgetAnswer() {
     game.ReplyY = -1;
 }
 
-void LogBox(const std::string& text) {
+void LogBox(int clan, const std::string& text) {
     if (SomebodyListens()) {
-        LogText(text);
+        LogText(text, clan);
     }
 }
 
@@ -78,8 +78,8 @@ void Picture1_MouseUp(int x, int y) {
     game.ReplyY = y;
 }
 
-bool AskYesNo(int clan, const std::string& text) {
-    YesNoQuestion question(clan, text);
+bool AskYesNo(int clan, const std::string& text, int about) {
+    YesNoQuestion question(clan, text, about);
     game.Reply = 0;
     Board().ShowMessage(text, clan);
     OpenQuestion open(question);
@@ -133,7 +133,7 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
 
 void ShowBox(int clan, const std::string& text) {
     if (game.AutoPlay || game.Window == nullptr) {
-        LogBox(text);
+        LogBox(clan, text);
         return;
     }
     BoxQuestion box(clan, text);
@@ -143,7 +143,7 @@ void ShowBox(int clan, const std::string& text) {
 
 void ReportBox(const std::string& text) {
     if (game.FastMode) {
-        LogBox(text);
+        LogBox(game.CurPlayer, text);
     } else {
         ShowBox(game.CurPlayer, text);
     }
@@ -151,7 +151,7 @@ void ReportBox(const std::string& text) {
 
 void TellPerson(int clan, const std::string& text) {
     Board().ShowMessage(text, clan);
-    LogBox(text);
+    LogBox(clan, text);
     Show(&Presentation::Pause, StatementPause);
 }
 

@@ -16,8 +16,12 @@ inline constexpr int ReplyNo = 7;
 /// A yes/no question in the message line.
 class YesNoQuestion : public Question {
 public:
-    YesNoQuestion(int clan, std::string text) : Question(QuestionKind::YesNo, clan, std::move(text)) {}
+    YesNoQuestion(int clan, std::string text, int about)
+        : Question(QuestionKind::YesNo, clan, std::move(text)), About(about) {}
     bool Answered() const override;
+
+    /// The square that the question speaks of; 0: none.
+    const int About;
 };
 
 /// A question that is answered by a click on one of the offered squares (ascending, once each).
@@ -72,8 +76,8 @@ void Picture1_MouseUp(int x, int y);
 
 // ---- asking ----
 
-/// Asks a clan a yes/no question; true is yes.
-bool AskYesNo(int clan, const std::string& text);
+/// Asks a clan a yes/no question, about a square if it speaks of one; true is yes.
+bool AskYesNo(int clan, const std::string& text, int about = 0);
 
 /// Asks a clan for one of the offered squares (in any order, not empty); every other answer is
 /// refused and the wait goes on. A single square is the answer without a question.

@@ -24,14 +24,20 @@ SquareList WithOwnSquare(SquareList list, int square) {
     return list;
 }
 
-/// Where the current takes the amoeba, in words; nothing when the drift lets it choose.
-std::string DriftMessage(int clan, int amoeba, int square, int destination) {
-    const auto& label = game.Amoeba[amoeba][clan].Name;
+/// Where the current takes the amoeba, in words too; nowhere when the drift lets it choose.
+struct DriftForecast {
+    int Square = 0;
+    std::string Text;
+};
+
+DriftForecast ForecastDrift(int clan, int amoeba) {
     if (game.Drift == WhereItWants) {
         return {};
     }
-    return destination != square ? Concat(label, " will drift into ", destination, ".\n")
-                                 : Concat(label, " will remain in ", square, ".\n");
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const int destination = MoveDestination(piece.Square);
+    return {destination, Concat(piece.Name, destination != piece.Square ? " will drift into " : " will remain in ",
+                                destination, ".\n")};
 }
 
 void PayForMove(int clan) {
@@ -62,14 +68,14 @@ void DriftPersonsAmoeba(int clan, int amoeba) {
 }
 
 /// One attempt: the question, the price, the move. False: the person did not want to.
-bool Attempt(int clan, int amoeba, bool first, const std::string& driftMessage) {
+bool Attempt(int clan, int amoeba, bool first, const DriftForecast& drift) {
     if (!MayAttempt(clan, first)) {
-        if (!driftMessage.empty()) {
-            TellPerson(clan, driftMessage.substr(0, driftMessage.size() - 1));
+        if (!drift.Text.empty()) {
+            TellPerson(clan, drift.Text.substr(0, drift.Text.size() - 1));
         }
         return false;
     }
-    if (!AskYesNo(clan, driftMessage + OfferText(clan, amoeba, first))) {
+    if (!AskYesNo(clan, drift.Text + OfferText(clan, amoeba, first), drift.Square)) {
         return false;
     }
     const bool freeAttempt = HasGene(clan, "str") || (!first && HasSpeed(clan));
@@ -145,9 +151,7 @@ int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
 }
 
 void MovePersonsAmoeba(int clan, int amoeba) {
-    const int square = game.Amoeba[amoeba][clan].Square;
-    const auto drift = DriftMessage(clan, amoeba, square, MoveDestination(square));
-    if (!Attempt(clan, amoeba, true, drift)) {
+    if (!Attempt(clan, amoeba, true, ForecastDrift(clan, amoeba))) {
         DriftPersonsAmoeba(clan, amoeba);
     } else if (HasSpeed(clan)) {
         Attempt(clan, amoeba, false, {});

@@ -20,6 +20,31 @@ constexpr int Pad = 14;
 constexpr double LowestLevel = 0;
 constexpr double HighestLevel = 20;
 
+constexpr double MarkRadius = 5.2;
+
+double OnBar(const QRectF& bar, double level) {
+    return bar.left() + bar.width() * (std::clamp(level, LowestLevel, HighestLevel) - LowestLevel) / HighestLevel;
+}
+
+/// The first place near a point where a mark covers no other: three below each other, then aside, first
+/// towards the middle.
+QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middle) {
+    constexpr double step = 10;
+    const double inward = point.x() > middle ? -step : step;
+    for (const double aside : {0.0, inward, -inward, 2 * inward}) {
+        for (const double below : {0.0, step, 2 * step}) {
+            const QPointF place = point + QPointF(aside, below);
+            const bool covered = std::any_of(taken.begin(), taken.end(), [place](QPointF other) {
+                return std::hypot(place.x() - other.x(), place.y() - other.y()) < step - 0.5;
+            });
+            if (!covered) {
+                return place;
+            }
+        }
+    }
+    return point;
+}
+
 void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degrees) {
     painter.save();
     painter.translate(centre);
@@ -35,6 +60,15 @@ void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degre
 }
 
 }  // namespace
+
+std::vector<QPointF> LevelMarks(const QRectF& bar) {
+    std::vector<QPointF> marks;
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        const double level = OnBar(bar, game.Players[clan].MutationLevel);
+        marks.push_back(FreePlace(marks, QPointF(level, bar.bottom() + 2 + MarkRadius), bar.center().x()));
+    }
+    return marks;
+}
 
 void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius) {
     if (drift == 0) {
@@ -141,10 +175,7 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     if (game.NumPlayers == 0) {
         return;
     }
-    const auto at = [&bar](double level) {
-        return bar.left() + bar.width() * (std::clamp(level, LowestLevel, HighestLevel) - LowestLevel) / HighestLevel;
-    };
-    const double uv = at(game.UVLevel);
+    const double uv = OnBar(bar, game.UVLevel);
     QPainterPath pointer(QPointF(uv, bar.top() - 1));
     pointer.lineTo(uv - 6, bar.top() - 10);
     pointer.lineTo(uv + 6, bar.top() - 10);
@@ -152,13 +183,9 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     painter.setBrush(QColor(look::Ink));
     painter.drawPath(pointer);
     painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
+    const std::vector<QPointF> marks = LevelMarks(bar);
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        int below = 0;
-        for (int other = 1; other < clan; ++other) {
-            below += game.Players[other].MutationLevel == game.Players[clan].MutationLevel ? 1 : 0;
-        }
-        DrawClanBadge(painter, clan, QPointF(at(game.Players[clan].MutationLevel), bar.bottom() + 8 + 7.0 * below),
-                      5.6);
+        DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
     }
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QRectF>
+#include <vector>
+
 #include "ui/card.h"
 
 namespace plasmos {
@@ -36,6 +39,10 @@ private:
     double DriftLeft() const { return width() * 0.41; }
     double UvLeft() const { return width() * 0.69; }
 };
+
+/// Where the marks of clan 1, 2, ... stand under the bar of levels: at the clan's mutation level, below
+/// each other where they would cover each other, and aside where there is no more room below.
+std::vector<QPointF> LevelMarks(const QRectF& bar);
 
 /// The arrow of a drift direction (a square offset) in a circle; a dot in place, a star of arrows where
 /// the amoeba may choose.

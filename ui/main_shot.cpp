@@ -37,8 +37,8 @@ class DemoBoard : public UBoard {
 public:
     explicit DemoBoard(QString folder) : folder_(std::move(folder)) {}
 
-    void Log(std::string_view line) override {
-        UBoard::Log(line);
+    void Log(std::string_view line, int clan) override {
+        UBoard::Log(line, clan);
         std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
     }
 

@@ -155,15 +155,17 @@ void DrawFoodCounts(QPainter& painter, int square) {
         if (count <= stacks.High) {
             continue;
         }
-        const QString text = (stacks.High > 1 ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
-        const double wide = stacks.Letters * (0.75 * static_cast<double>(text.size())) + 8;
+        const bool tight = count > 9;
+        const QString text = (stacks.High > 1 && !tight ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
+        const double letters = stacks.Letters * (stacks.High == 1 && tight ? 0.72 : 1);
+        const double wide = letters * (0.75 * static_cast<double>(text.size())) + 8;
         const QPointF foot = StackFoot(stacks, square, clan);
         const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
-                         foot.y() - (stacks.Cube + 6) * stacks.High - stacks.Letters - 4, wide, stacks.Letters + 2);
+                         foot.y() - (stacks.Cube + 6) * stacks.High - letters - 4, wide, letters + 2);
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0xE6, 0xF6, 0xF3, 205));
-        painter.drawRoundedRect(tag, stacks.Letters * 0.4, stacks.Letters * 0.4);
-        painter.setFont(LookFont(stacks.Letters, true));
+        painter.drawRoundedRect(tag, letters * 0.4, letters * 0.4);
+        painter.setFont(LookFont(letters, true));
         painter.setPen(QColor(0x0F, 0x3D, 0x45));
         painter.drawText(tag, Qt::AlignCenter | Qt::TextDontClip, text);
     }
@@ -179,6 +181,19 @@ void DrawOffer(QPainter& painter, int square, bool bright) {
         painter.setBrush(Qt::NoBrush);
     }
     painter.setPen(QPen(QColor(look::Amber), bright ? 38 : 28));
+    painter.drawRoundedRect(rect, Corner, Corner);
+}
+
+void DrawSpokenOf(QPainter& painter, int square) {
+    const QRectF rect = SquareRect(square);
+    painter.setBrush(QColor(255, 255, 255, 60));
+    painter.setPen(QPen(QColor(255, 255, 255, 235), 34));
+    painter.drawRoundedRect(rect, Corner, Corner);
+    painter.setBrush(Qt::NoBrush);
+    QPen dashes(QColor(look::Teal), 20);
+    dashes.setCapStyle(Qt::FlatCap);
+    dashes.setDashPattern({4, 3});
+    painter.setPen(dashes);
     painter.drawRoundedRect(rect, Corner, Corner);
 }
 

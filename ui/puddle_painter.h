@@ -25,6 +25,8 @@ void DrawFoodCounts(QPainter& painter, int square);
 void DrawCube(QPainter& painter, int clan, const QRectF& cube);
 /// The amber glow of an offered square; brighter under the pointer or the arrow keys.
 void DrawOffer(QPainter& painter, int square, bool bright);
+/// Dashes around the square that a question speaks of.
+void DrawSpokenOf(QPainter& painter, int square);
 /// A thin frame for the square under the pointer.
 void DrawHover(QPainter& painter, int square);
 

@@ -54,6 +54,11 @@ void PuddleView::SetOffered(const std::vector<int>& squares) {
     update();
 }
 
+void PuddleView::SetSpokenOf(int square) {
+    spokenOf_ = square;
+    update();
+}
+
 void PuddleView::OutlinePiece(int clan, int amoeba, bool on) {
     outlinedClan_ = on ? clan : 0;
     outlinedAmoeba_ = on ? amoeba : 0;
@@ -163,6 +168,9 @@ void PuddleView::DrawSquares(QPainter& painter) const {
             DrawOffer(painter, square, square == hover_ || square == cursor_);
         } else if (square == cursor_ || (square == hover_ && !game.Blocked[square])) {
             DrawHover(painter, square);
+        }
+        if (square == spokenOf_) {
+            DrawSpokenOf(painter, square);
         }
         if (numbers_) {
             DrawSquareNumber(painter, square);

@@ -26,6 +26,9 @@ public:
     /// Squares that glow because they may be clicked; empty: none.
     void SetOffered(const std::vector<int>& squares);
     const std::vector<int>& Offered() const { return offered_; }
+    /// The square that the open question speaks of; 0: none.
+    void SetSpokenOf(int square);
+    int SpokenOf() const { return spokenOf_; }
     void OutlinePiece(int clan, int amoeba, bool on);
     /// A piece glides from its old square to the place it has now; no square: nothing moves.
     void Glide(int clan, int amoeba, int fromSquare, int milliseconds);
@@ -76,6 +79,7 @@ private:
     bool pressed_ = false;
     int hover_ = 0;
     int cursor_ = 0;
+    int spokenOf_ = 0;
     int outlinedClan_ = 0;
     int outlinedAmoeba_ = 0;
     std::vector<int> offered_;

@@ -59,7 +59,7 @@ public:
     void ShowMessage(std::string_view text, int clan) override;
     std::string Message() const override { return message_; }
     void StartLog(std::string_view header) override;
-    void Log(std::string_view line) override;
+    void Log(std::string_view line, int clan) override;
     void ShowPhase(std::string_view phase) override;
     void ShowCaption(std::string_view caption) override;
     void ShowTurn() override;

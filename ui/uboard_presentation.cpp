@@ -33,8 +33,8 @@ void UBoard::StartLog(std::string_view header) {
     strip_->Log->Start(ToQt(header));
 }
 
-void UBoard::Log(std::string_view line) {
-    strip_->Log->Line(ToQt(line), game.CurPlayer);
+void UBoard::Log(std::string_view line, int clan) {
+    strip_->Log->Line(ToQt(line), clan);
 }
 
 void UBoard::ShowPhase(std::string_view phase) {

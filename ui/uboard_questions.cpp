@@ -115,8 +115,10 @@ void UBoard::ActivateTop() {
     const bool square = top != nullptr && top->Kind == QuestionKind::Square;
     strip_->Question->ShowHint(square ? QStringLiteral("Click one of the glowing squares.") : QString());
     track_->Puddle()->SetOffered(square ? static_cast<SquareQuestion*>(top)->Offered : std::vector<int>());
+    const bool yesNo = top != nullptr && top->Kind == QuestionKind::YesNo;
+    track_->Puddle()->SetSpokenOf(yesNo ? static_cast<YesNoQuestion*>(top)->About : 0);
     strip_->SetPanels(panels);
-    strip_->Question->AskYesNo(top != nullptr && top->Kind == QuestionKind::YesNo);
+    strip_->Question->AskYesNo(yesNo);
     if (square) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {

@@ -192,7 +192,7 @@ public:
     GeneEar() { game.Window = this; }
     ~GeneEar() override { game.Window = nullptr; }
     void ShowMessage(std::string_view text, int) override { Shown.emplace_back(text); }
-    void Log(std::string_view line) override { Logged.emplace_back(line); }
+    void Log(std::string_view line, int) override { Logged.emplace_back(line); }
     void ShowGenes(int clan) override { Steps.push_back(Concat("genes ", clan)); }
     void ShowBP(int clan) override { Steps.push_back(Concat("BP ", clan)); }
     void ShowAutoFlags(int clan) override { Steps.push_back(Concat("auto ", clan)); }

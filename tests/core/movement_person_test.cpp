@@ -110,6 +110,51 @@ const AttemptRow DriftRows[] = {
 };
 // clang-format on
 
+/// The square that the window marks while the offer is open.
+struct SpokenRow {
+    std::string_view Name;
+    int Drift;
+    int Block;  ///< a blocked square; 0: none
+    std::vector<Answer> Answers;
+    std::vector<int> Rolls;
+    int About;
+};
+
+const SpokenRow SpokenRows[] = {
+    {"the_square_the_current_leads_to", Right, 0, {No()}, {9}, 14},
+    {"its_own_against_a_block", Right, 14, {No()}, {}, 13},
+    {"its_own_in_still_water", 0, 0, {No()}, {}, 13},
+    {"none_where_the_current_lets_it_choose", WhereItWants, 0, {No(), Square(13)}, {}, 0},
+};
+
+void PrintTo(const SpokenRow& row, std::ostream* out) {
+    *out << row.Name;
+}
+
+class OfferSpeaksOf : public GameRows<SpokenRow> {};
+
+TEST_P(OfferSpeaksOf, TheSquareOfTheDrift) {
+    const SpokenRow& row = GetParam();
+    NewPosition(3);
+    Person(1);
+    Put(1, 1, 13);
+    game.BP[1] = 1;
+    game.Drift = row.Drift;
+    if (row.Block > 0) {
+        SetBoard(5, 5, Concat(row.Block, ":"));
+    }
+    ScriptedBoard board;
+    for (const Answer& answer : row.Answers) {
+        board.Then(answer);
+    }
+    Script script(row.Rolls);
+    MovePersonsAmoeba(1, 1);
+    ASSERT_FALSE(board.Questions.empty());
+    EXPECT_EQ(board.Questions[0].About, row.About);
+}
+
+INSTANTIATE_TEST_SUITE_P(Offer, OfferSpeaksOf, ::testing::ValuesIn(SpokenRows), RowName());
+
 INSTANTIATE_TEST_SUITE_P(Drift, PersonsMove, ::testing::ValuesIn(DriftRows), RowName());
 
 // clang-format off

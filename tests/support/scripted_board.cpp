@@ -59,6 +59,8 @@ Asked Remember(const Question& question) {
     Asked asked{question.Kind, question.Clan, question.Text, {}, {}};
     if (const auto* square = dynamic_cast<const SquareQuestion*>(&question)) {
         asked.Offered = square->Offered;
+    } else if (const auto* yesNo = dynamic_cast<const YesNoQuestion*>(&question)) {
+        asked.About = yesNo->About;
     } else if (const auto* number = dynamic_cast<const AmNumfrm*>(&question)) {
         asked.Offered = EnabledOptions(number->amopt);
     } else if (const auto* choice = dynamic_cast<const AmChoicefrm*>(&question)) {

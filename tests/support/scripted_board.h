@@ -72,6 +72,7 @@ struct Asked {
     /// What could be answered: squares, numbers, slots, gene numbers, or figures as 10 x clan + slot.
     std::vector<int> Offered;
     std::string Mode;  ///< the dialog's mode; "" where it has none
+    int About = 0;     ///< the square that a yes/no question speaks of; 0: none
 };
 
 /// A board whose person answers from a script, and after its end from a policy. It remembers what was
@@ -111,7 +112,7 @@ public:
     void ShowMessage(std::string_view text, int clan) override;
     std::string Message() const override { return message_; }
     void StartLog(std::string_view header) override;
-    void Log(std::string_view line) override { LogLines.emplace_back(line); }
+    void Log(std::string_view line, int) override { LogLines.emplace_back(line); }
     void ShowPhase(std::string_view phase) override { Phases.emplace_back(phase); }
     void ShowCaption(std::string_view caption) override { Captions.emplace_back(caption); }
     std::string TakeReplayText() override { return ReplayBox; }

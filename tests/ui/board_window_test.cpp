@@ -58,7 +58,6 @@ private slots:
     void heldKeysAnswerNothing();
     void keysAnswer();
     void squaresByTheKeyboard();
-    void whatGlows();
     void clicksAtAnySize_data();
     void clicksAtAnySize();
 };
@@ -312,25 +311,6 @@ void BoardWindowTest::squaresByTheKeyboard() {
         QTest::keyClick(&scene.Puddle(), Qt::Key_Space);
     });
     PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 8}), 8));
-}
-
-void BoardWindowTest::whatGlows() {
-    PositionScene scene;
-    const auto pixel = [&scene](int square) {
-        const QImage picture = scene.Puddle().grab().toImage();
-        const QPointF middle =
-            scene.Puddle().PointAt(QPointF((square - 1) % 5 * 1200 + 150, (square - 1) / 5 * 1200 + 150));
-        return picture.pixel(middle.toPoint());
-    };
-    const QRgb plain = pixel(12);
-    scene.Then(QuestionKind::Square, [&] {
-        QVERIFY(pixel(12) != plain);
-        QCOMPARE(scene.Puddle().cursor().shape(), Qt::PointingHandCursor);
-        scene.ClickSquare(12);
-    });
-    PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {12, 13}), 12));
-    QCOMPARE(pixel(12), plain);
-    QCOMPARE(scene.Puddle().cursor().shape(), Qt::ArrowCursor);
 }
 
 void BoardWindowTest::clicksAtAnySize_data() {
