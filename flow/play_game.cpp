@@ -59,6 +59,7 @@ void EndBrokenGame(const RuntimeError& error) {
     const auto name = game.Players[clan].Name.String();
     const auto where = clan != 0 ? Concat("\nClan ", clan, " (", name, ")") : std::string();
     game.AutoPlay = false;
+    Show(&Presentation::DisableAutoEating);
     TellInABox(Concat("This game cannot go on.\nError #", error.Number, ": ", std::string_view(error.what()), where));
 }
 

@@ -44,12 +44,12 @@ public:
     virtual void ShowDrift() {}
     /// Order of play and scores.
     virtual void ShowOrder() {}
-    /// The clan that acts now.
+    /// The clan that acts now. Where it is a person's, what it has made automatic is shown with it.
     virtual void ShowCurrentClan(int /*clan*/) {}
     /// A clan's genes and the mutation level in their tool tip.
     virtual void ShowGenes(int /*clan*/) {}
-    /// Automatic eating and tentacle use: check marks, labels and what is enabled follow the
-    /// clan; 0: a new game begins, nothing is automatic.
+    /// Automatic eating and tentacle use of the acting clan have changed: check marks, labels and what
+    /// is enabled follow; 0: a new game begins, nothing is automatic.
     virtual void ShowAutoFlags(int /*clan*/) {}
     /// The game is over: nothing automatic can be switched on until the next.
     virtual void DisableAutoEating() {}

@@ -9,7 +9,7 @@
 namespace plasmos {
 
 /// The per-user settings of the application "Plasmos". Keys live in sections: "board" (left, top,
-/// rows, cols, blockno, blocks), "players" (name1 to name6) and "play" (what the menus keep).
+/// width, height, rows, cols, blockno, blocks), "players" (name1 to name6) and "play" (what the menus keep).
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

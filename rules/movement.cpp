@@ -44,9 +44,6 @@ void MovementPhase() {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;
             Show(&Presentation::ShowCurrentClan, clan);
-            if (!game.Players[clan].IsComputer) {
-                Show(&Presentation::ShowAutoFlags, clan);
-            }
             for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
                 if (game.Amoeba[amoeba][clan].Square >= 1) {
                     ActAmoeba(clan, amoeba);

@@ -10,17 +10,6 @@
 
 namespace plasmos {
 
-namespace {
-
-/// A colour with a share of white; dark ones keep themselves, for their text is light.
-QColor Mixed(const QColor& colour, double white) {
-    const double share = colour.lightness() < 140 && colour.blue() > 200 && colour.red() < 60 ? white * 0.25 : white;
-    const auto mix = [share](int part) { return static_cast<int>(part + (255 - part) * share); };
-    return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
-}
-
-}  // namespace
-
 void PillLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -29,7 +18,8 @@ void PillLabel::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.6, height() / 2.6);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setFont(font());
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    constexpr int margin = 5;
+    painter.drawText(rect(), Qt::AlignCenter, fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * margin));
 }
 
 void Card::SetColours(const QColor& background, const QColor& edge) {
@@ -42,10 +32,12 @@ void Card::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(edge_, 1.2));
-    QLinearGradient soft(0, 0, 0, height());
-    soft.setColorAt(0, Mixed(background_, 0.42));
-    soft.setColorAt(1, Mixed(background_, 0.12));
-    painter.setBrush(soft);
+    constexpr double Sheen = 30;
+    QLinearGradient light(0, 0, 0, Sheen);
+    const QColor& own = background_;
+    light.setColorAt(0, QColor((own.red() + 255) / 2, (own.green() + 255) / 2, (own.blue() + 255) / 2));
+    light.setColorAt(1, own);
+    painter.setBrush(light);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
 }
 
@@ -77,8 +69,8 @@ void FitLabel::Fit() {
     for (int pixels = largest_; pixels >= smallest_; --pixels) {
         const QFont candidate = LookFont(pixels, font().bold());
         const QRect room(0, 0, std::max(width(), 10), 10000);
-        if (pixels == smallest_ ||
-            QFontMetrics(candidate).boundingRect(room, Qt::TextWordWrap, text()).height() <= height()) {
+        const QRect needed = QFontMetrics(candidate).boundingRect(room, Qt::TextWordWrap, text());
+        if (pixels == smallest_ || (needed.height() <= height() && needed.width() <= width())) {
             setFont(candidate);
             return;
         }

@@ -14,6 +14,7 @@ class Card : public QWidget {
 public:
     explicit Card(QWidget* parent) : QWidget(parent) {}
 
+    /// The background is exactly the colour from 30 pixels down, with light on the upper edge.
     void SetColours(const QColor& background, const QColor& edge);
 
 protected:

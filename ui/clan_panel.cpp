@@ -30,8 +30,8 @@ QString Kind(int clan) {
 ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
     for (int i = 0; i < MaxClans; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        gList[index] = new GeneChips(this, i + 1);
-        gList[index]->setObjectName(QStringLiteral("gList%1").arg(i));
+        GeneLists[index] = new GeneChips(this, i + 1);
+        GeneLists[index]->setObjectName(QStringLiteral("genelist%1").arg(i));
         bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
         orderlab[index] = new PillLabel(this);
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
@@ -91,7 +91,7 @@ void ClanPanel::ShowOrder() {
 }
 
 void ClanPanel::ShowGenes(int clan) {
-    gList[static_cast<std::size_t>(clan - 1)]->Follow();
+    GeneLists[static_cast<std::size_t>(clan - 1)]->Follow();
     update();
 }
 
@@ -102,7 +102,7 @@ void ClanPanel::ShowCurrentClan(int clan) {
 
 void ClanPanel::ShowAll(bool forget) {
     for (int clan = 1; clan <= MaxClans; ++clan) {
-        GeneChips* chips = gList[static_cast<std::size_t>(clan - 1)];
+        GeneChips* chips = GeneLists[static_cast<std::size_t>(clan - 1)];
         forget ? chips->Forget() : chips->Follow();
         if (clan <= game.NumPlayers) {
             ShowBP(clan);
@@ -123,7 +123,7 @@ void ClanPanel::Arrange() {
         const bool used = Shown() && place <= game.NumPlayers;
         orderlab[static_cast<std::size_t>(place - 1)]->setVisible(used);
         bplab[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
-        gList[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
+        GeneLists[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
         if (!used) {
             continue;
         }
@@ -136,7 +136,7 @@ void ClanPanel::Arrange() {
         const double left = Roomy() ? 20 : 44;
         const double right = Roomy() ? width() - 10 : at.Score - 6;
         const double top = card.top() + (Roomy() ? 50 : 25);
-        gList[clan]->setGeometry(QRectF(left, top, right - left, card.bottom() - top - 2).toRect());
+        GeneLists[clan]->setGeometry(QRectF(left, top, right - left, card.bottom() - top - 2).toRect());
     }
 }
 

@@ -14,9 +14,9 @@ class ClanPanel : public QWidget {
 public:
     explicit ClanPanel(QWidget* parent);
 
-    std::array<QLabel*, 6> bplab;     ///< by clan - 1
-    std::array<QLabel*, 6> orderlab;  ///< by place - 1
-    std::array<GeneChips*, 6> gList;  ///< by clan - 1
+    std::array<QLabel*, 6> bplab;         ///< by clan - 1
+    std::array<QLabel*, 6> orderlab;      ///< by place - 1
+    std::array<GeneChips*, 6> GeneLists;  ///< by clan - 1
 
     void ShowBP(int clan);
     void ShowOrder();

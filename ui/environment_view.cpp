@@ -45,6 +45,15 @@ QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middl
     return point;
 }
 
+FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
+    auto* label = new FitLabel(parent, pixels, 8);
+    label->setObjectName(name);
+    label->setFont(LookFont(pixels, true));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    SetLabelColour(label, QColor(look::Ink));
+    return label;
+}
+
 void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degrees) {
     painter.save();
     painter.translate(centre);
@@ -93,9 +102,8 @@ void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius)
 EnvironmentView::EnvironmentView(QWidget* parent)
     : Card(parent),
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, look::Ink)),
-      driftlab(MakeLabel(this, QStringLiteral("driftlab"), 14, true, look::Ink)),
-      UVlab(MakeLabel(this, QStringLiteral("UVlab"), 20, true, look::Ink)) {
-    driftlab->setWordWrap(true);
+      driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
+      UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)) {
     driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
     UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));
     driftlab->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -116,12 +124,12 @@ void EnvironmentView::Clear() {
 }
 
 void EnvironmentView::ShowDrift() {
-    driftlab->setText(ToQt(DirectionText(game.Drift)));
+    driftlab->SetText(ToQt(DirectionText(game.Drift)));
     update();
 }
 
 void EnvironmentView::ShowUV() {
-    UVlab->setText(QString::number(game.UVLevel));
+    UVlab->SetText(QString::number(game.UVLevel));
     update();
 }
 
@@ -130,7 +138,7 @@ void EnvironmentView::resizeEvent(QResizeEvent*) {
     turnlab->setGeometry(left, 8, static_cast<int>(DriftLeft()) - left - 4, 28);
     const int drift = static_cast<int>(DriftLeft()) + 42;
     driftlab->setGeometry(drift, 28, static_cast<int>(UvLeft()) - drift - 4, 46);
-    UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 52, 30);
+    UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 36, 30);
 }
 
 void EnvironmentView::DrawTurns(QPainter& painter) const {

@@ -14,8 +14,8 @@ public:
     explicit EnvironmentView(QWidget* parent);
 
     QLabel* turnlab;
-    QLabel* driftlab;
-    QLabel* UVlab;
+    FitLabel* driftlab;
+    FitLabel* UVlab;
 
     void ShowPhase(const QString& phase);
     /// No game is shown.

@@ -30,7 +30,7 @@ QFont ChipFont(int form) {
 }  // namespace
 
 GeneChips::GeneChips(QWidget* parent, int clan) : QWidget(parent), clan_(clan) {
-    setObjectName(QStringLiteral("gList%1").arg(clan - 1));
+    setObjectName(QStringLiteral("genelist%1").arg(clan - 1));
 }
 
 void GeneChips::Follow() {

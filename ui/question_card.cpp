@@ -36,13 +36,16 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
 
 QuestionCard::QuestionCard(QWidget* parent)
     : Card(parent),
-      playerlab(MakeLabel(this, QStringLiteral("playerlab"), 13, true, look::Ink)),
+      playerlab(new PillLabel(this)),
       msglab(new FitLabel(this, 15, 10)),
       autoeatlab(MakePill(this, "autoeatlab", "auto-eating")),
       autotenlab(MakePill(this, "autotenlab", "auto-tentacle")),
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
       hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, look::Ink)) {
+    playerlab->setObjectName(QStringLiteral("playerlab"));
+    playerlab->setTextFormat(Qt::PlainText);
+    playerlab->setFont(LookFont(13, true));
     msglab->setObjectName(QStringLiteral("msglab"));
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
@@ -103,7 +106,7 @@ void QuestionCard::resizeEvent(QResizeEvent*) {
 
 void QuestionCard::Arrange() {
     const int head = Pad + 26;
-    const int name = std::min(playerlab->sizeHint().width() + 10, std::max(60, width() - head - 190));
+    const int name = std::min(playerlab->sizeHint().width() + 14, std::max(60, width() - head - 190));
     playerlab->setGeometry(head, 8, name, 20);
     autoeatlab->setGeometry(width() - Pad - 84, 9, 84, 18);
     autotenlab->setGeometry(width() - Pad - 84 - 98, 9, 94, 18);

@@ -220,7 +220,11 @@ void UBoard::SaveWindow() {
     if (game.Settings == nullptr || isMinimized()) {
         return;
     }
-    const QRect place = isMaximized() || isFullScreen() ? normalGeometry() : QRect(pos(), size());
+    QRect place(pos(), size());
+    if (isMaximized() || isFullScreen()) {
+        const QPoint frame = geometry().topLeft() - pos();
+        place = normalGeometry().translated(-frame);
+    }
     const std::pair<const char*, int> values[] = {
         {"left", place.x()}, {"top", place.y()}, {"width", place.width()}, {"height", place.height()}};
     for (const auto& [key, value] : values) {

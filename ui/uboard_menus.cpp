@@ -144,8 +144,9 @@ void UBoard::autoeat_men_Click() {
         autoeat_men_->setChecked(!autoeat_men_->isChecked());
         return;
     }
-    game.AutoFlags[game.CurPlayer][1] = autoeat_men_->isChecked();
-    strip_->Question->autoeatlab->setVisible(autoeat_men_->isChecked());
+    bool& eating = game.AutoFlags[game.CurPlayer][1];
+    eating = !eating;
+    ShowAutoFlags(game.CurPlayer);
 }
 
 void UBoard::autoten_men_Click() {
@@ -153,8 +154,9 @@ void UBoard::autoten_men_Click() {
         autoten_men_->setChecked(!autoten_men_->isChecked());
         return;
     }
-    game.AutoFlags[game.CurPlayer][2] = autoten_men_->isChecked();
-    strip_->Question->autotenlab->setVisible(autoten_men_->isChecked());
+    bool& tentacle = game.AutoFlags[game.CurPlayer][2];
+    tentacle = !tentacle;
+    ShowAutoFlags(game.CurPlayer);
 }
 
 void UBoard::pref_men_Click() {
@@ -188,12 +190,12 @@ void UBoard::driftlab_MouseDown() {
         return;
     }
     Borrow(DriftBorrowed);
-    strip_->Environment->driftlab->setText(ToQt(ReplayText(game.ReplayNo)));
+    strip_->Environment->driftlab->SetText(ToQt(ReplayText(game.ReplayNo)));
 }
 
 void UBoard::UVlab_MouseUp() {
     Borrow(UVBorrowed);
-    strip_->Environment->UVlab->setText(QStringLiteral("%1").arg(MeanUV(), 4, 'f', 1, QLatin1Char('0')));
+    strip_->Environment->UVlab->SetText(QStringLiteral("%1").arg(MeanUV(), 4, 'f', 1, QLatin1Char('0')));
 }
 
 void UBoard::Borrow(const QString& label) {
@@ -213,7 +215,8 @@ void UBoard::GiveBack() {
 }
 
 bool UBoard::eventFilter(QObject* watched, QEvent* event) {
-    const bool drift = watched == strip_->Environment->driftlab && event->type() == QEvent::MouseButtonPress;
+    const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    const bool drift = watched == strip_->Environment->driftlab && press;
     const bool uv = watched == strip_->Environment->UVlab && event->type() == QEvent::MouseButtonRelease;
     if ((drift || uv) && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
         drift ? driftlab_MouseDown() : UVlab_MouseUp();

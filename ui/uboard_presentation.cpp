@@ -74,6 +74,7 @@ void UBoard::ShowOrder() {
 void UBoard::ShowCurrentClan(int clan) {
     strip_->Question->ShowClan(clan);
     strip_->Clans->ShowCurrentClan(clan);
+    ShowAutoFlags(clan);
 }
 
 void UBoard::ShowGenes(int clan) {
@@ -81,22 +82,26 @@ void UBoard::ShowGenes(int clan) {
     strip_->Environment->update();
 }
 
-// A new game shows the flags of every clan, which are all off; later only a person's clan is shown.
+// A new game shows the flags of every clan, which are all off; later those of the clan that acts. While
+// a computer clan acts the marks of the menu stay those of the last person.
 void UBoard::ShowAutoFlags(int clan) {
+    if (game.Turn > 0 && clan != game.CurPlayer) {
+        return;
+    }
     const bool person = clan >= 1 && clan <= MaxClans && !game.Players[clan].IsComputer;
+    const bool eating = person && game.AutoFlags[clan][1];
+    const bool tentacle = person && game.AutoFlags[clan][2];
+    strip_->Question->autoeatlab->setVisible(eating);
+    strip_->Question->autotenlab->setVisible(tentacle);
     if (!person && game.Turn > 0) {
         return;
     }
-    const bool eating = person && game.AutoFlags[clan][1];
-    const bool tentacle = person && game.AutoFlags[clan][2];
     if (game.Turn == 0) {
         autoeat_men_->setEnabled(true);
     }
     autoeat_men_->setChecked(eating);
     autoten_men_->setChecked(tentacle);
     autoten_men_->setEnabled(person && HasGene(clan, "ten"));
-    strip_->Question->autoeatlab->setVisible(eating);
-    strip_->Question->autotenlab->setVisible(tentacle);
 }
 
 void UBoard::DisableAutoEating() {

@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include "rules/ask.h"
+#include "rules/division.h"
+#include "rules/new_genes.h"
 #include "tests/ui/support/position.h"
 #include "ui/puddle_view.h"
 #include "ui/uboard.h"
@@ -43,9 +45,13 @@ private slots:
     void automaticTentacle();
     void noFlagsForComputerClans();
     void flagsFollowThePerson();
+    void flagsFollowThroughEveryPhase();
+    void aGameThatBreaksOffEndsTheFlags();
 
     void driftLends();
     void driftGivesBackAtOnce();
+    void driftTurnsBackAtASecondPress();
+    void aLentLabelIsReadWhole();
     void uvLends_data();
     void uvLends();
     void oneLabelAtATime();
@@ -187,9 +193,85 @@ void BoardMenusTest::flagsFollowThePerson() {
         QVERIFY(!scene.Item(QStringLiteral("autoten_men"))->isEnabled());
         scene.Click(QStringLiteral("nob"));
     });
-    PHASE(scene, Board().ShowAutoFlags(2); AskYesNo(2, "Really?"); Board().ShowAutoFlags(3); AskYesNo(3, "Really?"));
+    PHASE(
+        scene, for (const int clan
+                    : {2, 3}) {
+            game.CurPlayer = clan;
+            Show(&Presentation::ShowCurrentClan, clan);
+            AskYesNo(clan, "Really?");
+        });
     PHASE(scene, Board().DisableAutoEating());
     QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isEnabled());
+}
+
+// Two persons: whoever is asked in whatever phase sees and sets the own flags.
+void BoardMenusTest::flagsFollowThroughEveryPhase() {
+    PositionScene scene;
+    Person(2);
+    Put(2, 1, 12);
+    Give(2, "ten");
+    game.AutoFlags[2][1] = true;
+    game.BP[2] = game.BP[3] = 10;
+    int asked = 0;
+    const auto look = [&](Question& question) {
+        ++asked;
+        const bool second = question.Clan == 2;
+        QCOMPARE(game.CurPlayer, question.Clan);
+        QCOMPARE(scene.Item(QStringLiteral("autoeat_men"))->isChecked(), second);
+        QCOMPARE(scene.Sees(QStringLiteral("autoeatlab")), second);
+        QCOMPARE(scene.Item(QStringLiteral("autoten_men"))->isEnabled(), second);
+        scene.Click(QStringLiteral("nob"));
+    };
+    scene.AnswerBy(look);
+    PHASE(scene, NewGenesPhase(); DivisionPhase());
+    QCOMPARE(asked, 4);
+    PHASE(scene, game.CurPlayer = 1; Show(&Presentation::ShowCurrentClan, 1));
+    QVERIFY2(!scene.Sees(QStringLiteral("autoeatlab")), "a computer clan has nothing automatic");
+}
+
+void BoardMenusTest::aGameThatBreaksOffEndsTheFlags() {
+    for (const bool fault : {false, true}) {
+        Scene scene;
+        bool enabled = false;
+        scene.AnswerBy([&](Question& question) {
+            enabled = enabled || scene.Item(QStringLiteral("autoeat_men"))->isEnabled();
+            if (question.Kind == QuestionKind::Box) {
+                scene.Click(QStringLiteral("okb"));
+            } else if (fault) {
+                throw RuntimeError(9, "Subscript out of range");
+            } else {
+                scene.Menu(QStringLiteral("leavemen"));
+            }
+        });
+        scene.Click(QStringLiteral("gob"));
+        QVERIFY(enabled);
+        QVERIFY(!scene.Item(QStringLiteral("autoeat_men"))->isEnabled());
+        QVERIFY(!scene.Item(QStringLiteral("autoten_men"))->isEnabled());
+    }
+}
+
+void BoardMenusTest::driftTurnsBackAtASecondPress() {
+    PositionScene scene;
+    game.Drift = 5;
+    game.ReplayNo = 47.5F;
+    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5"));
+          QTest::mouseDClick(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("Down")));
+}
+
+void BoardMenusTest::aLentLabelIsReadWhole() {
+    PositionScene scene;
+    scene.Board().resize(940, 640);
+    game.ReplayNo = 45231.42F;
+    PHASE(
+        scene, for (const QString& name
+                    : {Drift(), UV()}) {
+            auto* label = static_cast<QLabel*>(scene.Find(name));
+            QTest::mousePress(label, Qt::RightButton);
+            QTest::mouseRelease(label, Qt::RightButton);
+            QVERIFY2(label->fontMetrics().horizontalAdvance(label->text()) <= label->width(), qPrintable(name));
+        });
 }
 
 void BoardMenusTest::driftLends() {

@@ -49,6 +49,7 @@ private slots:
 
     void messageColours_data();
     void messageColours();
+    void twoClansTwoColours();
     void anEarlierTextComesBack();
     void geneLists();
 
@@ -157,6 +158,13 @@ void BoardWindowTest::messageColours_data() {
     QTest::newRow("orange") << 6 << 0xFFFF8000U << 0xFF000000U;
 }
 
+/// What is painted behind a label's letters, at the middle of its lower edge.
+QRgb BackgroundOf(Scene& scene, const char* name) {
+    const QWidget* label = scene.Find(QString::fromLatin1(name));
+    const QPoint point = label->mapTo(&scene.Board(), QPoint(label->width() / 2, label->height() - 3));
+    return scene.Board().grab().toImage().pixel(point);
+}
+
 void BoardWindowTest::messageColours() {
     QFETCH(int, clan);
     QFETCH(QRgb, background);
@@ -170,11 +178,25 @@ void BoardWindowTest::messageColours() {
             const QPalette palette = scene.Find(QString::fromLatin1(name))->palette();
             QCOMPARE(palette.color(QPalette::Window).rgb(), background);
             QCOMPARE(palette.color(QPalette::WindowText).rgb(), text);
+            QCOMPARE(BackgroundOf(scene, name), background);
         }
         QCOMPARE(scene.Text(QStringLiteral("playerlab")), QStringLiteral("Player %1").arg(clan));
         scene.Click(QStringLiteral("yesb"));
     });
     PHASE(scene, Show(&Presentation::ShowCurrentClan, clan); QVERIFY(AskYesNo(clan, "Really?")));
+}
+
+// The acting clan's name and the question to another clan stand side by side, each in its own colours.
+void BoardWindowTest::twoClansTwoColours() {
+    PositionScene scene;
+    game.CurPlayer = 1;
+    scene.Then(QuestionKind::YesNo, [&] {
+        QCOMPARE(BackgroundOf(scene, "playerlab"), 0xFF0000FFU);
+        QCOMPARE(BackgroundOf(scene, "msglab"), 0xFFFFFF00U);
+        scene.Click(QStringLiteral("yesb"));
+    });
+    PHASE(scene, Show(&Presentation::ShowCurrentClan, 1); QVERIFY(AskYesNo(3, "Escape?")); ClearMessage();
+          QCOMPARE(BackgroundOf(scene, "playerlab"), 0xFF0000FFU));
 }
 
 void BoardWindowTest::anEarlierTextComesBack() {
@@ -190,12 +212,12 @@ void BoardWindowTest::geneLists() {
     PHASE(
         scene, for (const char* code
                     : {"sub", "int", "mv1", "mv2"}) { BuyGene(GeneNumber(code)); });
-    const auto* list = dynamic_cast<GeneChips*>(scene.Find(QStringLiteral("gList2")));
+    const auto* list = dynamic_cast<GeneChips*>(scene.Find(QStringLiteral("genelist2")));
     QVERIFY(list != nullptr && list->isVisible());
     QCOMPARE(list->Genes(), (std::vector<int>{GeneNumber("sub"), GeneNumber("int"), GeneNumber("mv2")}));
     const QPoint beside(list->width() - 2, list->height() - 2);
     QHelpEvent help(QEvent::ToolTip, beside, list->mapToGlobal(beside));
-    QCoreApplication::sendEvent(scene.Find(QStringLiteral("gList2")), &help);
+    QCoreApplication::sendEvent(scene.Find(QStringLiteral("genelist2")), &help);
     QVERIFY2(QToolTip::text().contains(QStringLiteral("Mutation level: 12")), qPrintable(QToolTip::text()));
 }
 
