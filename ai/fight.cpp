@@ -75,6 +75,7 @@ void Outcome(const Victim& victim, int square) {
     if (HasGene(victim.Clan, "arm")) {
         ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
         Show(&Presentation::DrawPiece, victim.Clan, victim.Amoeba);
+        LetPersonRead(game.CurPlayer);
         return;
     }
     AddFoodOfAllColours(square, FoodOfTheTorn);

@@ -155,6 +155,12 @@ void TellPerson(int clan, const std::string& text) {
     Show(&Presentation::Pause, StatementPause);
 }
 
+void LetPersonRead(int clan) {
+    if (!game.Players[clan].IsComputer) {
+        Show(&Presentation::Pause, StatementPause);
+    }
+}
+
 void ClearMessage() {
     Board().ShowMessage({}, 0);
 }

@@ -97,6 +97,9 @@ void ReportBox(const std::string& text);
 /// there is a pause to read it in.
 void TellPerson(int clan, const std::string& text);
 
+/// Time to read what has just been said; taken only where the clan is a person's.
+void LetPersonRead(int clan);
+
 /// The message line without text.
 void ClearMessage();
 

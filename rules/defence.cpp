@@ -99,6 +99,7 @@ bool EscapeComputer(int clan, int amoeba) {
         return false;
     }
     Say(piece.Name, " escaped to ", piece.Square, "!");
+    LetPersonRead(game.CurPlayer);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "model/narration.h"
 #include "model/presentation.h"
 #include "model/signature.h"
+#include "rules/ask.h"
 #include "rules/menus.h"
 
 namespace plasmos {
@@ -110,6 +111,9 @@ void EatMenu(int menu, int square) {
     Sign(SignedEvent::Meal, clan, square, menu);
     Say(Eater().Name, " eats ", menu, " in ", square);
     Show(&Presentation::DrawSquare, square);
+    if (SomebodyListens()) {
+        LetPersonRead(clan);
+    }
 }
 
 void EatSuggestion(int menu, int square) {

@@ -162,6 +162,17 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     for (const Rider& rider : riders) {
         MoveAlone(rider.Clan, rider.Amoeba, destination);
         Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
+        LetPersonRead(clan);
+    }
+}
+
+/// The clan that acts put one amoeba too many into a square.
+void TellOfTheCrowd(int square) {
+    const auto text = Concat("How did you ever manage to squeeze ", "30", " amoebas in square ", square, "?!?!?");
+    if (game.Players[game.CurPlayer].IsComputer) {
+        ReportBox(text);
+    } else {
+        ShowBox(game.CurPlayer, text);
     }
 }
 
@@ -169,7 +180,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
 
 int SquareCapacity(int square) {
     if (game.Occupancy[square][0] >= MaxSpots) {
-        ReportBox(Concat("How did you ever manage to squeeze ", "30", " amoebas in square ", square, "?!?!?"));
+        TellOfTheCrowd(square);
         return 0;
     }
     const std::uint32_t taken = game.SpotsTaken[square];

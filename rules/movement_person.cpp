@@ -140,9 +140,10 @@ int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
         return ChooseNeighbour(clan, amoeba);
     }
     const int direction = RollDirection();
-    const bool chooses = kind == MoveKind::Escape && direction == WhereItWants;
-    if (HasGene(clan, "mv1") && !chooses) {
-        return ThrowAgain(clan, amoeba, SquareOfThrow(clan, amoeba, direction));
+    if (HasGene(clan, "mv1")) {
+        const int square = SquareOfThrow(clan, amoeba, direction);
+        const bool chosen = kind == MoveKind::Escape && direction == WhereItWants;
+        return chosen ? square : ThrowAgain(clan, amoeba, square);
     }
     const bool anyway = kind == MoveKind::FirstAttempt && direction == game.Drift;
     TellPerson(clan,

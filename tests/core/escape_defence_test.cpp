@@ -210,6 +210,7 @@ TEST_F(Attacked, AFirst6OfMovement1ChoosesAtOnceAndThrowsNoSecondDie) {
     EXPECT_TRUE(EscapeAmoeba(2, 1));
     EXPECT_THAT(board.Questions[1].Offered, ElementsAre(8, 12, 14, 18));
     EXPECT_EQ(game.Amoeba[1][2].Square, 18);
+    EXPECT_EQ(board.LogLines.size(), 1U) << "Movement 1 is told of no throw, only of the escape";
 }
 
 TEST_F(Attacked, AnEscapeHasNoSecondAttemptAndTakesNothingAlong) {

@@ -142,6 +142,14 @@ TEST_F(Crowded, InFastModeTheMessageIsALineOfTheLog) {
     EXPECT_TRUE(board.HasLogLine("How did you ever manage to squeeze 30 amoebas in square 14?!?!?"));
 }
 
+TEST_F(Crowded, APersonGetsTheMessageInFastModeToo) {
+    Crowd(14, 30);
+    Person(1);
+    game.FastMode = true;
+    MoveAmoeba(1, 1, 14);
+    EXPECT_THAT(board.Boxes, ElementsAre("How did you ever manage to squeeze 30 amoebas in square 14?!?!?"));
+}
+
 // ---- hitch-hikers ----
 
 class HitchHiking : public Moving {
