@@ -11,8 +11,6 @@ namespace plasmos {
 
 namespace {
 
-constexpr int StatementPause = 10;
-
 /// Nothing answers any more: what is clicked after a question belongs to no later one.
 void ForgetAnswer() {
     game.Reply = 0;
@@ -153,12 +151,6 @@ void TellPerson(int clan, const std::string& text) {
     Board().ShowMessage(text, clan);
     LogBox(clan, text);
     Show(&Presentation::Pause, StatementPause);
-}
-
-void LetPersonRead(int clan) {
-    if (!game.Players[clan].IsComputer) {
-        Show(&Presentation::Pause, StatementPause);
-    }
 }
 
 void ClearMessage() {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/game_state.h"
+#include "model/presentation.h"
 #include "model/question.h"
 
 namespace plasmos {
@@ -97,8 +99,15 @@ void ReportBox(const std::string& text);
 /// there is a pause to read it in.
 void TellPerson(int clan, const std::string& text);
 
+/// Time to read a statement in, in pause units.
+inline constexpr int StatementPause = 10;
+
 /// Time to read what has just been said; taken only where the clan is a person's.
-void LetPersonRead(int clan);
+inline void LetPersonRead(int clan) {
+    if (game.Window != nullptr && !game.Players[clan].IsComputer) {
+        game.Window->Pause(StatementPause);
+    }
+}
 
 /// The message line without text.
 void ClearMessage();

@@ -111,9 +111,7 @@ void EatMenu(int menu, int square) {
     Sign(SignedEvent::Meal, clan, square, menu);
     Say(Eater().Name, " eats ", menu, " in ", square);
     Show(&Presentation::DrawSquare, square);
-    if (SomebodyListens()) {
-        LetPersonRead(clan);
-    }
+    LetPersonRead(clan);
 }
 
 void EatSuggestion(int menu, int square) {

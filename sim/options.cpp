@@ -16,6 +16,7 @@ namespace {
 constexpr std::int64_t MostGames = 16000000;
 constexpr std::int64_t BenchGames = 20000;
 constexpr int MostJobs = 256;
+constexpr std::int64_t LargestSeed = 1000000000000000000;
 /// From here on singles skip whole numbers, and games would be played twice.
 constexpr double ReplayBound = 16777216;
 
@@ -79,9 +80,11 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     SimOptions options;
     std::string replay = "1";
     std::string difficulty = "normal";
+    std::string format = "table";
+    std::string progress = "auto";
     const std::map<std::string, ResultFormat> formats{
         {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
-    const std::map<std::string, ProgressMode> progress{
+    const std::map<std::string, ProgressMode> modes{
         {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
 
     CLI::App app("Plays games of Plasmos without a window.", "plasmos-sim");
@@ -99,17 +102,19 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     app.add_option("--cols", options.Cols, "columns of the board, 3 to 9 (default 5)")
         ->check(CLI::Range(MinSide, MaxSide));
     app.add_option("--blocks", options.Blocks, "blocked squares, such as 7:12:");
-    app.add_option("--robot", options.Robot, "seed of the robot person (default 1)")->check(CLI::NonNegativeNumber);
+    app.add_option("--robot", options.Robot, "seed of the robot person (default 1)")
+        ->check(CLI::Range(std::int64_t{0}, LargestSeed));
     app.add_option("--jobs", options.Jobs, "games at a time (default: the number of cores)")
         ->check(CLI::Range(1, MostJobs));
-    app.add_option("--format", options.Format, "table, csv or json")->transform(CLI::CheckedTransformer(formats));
+    app.add_option("--format", format, "table, csv or json (default table)")
+        ->check(CLI::IsMember({"table", "csv", "json"}));
     app.add_option("--output", options.Output, "file for the results (default: standard output)");
     app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
     app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
     app.add_flag("--check", options.Check, "looks through the whole state after every step");
-    app.add_option("--progress", options.Progress, "auto, always or never")
-        ->transform(CLI::CheckedTransformer(progress));
+    app.add_option("--progress", progress, "auto, always or never (default auto)")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
@@ -127,6 +132,8 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
         throw UsageError(Concat("--replay: \"", replay, "\" is no decimal number that a single holds"));
     }
     options.Normal = difficulty == "normal";
+    options.Format = formats.at(format);
+    options.Progress = modes.at(progress);
     if (options.Bench && app.count("--games") == 0) {
         options.Games = BenchGames;
     }

@@ -112,6 +112,8 @@ private:
     void lines_men_Click();
     void autoeat_men_Click();
     void autoten_men_Click();
+    /// Turns a flag of the acting person over (column 1 eating, 2 tentacle); otherwise the item's mark stays.
+    void ToggleAutomatic(QAction& item, int column);
     void pref_men_Click();
     /// Takes the saved board; a save that was tried may have reached the settings and not the file.
     void OptionsClosed(bool saveTried);

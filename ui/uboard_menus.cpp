@@ -140,22 +140,20 @@ void UBoard::lines_men_Click() {
 }
 
 void UBoard::autoeat_men_Click() {
-    if (!PersonActs()) {
-        autoeat_men_->setChecked(!autoeat_men_->isChecked());
-        return;
-    }
-    bool& eating = game.AutoFlags[game.CurPlayer][1];
-    eating = !eating;
-    ShowAutoFlags(game.CurPlayer);
+    ToggleAutomatic(*autoeat_men_, 1);
 }
 
 void UBoard::autoten_men_Click() {
+    ToggleAutomatic(*autoten_men_, 2);
+}
+
+void UBoard::ToggleAutomatic(QAction& item, int column) {
     if (!PersonActs()) {
-        autoten_men_->setChecked(!autoten_men_->isChecked());
+        item.setChecked(!item.isChecked());
         return;
     }
-    bool& tentacle = game.AutoFlags[game.CurPlayer][2];
-    tentacle = !tentacle;
+    bool& automatic = game.AutoFlags[game.CurPlayer][column];
+    automatic = !automatic;
     ShowAutoFlags(game.CurPlayer);
 }
 
