@@ -50,6 +50,7 @@ QuestionCard::QuestionCard(QWidget* parent)
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
     yesb->setProperty("main", true);
+    hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     autoeatlab->setToolTip(QStringLiteral("This clan eats without asking"));
     autotenlab->setToolTip(QStringLiteral("This clan uses its tentacles without asking"));
     AskYesNo(false);
@@ -81,6 +82,7 @@ void QuestionCard::AskYesNo(bool on) {
         hint_->clear();
         yesb->setFocus();
     }
+    Arrange();
 }
 
 void QuestionCard::ShowHint(const QString& hint) {
@@ -117,7 +119,7 @@ void QuestionCard::Arrange() {
     yesb->setGeometry(Pad, top, 104, ButtonHeight);
     nob->setGeometry(Pad + 116, top, 104, ButtonHeight);
     hint_->setGeometry(Pad, top, width() - 2 * Pad, ButtonHeight);
-    hint_->setVisible(room);
+    hint_->setVisible(room && !asking_);
 }
 
 void QuestionCard::paintEvent(QPaintEvent* event) {
