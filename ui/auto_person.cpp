@@ -10,6 +10,7 @@
 #include "rules/food_form.h"
 #include "rules/gene_form.h"
 #include "rules/victim_form.h"
+#include "ui/palette.h"
 #include "ui/piece_layout.h"
 #include "ui/puddle_view.h"
 #include "ui/uboard.h"
@@ -29,82 +30,95 @@ int HighestEnabled(const Table<ChoiceOption, 0, 7>& options, int most) {
 
 }  // namespace
 
-void AutoPerson::Click(const char* name) {
-    for (auto* button : board_.findChildren<QAbstractButton*>(QString::fromLatin1(name))) {
+AutoPerson::Touch AutoPerson::At(const std::string& name, bool last) {
+    last_ = name;
+    for (auto* button : board_.findChildren<QAbstractButton*>(ToQt(name))) {
         if (button->isEnabled() && button->isVisible()) {
-            button->click();
-            return;
+            return {button, button->rect().center(), last};
         }
     }
+    return {nullptr, QPoint(), true};
 }
 
-void AutoPerson::ClickSquare(int square) {
-    const auto* puddle = board_.findChild<PuddleView*>();
-    const QPointF corner = SquareCorner(square);
-    puddle->OnSquarePoint(static_cast<int>(corner.x()) + SquareUnits / 2,
-                          static_cast<int>(corner.y()) + SquareUnits / 2);
+AutoPerson::Touch AutoPerson::AtSquare(int square) {
+    last_.clear();
+    auto* puddle = board_.findChild<PuddleView*>();
+    const QPointF middle = SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
+    return {puddle, puddle->PointAt(middle).toPoint(), true};
 }
 
 // Whatever somebody else has typed or chosen before, the dialog comes to an end.
-void AutoPerson::AnswerFood(FoodForm& form) {
-    if (form.sfsoptValue) {
-        Click("sfsopt");
+AutoPerson::Touch AutoPerson::NextForFood(FoodForm& form) {
+    if (form.sfsoptValue || form.paroptValue) {
+        return At(form.sfsoptValue ? "sfsopt" : "paropt", false);
     }
-    if (form.paroptValue) {
-        Click("paropt");
+    const bool suggests = form.Mode != "TENTACLE" && form.SuggestedMenu > 0;
+    if (suggests && last_ != "suggestb") {
+        return At("suggestb", false);
     }
-    if (form.Mode != "TENTACLE" && form.SuggestedMenu > 0) {
-        Click("suggestb");
-    }
-    Click(form.SuggestedMenu > 0 || form.AllZero() ? "eatb" : "closeb");
+    return At(form.SuggestedMenu > 0 || form.AllZero() ? "eatb" : "closeb", true);
 }
 
 // Genes are bought one by one while they are cheap; in the other mode the dearest is given up first.
-void AutoPerson::AnswerGenes(GeneForm& form) {
+AutoPerson::Touch AutoPerson::NextForGenes(GeneForm& form) {
     const bool adapting = game.DialogMode == "ENVIRONMENT";
-    for (int gene = adapting ? GeneCount : 1; gene >= 1 && gene <= GeneCount; gene += adapting ? -1 : 1) {
-        const bool enough = adapting ? form.UVdiff <= 0 : game.BP[form.Clan] < 5;
-        if (!enough && form.gcheck[gene].Enabled && form.gcheck[gene].Ticked == adapting) {
-            Click(Concat("gcheck", gene).c_str());
+    if (last_.rfind("gcheck", 0) != 0) {
+        gene_ = adapting ? GeneCount + 1 : 0;
+    }
+    const bool enough = adapting ? form.UVdiff <= 0 : game.BP[form.Clan] < 5;
+    for (gene_ += adapting ? -1 : 1; !enough && gene_ >= 1 && gene_ <= GeneCount; gene_ += adapting ? -1 : 1) {
+        if (form.gcheck[gene_].Enabled && form.gcheck[gene_].Ticked == adapting) {
+            return At(Concat("gcheck", gene_), false);
         }
     }
-    Click("doneb");
+    return At("doneb", true);
 }
 
-void AutoPerson::AnswerVictim(VictimForm& form) {
+AutoPerson::Touch AutoPerson::NextForVictim(VictimForm& form) {
     for (std::size_t i = 0; i < form.Figures.size() && !form.donebEnabled; ++i) {
-        if (form.Figures[i].Markable) {
-            Click(Concat("figure", static_cast<int>(i)).c_str());
+        if (form.Figures[i].Markable && !form.Figures[i].Marked) {
+            return At(Concat("figure", static_cast<int>(i)), false);
         }
     }
-    Click(form.donebEnabled ? "doneb" : "closeb");
+    return At(form.donebEnabled ? "doneb" : "closeb", true);
 }
 
-void AutoPerson::Answer(Question& question) {
+AutoPerson::Touch AutoPerson::Next(Question& question) {
     switch (question.Kind) {
         case QuestionKind::YesNo:
             // Moves are declined twice out of three times, everything else is welcome.
-            Click(game.Turn > 0 && game.DialogMode.empty() && ++turns_ % 3 != 0 ? "nob" : "yesb");
-            return;
+            return At(game.Turn > 0 && game.DialogMode.empty() && ++turns_ % 3 != 0 ? "nob" : "yesb", true);
         case QuestionKind::Square: {
             const auto& offered = static_cast<SquareQuestion&>(question).Offered;
-            ClickSquare(offered[static_cast<std::size_t>(++turns_) % offered.size()]);
-            return;
+            return AtSquare(offered[static_cast<std::size_t>(++turns_) % offered.size()]);
         }
         case QuestionKind::Number: {
             const auto& form = static_cast<AmNumfrm&>(question);
-            Click(Concat("amopt", HighestEnabled(form.amopt, question.Clan == 0 ? 4 : 2)).c_str());
-            return;
+            return At(Concat("amopt", HighestEnabled(form.amopt, question.Clan == 0 ? 4 : 2)), true);
         }
         case QuestionKind::Amoeba: {
             const int amoeba = HighestEnabled(static_cast<AmChoicefrm&>(question).amopt, 7);
-            Click(amoeba > 0 ? Concat("amopt", amoeba).c_str() : "amoptb");
-            return;
+            return At(amoeba > 0 ? Concat("amopt", amoeba) : "amoptb", true);
         }
-        case QuestionKind::Food: AnswerFood(static_cast<FoodForm&>(question)); return;
-        case QuestionKind::Victim: AnswerVictim(static_cast<VictimForm&>(question)); return;
-        case QuestionKind::Genes: AnswerGenes(static_cast<GeneForm&>(question)); return;
-        case QuestionKind::Box: Click("okb"); return;
+        case QuestionKind::Food: return NextForFood(static_cast<FoodForm&>(question));
+        case QuestionKind::Victim: return NextForVictim(static_cast<VictimForm&>(question));
+        case QuestionKind::Genes: return NextForGenes(static_cast<GeneForm&>(question));
+        case QuestionKind::Box: break;
+    }
+    return At("okb", true);
+}
+
+void AutoPerson::Answer(Question& question) {
+    last_.clear();
+    bool more = true;
+    while (more) {
+        const Touch touch = Next(question);
+        const std::string why =
+            touch.Control != nullptr ? hand_->Press(*touch.Control, touch.Point) : "there is nothing to press";
+        if (!why.empty() && OnFault) {
+            OnFault(why);
+        }
+        more = why.empty() && !touch.Last;
     }
 }
 

@@ -77,7 +77,7 @@ NumberPanel::NumberPanel(QWidget* parent, AmNumfrm& form)
         options_[static_cast<std::size_t>(k)] = option;
         grid->addWidget(option, 0, k);
     }
-    Body()->addLayout(grid);
+    Foot()->addLayout(grid);
     NumberPanel::Reread();
 }
 
@@ -119,7 +119,7 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
     }
     grid->addWidget(none_, 4, 0, 1, 2);
     connect(none_, &QPushButton::clicked, this, [this] { Handle([this] { form_.amoptb_Click(); }); });
-    Body()->addLayout(grid);
+    Foot()->addLayout(grid);
     std::vector<QWidget*> controls(options_.begin() + 1, options_.end());
     controls.push_back(none_);
     OrderTabs(controls);
@@ -154,7 +154,7 @@ BoxPanel::BoxPanel(QWidget* parent, BoxQuestion& box)
       text_(MakeText(this, "boxlab", 14)),
       ok_(MakeButton(QStringLiteral("okb"), QStringLiteral("OK"), true)) {
     Body()->addWidget(text_);
-    Body()->addWidget(ok_, 0, Qt::AlignRight);
+    Foot()->addWidget(ok_, 0, Qt::AlignRight);
     connect(ok_, &QPushButton::clicked, this, [this] { Handle([this] { box_.ok_Click(); }); });
     BoxPanel::Reread();
 }

@@ -17,6 +17,8 @@ namespace {
 constexpr double Gap = 6;
 constexpr double FullCard = 76;
 constexpr double LeastCard = 45;
+constexpr double LineHeight = 24;
+constexpr double LineHeads = 14;
 
 QString Kind(int clan) {
     if (!game.Players[clan].IsComputer) {
@@ -54,11 +56,22 @@ int ClanPanel::LeastHeight() const {
     return static_cast<int>((LeastCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
 }
 
+int ClanPanel::ShortHeight() const {
+    return static_cast<int>(game.NumPlayers > 0 ? LineHeads + LineHeight * game.NumPlayers : 0);
+}
+
+bool ClanPanel::InLines() const {
+    return height() < LeastHeight();
+}
+
 double ClanPanel::CardHeight() const {
     return std::min(FullCard, (height() - Gap * (game.NumPlayers - 1)) / std::max(game.NumPlayers, 1));
 }
 
 QRectF ClanPanel::CardRect(int place) const {
+    if (InLines()) {
+        return {0, LineHeads + LineHeight * (place - 1), static_cast<double>(width()), LineHeight};
+    }
     return {0, (CardHeight() + Gap) * (place - 1), static_cast<double>(width()), CardHeight()};
 }
 
@@ -123,13 +136,13 @@ void ClanPanel::Arrange() {
         const bool used = Shown() && place <= game.NumPlayers;
         orderlab[static_cast<std::size_t>(place - 1)]->setVisible(used);
         bplab[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
-        GeneLists[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
+        GeneLists[static_cast<std::size_t>(place - 1)]->setVisible(used && !InLines());
         if (!used) {
             continue;
         }
         const auto clan = static_cast<std::size_t>(ClanAtPlace(place) - 1);
         const QRectF card = CardRect(place);
-        const double figures = card.top() + (Roomy() ? 22 : 19);
+        const double figures = card.top() + (InLines() ? 0 : Roomy() ? 22 : 19);
         orderlab[static_cast<std::size_t>(place - 1)]->setGeometry(
             QRectF(at.Score, figures + 1, std::min(at.Width - 12, 40.0), 22).toRect());
         bplab[clan]->setGeometry(QRectF(at.BP, figures, at.Width - 4, 24).toRect());
@@ -140,16 +153,14 @@ void ClanPanel::Arrange() {
     }
 }
 
-void ClanPanel::DrawFigures(QPainter& painter, int clan, const QRectF& card) const {
+void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double top) const {
     const Columns at = ColumnsOf();
-    const double heads = card.top() + (Roomy() ? 17 : 15);
     painter.setFont(LookFont(10));
     painter.setPen(QColor(look::Faint));
     painter.drawText(QPointF(at.Score, heads), QStringLiteral("score"));
     painter.drawText(QPointF(at.BP, heads), QStringLiteral("BP"));
     painter.drawText(QPointF(at.Amoebas, heads), QStringLiteral("amoebas"));
     painter.drawText(QPointF(at.Mutation, heads), QStringLiteral("mutation"));
-    const double top = card.top() + (Roomy() ? 22 : 19);
     painter.setFont(LookFont(16, true));
     painter.setPen(QColor(look::Ink));
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
@@ -191,7 +202,26 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
         painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter,
                          Kind(clan));
     }
-    DrawFigures(painter, clan, CardRect(place));
+    const double top = CardRect(place).top();
+    DrawFigures(painter, clan, top + (Roomy() ? 17 : 15), top + (Roomy() ? 22 : 19));
+}
+
+void ClanPanel::DrawLine(QPainter& painter, int place) const {
+    const int clan = ClanAtPlace(place);
+    const QRectF line = CardRect(place);
+    if (clan == current_) {
+        painter.setPen(QPen(ShadesOf(clan).Body, 2));
+        painter.setBrush(QColor(look::Card));
+        painter.drawRoundedRect(line.adjusted(1, 1, -1, -1), 6, 6);
+    }
+    DrawClanBadge(painter, clan, QPointF(line.left() + 15, line.center().y()), 9);
+    const QFont font = LookFont(13, true);
+    const double wide = ColumnsOf().Score - 34;
+    painter.setFont(font);
+    painter.setPen(QColor(look::Ink));
+    painter.drawText(QRectF(line.left() + 30, line.top(), wide, line.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetricsF(font).elidedText(ToQt(game.Players[clan].Name.View()), Qt::ElideRight, wide));
+    DrawFigures(painter, clan, LineHeads - 3, line.top());
 }
 
 void ClanPanel::paintEvent(QPaintEvent*) {
@@ -201,7 +231,7 @@ void ClanPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int place = 1; place <= game.NumPlayers; ++place) {
-        DrawCard(painter, place);
+        InLines() ? DrawLine(painter, place) : DrawCard(painter, place);
     }
 }
 

@@ -25,8 +25,11 @@ public:
     /// Takes everything from the state; forgetting begins a new game.
     void ShowAll(bool forget);
 
+    /// Height of the cards as they are meant, of the lowest cards, and of a line for each clan, which tells
+    /// the figures and leaves the genes away.
     int FullHeight() const;
     int LeastHeight() const;
+    int ShortHeight() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -42,9 +45,11 @@ private:
     Columns ColumnsOf() const;
     QRectF CardRect(int place) const;
     bool Roomy() const { return CardHeight() >= 70; }
+    bool InLines() const;
     void Arrange();
     void DrawCard(QPainter& painter, int place) const;
-    void DrawFigures(QPainter& painter, int clan, const QRectF& card) const;
+    void DrawFigures(QPainter& painter, int clan, double heads, double top) const;
+    void DrawLine(QPainter& painter, int place) const;
 
     int current_ = 0;
 };

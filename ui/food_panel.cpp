@@ -61,7 +61,7 @@ FoodPanel::FoodPanel(QWidget* parent, FoodForm& form)
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(eatb_, 1);
     buttons->addWidget(victimb_, 1);
-    Body()->addLayout(buttons);
+    Foot()->addLayout(buttons);
     connect(eatb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.eatb_Click(); }); });
     connect(victimb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.victimb_Click(); }); });
     std::vector<QWidget*> controls;

@@ -100,7 +100,7 @@ void GenePanel::MakeFoot() {
     price->addStretch(1);
     price->addWidget(UVdiffLab_);
     price->addWidget(UVdiff_);
-    Body()->addLayout(price);
+    Foot()->addLayout(price);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(6);
     foot->addWidget(bpCaption_);
@@ -108,7 +108,7 @@ void GenePanel::MakeFoot() {
     foot->addStretch(1);
     foot->addWidget(resetb_);
     foot->addWidget(doneb_);
-    Body()->addLayout(foot);
+    Foot()->addLayout(foot);
 }
 
 void GenePanel::Reread() {

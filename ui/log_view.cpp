@@ -18,6 +18,7 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
     setPlaceholderText(QStringLiteral("The game log"));
     document()->setDocumentMargin(8);
     QScrollBar* bar = verticalScrollBar();
+    bar->setContextMenuPolicy(Qt::NoContextMenu);  // its menu would wait in a loop of its own
     connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) { following_ = value >= bar->maximum() - 4; });
     connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int most) {
         if (following_) {

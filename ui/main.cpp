@@ -11,6 +11,7 @@
 #include "ui/end_signals.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
+#include "ui/scale_factors.h"
 #include "ui/uboard.h"
 
 int main(int argc, char** argv) {
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
         std::fputs("plasmos takes no arguments\n", stderr);
         return 2;
     }
+    CheckScaleFactors();
     QApplication application(argc, argv);
     PrepareApplication();
     DataFolder files(DataFolderPath());

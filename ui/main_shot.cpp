@@ -16,6 +16,7 @@
 #include "model/settings_store.h"
 #include "ui/auto_person.h"
 #include "ui/palette.h"
+#include "ui/scale_factors.h"
 #include "ui/uboard.h"
 
 namespace {
@@ -197,6 +198,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     int count = 1;
+    CheckScaleFactors();
     QApplication application(count, argv);
     PrepareApplication();
     const QTemporaryDir folder;

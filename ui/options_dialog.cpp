@@ -13,12 +13,14 @@
 #include "model/settings_store.h"
 #include "ui/card.h"
 #include "ui/palette.h"
+#include "ui/scroll_body.h"
 
 namespace plasmos {
 
 namespace {
 
 constexpr int LongestName = 20;
+constexpr QSize UsualFrame(12, 40);
 
 }  // namespace
 
@@ -63,7 +65,9 @@ QSpinBox* OptionsDialog::MakeUpDown(QWidget* page, const char* name, void (Optio
 }
 
 QWidget* OptionsDialog::MakeBoardPage() {
-    auto* page = new QWidget(this);
+    auto* scroll = new ScrollBody(this);
+    scroll->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    QWidget* page = scroll->Content();
     auto* line = new QHBoxLayout(page);
     auto* left = new QVBoxLayout;
     auto* form = fields_ = new QFormLayout;
@@ -95,7 +99,7 @@ QWidget* OptionsDialog::MakeBoardPage() {
         Follow();
     };
     line->addWidget(frame);
-    return page;
+    return scroll;
 }
 
 QWidget* OptionsDialog::MakeNamesPage() {
@@ -189,7 +193,9 @@ void OptionsDialog::cmdCancel_Click() {
 void OptionsDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (const QScreen* where = screen()) {
-        move(where->availableGeometry().center() - QPoint(width() / 2, height() / 2));
+        const QRect space = where->availableGeometry();
+        resize(size().boundedTo(space.size() - UsualFrame));
+        move(space.center() - QPoint(width() / 2, height() / 2));
     }
 }
 

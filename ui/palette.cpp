@@ -146,6 +146,11 @@ QString LookSheet() {
         "QLineEdit{background:white;color:#22272B;border:1px solid #BDB7A8;border-radius:5px;padding:2px 5px}"
         "QLineEdit:focus{border:2px solid #FFAE00}"
         "QLineEdit:disabled{background:#EFEDE6;color:#A5A195}"
+        "QScrollBar:vertical{background:transparent;width:11px;margin:0}"
+        "QScrollBar::handle:vertical{background:#BDB7A8;border-radius:4px;min-height:24px;margin:1px 1px 1px 2px}"
+        "QScrollBar::handle:vertical:hover{background:#2C6E78}"
+        "QScrollBar::add-line:vertical,QScrollBar::sub-line:vertical{height:0}"
+        "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical{background:transparent}"
         "QToolTip{background:#FFFBE6;color:#22272B;border:1px solid #CFC8B8}");
 }
 

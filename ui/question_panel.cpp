@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/question_panel.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cstdlib>
 
 #include "model/presentation.h"
 #include "rules/ask.h"
@@ -14,6 +17,7 @@
 #include "ui/food_panel.h"
 #include "ui/gene_panel.h"
 #include "ui/palette.h"
+#include "ui/scroll_body.h"
 #include "ui/victim_panel.h"
 
 namespace plasmos {
@@ -55,7 +59,9 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
       title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
       close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
       message_(MakeText(this, "messagelab", 13)),
-      body_(new QVBoxLayout) {
+      scroll_(new ScrollBody(this)),
+      body_(new QVBoxLayout(scroll_->Content())),
+      foot_(new QVBoxLayout) {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(SideMargin, 6, SideMargin, 12);
     outer->setSpacing(Spacing);
@@ -74,15 +80,24 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
     outer->addWidget(message_);
+    body_->setContentsMargins(0, 0, 0, 0);
     body_->setSpacing(Spacing);
-    outer->addLayout(body_);
+    outer->addWidget(scroll_, 1);
+    foot_->setSpacing(Spacing);
+    outer->addLayout(foot_);
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
     SetColours(QColor(look::Card), clan_ > 0 ? ShadesOf(clan_).Dark : QColor(look::Teal));
 }
 
 int QuestionPanel::HeightFor(int width) const {
-    const int wanted = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0;
-    return std::max(wanted, layout()->totalMinimumSize().height());
+    const int around = std::max(layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0,
+                                layout()->totalSizeHint().height());
+    return around - scroll_->sizeHint().height() + scroll_->HeightAt(width - 2 * SideMargin);
+}
+
+int QuestionPanel::LeastHeight(int width) const {
+    const int inner = width - 2 * SideMargin;
+    return HeightWith(true, width) - scroll_->HeightAt(inner) + scroll_->LeastHeightAt(inner);
 }
 
 int QuestionPanel::HeightWith(bool message, int width) const {
@@ -153,6 +168,9 @@ void QuestionPanel::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
+    if (MoveFocus(event->key())) {
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto* button = qobject_cast<QPushButton*>(focusWidget());
         if (button != nullptr && button->isEnabled() && !event->isAutoRepeat()) {
@@ -163,7 +181,59 @@ void QuestionPanel::keyPressEvent(QKeyEvent* event) {
     Card::keyPressEvent(event);
 }
 
-std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
+void QuestionPanel::TakeArrows() {
+    for (QWidget* control : findChildren<QWidget*>()) {
+        if (control->focusPolicy() != Qt::NoFocus) {
+            control->installEventFilter(this);
+        }
+    }
+}
+
+// An arrow key goes to the nearest control that way; where there is none the focus stays.
+bool QuestionPanel::MoveFocus(int key) {
+    const QPoint ways[] = {{-1, 0}, {0, -1}, {1, 0}, {0, 1}};
+    const QWidget* from = focusWidget();
+    if (key < Qt::Key_Left || key > Qt::Key_Down || from == nullptr || !isAncestorOf(from)) {
+        return false;
+    }
+    const QPoint way = ways[key - Qt::Key_Left];
+    const QPoint start = from->mapTo(this, from->rect().center());
+    QWidget* nearest = nullptr;
+    int least = 0;
+    for (QWidget* control : findChildren<QWidget*>()) {
+        const QPoint apart = control->mapTo(this, control->rect().center()) - start;
+        const int ahead = QPoint::dotProduct(apart, way);
+        const bool takes = control != from && control->isVisible() && control->isEnabled() &&
+                           (control->focusPolicy() & Qt::TabFocus) != 0;
+        const int distance = ahead + 3 * std::abs(QPoint::dotProduct(apart, QPoint(way.y(), way.x())));
+        if (takes && ahead > 2 && (nearest == nullptr || distance < least)) {
+            nearest = control;
+            least = distance;
+        }
+    }
+    if (nearest != nullptr) {
+        nearest->setFocus(Qt::TabFocusReason);
+    }
+    return true;
+}
+
+bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
+    auto* control = qobject_cast<QWidget*>(watched);
+    // What is pressed with the mouse stays under it until the button is released.
+    if (event->type() == QEvent::FocusIn && scroll_->Content()->isAncestorOf(control) &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) {
+        scroll_->ensureWidgetVisible(control, 0, 4);
+    }
+    if (event->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(control) != nullptr &&
+        MoveFocus(static_cast<QKeyEvent*>(event)->key())) {
+        return true;
+    }
+    return Card::eventFilter(watched, event);
+}
+
+namespace {
+
+std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
     switch (question.Kind) {
         case QuestionKind::Number: return std::make_unique<NumberPanel>(parent, static_cast<AmNumfrm&>(question));
         case QuestionKind::Amoeba: return std::make_unique<AmoebaPanel>(parent, static_cast<AmChoicefrm&>(question));
@@ -175,6 +245,16 @@ std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
         case QuestionKind::Square: break;
     }
     return nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
+    auto panel = PanelFor(parent, question);
+    if (panel) {
+        panel->TakeArrows();
+    }
+    return panel;
 }
 
 }  // namespace plasmos

@@ -12,12 +12,14 @@
 #include "model/question.h"
 #include "ui/card.h"
 
-class QAbstractButton;
-
 namespace plasmos {
+
+class ScrollBody;
 
 /// A dialog of the rules, shown in the strip beside the board. It shows what its question holds, hands
 /// the person's input to the question's handlers, and reads the question again.
+///
+/// Its body scrolls where room is short; the foot with what answers stays in sight.
 class QuestionPanel : public Card {
 public:
     QuestionPanel(QWidget* parent, const Question& question, const QString& title);
@@ -44,14 +46,23 @@ public:
     /// has to make room for it.
     int HeightWith(bool message, int width) const;
     void ShowMessage(bool on);
+    /// The least height at which the panel is of use, with its message line.
+    int LeastHeight(int width) const;
+    /// From now on the arrow keys go from control to control and never out of the panel. Call it when
+    /// every control is there.
+    void TakeArrows();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// Runs a handler of the question, shows what came of it and lets the rule look.
     void Handle(const std::function<void()>& handler);
+    /// What scrolls where room is short.
     QVBoxLayout* Body() { return body_; }
+    /// What stays in sight: the controls that answer.
+    QVBoxLayout* Foot() { return foot_; }
     /// A button that ignores double clicks and repeated keys.
     QPushButton* MakeButton(const QString& name, const QString& caption, bool main);
     /// The tab key goes through the controls in this order.
@@ -60,13 +71,17 @@ protected:
     int Clan() const { return clan_; }
 
 private:
+    bool MoveFocus(int key);
+
     const Question& question_;
     int clan_;
     bool retired_ = false;
     QLabel* title_;
     QPushButton* close_;
     QLabel* message_;
+    ScrollBody* scroll_;
     QVBoxLayout* body_;
+    QVBoxLayout* foot_;
 };
 
 /// Keeps double clicks and repeated keys from an answering control.

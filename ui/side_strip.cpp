@@ -59,7 +59,9 @@ bool SideStrip::event(QEvent* event) {
 
 int SideStrip::ArrangeHead() {
     const int environment = Environment->sizeHint().height();
-    const bool shown = playing_ || game.NumPlayers > 0;
+    // After a game the final scores are worth more than the last light.
+    const bool room = height() >= environment + Start->HeightFor(width()) + Clans->ShortHeight() + 2 * Gap;
+    const bool shown = playing_ || (game.NumPlayers > 0 && room);
     Environment->setGeometry(0, 0, width(), environment);
     Environment->setVisible(shown);
     int top = shown ? environment + Gap : 0;
@@ -84,7 +86,10 @@ int SideStrip::ArrangePanels(int top) {
         const bool fits = top + wanted <= height();
         const bool alone = first && !fits && playing_;
         if (alone) {
+            // The levels stay in sight as long as the dialog is of use below them.
             top = Environment->height() + Gap;
+            Environment->setVisible(top + (*panel)->LeastHeight(width()) <= height());
+            top = Environment->isVisibleTo(this) ? top : 0;
             wanted = (*panel)->HeightWith(true, width());
         }
         if (first) {
@@ -108,10 +113,12 @@ void SideStrip::Arrange() {
     int top = ArrangePanels(ArrangeHead());
     const int room = height() - top;
     const int least = Clans->LeastHeight();
-    const bool clans = least > 0 && room >= least;
+    const bool cards = room >= least;
+    const bool clans = least > 0 && room >= Clans->ShortHeight();
     Clans->setVisible(clans);
     if (clans) {
-        const int wanted = std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least));
+        const int wanted =
+            cards ? std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least)) : Clans->ShortHeight();
         Clans->setGeometry(0, top, width(), wanted);
         top += wanted + Gap;
     }

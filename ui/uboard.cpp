@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QThread>
+#include <QWindow>
 #include <algorithm>
 
 #include "flow/play_game.h"
@@ -34,7 +35,9 @@ namespace plasmos {
 namespace {
 
 constexpr QSize UsualSize(1320, 860);
-constexpr QSize LeastSize(940, 640);
+constexpr QSize LeastSize(720, 400);
+constexpr QSize UsualFrame(12, 40);
+constexpr int FrameKnown = 300;
 constexpr int Margin = 10;
 constexpr int FarthestPixel = 100000;
 
@@ -67,7 +70,6 @@ UBoard::UBoard() {
     setPalette(LookPalette());
     setStyleSheet(LookSheet());
     setFont(LookFont(13));
-    setMinimumSize(LeastSize);
     game.Window = this;
     LoadBoard();
     setCentralWidget(new TableTop(this, track_, strip_));
@@ -193,7 +195,9 @@ void UBoard::Tell(const QString& text) {
 void UBoard::LoadWindow() {
     QScreen* screen = QGuiApplication::primaryScreen();
     const QRect space = screen != nullptr ? screen->availableGeometry() : QRect(QPoint(0, 0), UsualSize);
-    const QSize most = space.size().expandedTo(LeastSize);
+    const QSize most = space.size() - UsualFrame;
+    const QSize least = LeastSize.boundedTo(most);
+    setMinimumSize(least);
     QSize size = UsualSize.boundedTo(most);
     if (game.Settings == nullptr) {
         resize(size);
@@ -202,8 +206,8 @@ void UBoard::LoadWindow() {
     const SettingsStore& store = *game.Settings;
     const int left = GetNumber(store, "board", "left", FarthestPixel, -FarthestPixel, FarthestPixel);
     const int top = GetNumber(store, "board", "top", FarthestPixel, -FarthestPixel, FarthestPixel);
-    size.setWidth(GetNumber(store, "board", "width", size.width(), LeastSize.width(), most.width()));
-    size.setHeight(GetNumber(store, "board", "height", size.height(), LeastSize.height(), most.height()));
+    size.setWidth(GetNumber(store, "board", "width", size.width(), least.width(), most.width()));
+    size.setHeight(GetNumber(store, "board", "height", size.height(), least.height(), most.height()));
     resize(size);
     const QRect title(left, top, size.width(), 30);
     const auto screens = QGuiApplication::screens();
@@ -214,6 +218,42 @@ void UBoard::LoadWindow() {
     if (seen) {
         move(left, top);
     }
+}
+
+// The window's frame is known only after the window is there, and the free area may change.
+void UBoard::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (screenWatched_) {
+        return;
+    }
+    screenWatched_ = true;
+    for (const int milliseconds : {0, FrameKnown}) {
+        QTimer::singleShot(milliseconds, this, [this] { KeepOnScreen(); });
+    }
+    const auto watch = [this](QScreen* screen) {
+        if (screen != nullptr) {
+            connect(screen, &QScreen::availableGeometryChanged, this, &UBoard::KeepOnScreen, Qt::UniqueConnection);
+            KeepOnScreen();
+        }
+    };
+    connect(windowHandle(), &QWindow::screenChanged, this, watch);
+    watch(screen());
+}
+
+void UBoard::KeepOnScreen() {
+    if (screen() == nullptr || isMaximized() || isFullScreen() || isMinimized()) {
+        return;
+    }
+    const QRect space = screen()->availableGeometry();
+    const QSize most = space.size() - (frameGeometry().size() - size());
+    setMinimumSize(LeastSize.boundedTo(most));
+    if (size().boundedTo(most) == size()) {
+        return;
+    }
+    resize(size().boundedTo(most));
+    const QRect frame = frameGeometry();
+    move(std::max(space.left(), std::min(frame.left(), space.right() + 1 - frame.width())),
+         std::max(space.top(), std::min(frame.top(), space.bottom() + 1 - frame.height())));
 }
 
 void UBoard::SaveWindow() {

@@ -86,6 +86,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -99,6 +100,8 @@ private:
     void SetPlaying(bool playing);
     void LoadWindow();
     void SaveWindow();
+    /// The window, its frame included, is never larger than the free area of its screen.
+    void KeepOnScreen();
     void ClearBoard();
     void LeaveGame();
     void Tell(const QString& text);
@@ -144,6 +147,7 @@ private:
     double speed_ = 1;
     bool playing_ = false;
     bool leaving_ = false;
+    bool screenWatched_ = false;
 
     QAction* watchmen_ = nullptr;
     QAction* leavemen_ = nullptr;

@@ -71,8 +71,8 @@ VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
         figures_.push_back(figure);
     }
     Body()->addWidget(picture);
-    Body()->addWidget(vfamlab_);
-    Body()->addWidget(doneb_, 0, Qt::AlignRight);
+    Foot()->addWidget(vfamlab_);
+    Foot()->addWidget(doneb_, 0, Qt::AlignRight);
     connect(doneb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.doneb_Click(); }); });
     std::vector<QWidget*> controls(figures_.begin(), figures_.end());
     controls.push_back(doneb_);

@@ -95,7 +95,7 @@ void BoardMenusTest::difficulty() {
     };
     for (const Row& row : {Row{easy, false}, Row{easy, true}, Row{normal, false}, Row{normal, true}, Row{easy, false},
                            Row{normal, true}}) {
-        row.Clicked->trigger();
+        scene.Menu(row.Clicked->objectName());
         QCOMPARE(normal->isChecked(), row.Normal);
         QCOMPARE(easy->isChecked(), !row.Normal);
         QCOMPARE(game.Menu.normmen, row.Normal);
@@ -254,9 +254,10 @@ void BoardMenusTest::driftTurnsBackAtASecondPress() {
     PositionScene scene;
     game.Drift = 5;
     game.ReplayNo = 47.5F;
-    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
-          QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5"));
-          QTest::mouseDClick(scene.Find(Drift()), Qt::RightButton);
+    PHASE(scene, scene.Press(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5")); scene.Press(scene.Find(Drift()), Qt::RightButton);
+          QCOMPARE(scene.Text(Drift()), QStringLiteral("Down"));
+          scene.DoubleClick(scene.Find(Drift()), {-1, -1}, Qt::RightButton);
           QCOMPARE(scene.Text(Drift()), QStringLiteral("Down")));
 }
 
@@ -268,8 +269,8 @@ void BoardMenusTest::aLentLabelIsReadWhole() {
         scene, for (const QString& name
                     : {Drift(), UV()}) {
             auto* label = static_cast<QLabel*>(scene.Find(name));
-            QTest::mousePress(label, Qt::RightButton);
-            QTest::mouseRelease(label, Qt::RightButton);
+            scene.Hold(label, Qt::RightButton);
+            scene.Release(label, Qt::RightButton);
             QVERIFY2(label->fontMetrics().horizontalAdvance(label->text()) <= label->width(), qPrintable(name));
         });
 }
@@ -279,18 +280,18 @@ void BoardMenusTest::driftLends() {
     game.Drift = 5;
     game.ReplayNo = 47.5F;
     PHASE(scene, QCOMPARE(scene.Text(Drift()), QStringLiteral("Down"));
-          QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
-          QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5")); QCOMPARE(ZyTimer(scene)->interval(), 3000);
-          QVERIFY(ZyTimer(scene)->isActive()); game.Drift = 1; ZyTimer(scene)->start(1);
-          QTRY_COMPARE(scene.Text(Drift()), QStringLiteral("Right")); QVERIFY(!ZyTimer(scene)->isActive()));
+          scene.Hold(scene.Find(Drift()), Qt::RightButton); QCOMPARE(scene.Text(Drift()), QStringLiteral("47.5"));
+          QCOMPARE(ZyTimer(scene)->interval(), 3000); QVERIFY(ZyTimer(scene)->isActive()); game.Drift = 1;
+          ZyTimer(scene)->start(1); QTRY_COMPARE(scene.Text(Drift()), QStringLiteral("Right"));
+          QVERIFY(!ZyTimer(scene)->isActive()));
 }
 
 void BoardMenusTest::driftGivesBackAtOnce() {
     PositionScene scene;
     game.ReplayNo = 3;
-    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
-          QCOMPARE(scene.Text(Drift()), QStringLiteral("3")); QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
-          QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QVERIFY(!ZyTimer(scene)->isActive()));
+    PHASE(scene, scene.Hold(scene.Find(Drift()), Qt::RightButton); QCOMPARE(scene.Text(Drift()), QStringLiteral("3"));
+          scene.Hold(scene.Find(Drift()), Qt::RightButton); QCOMPARE(scene.Text(Drift()), QStringLiteral("in place"));
+          QVERIFY(!ZyTimer(scene)->isActive()));
 }
 
 void BoardMenusTest::uvLends_data() {
@@ -311,8 +312,8 @@ void BoardMenusTest::uvLends() {
     game.EnvDeck[8].UV = 12;
     game.EnvDeck[9].UV = 11;
     game.EnvDeck[10].UV = 10;
-    PHASE(scene, QTest::mousePress(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), QStringLiteral("9"));
-          QTest::mouseRelease(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), shown);
+    PHASE(scene, scene.Hold(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), QStringLiteral("9"));
+          scene.Release(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), shown);
           QCOMPARE(ZyTimer(scene)->interval(), 3000); QVERIFY(ZyTimer(scene)->isActive()); ZyTimer(scene)->start(1);
           QTRY_COMPARE(scene.Text(UV()), QStringLiteral("9")));
 }
@@ -321,8 +322,7 @@ void BoardMenusTest::oneLabelAtATime() {
     PositionScene scene;
     game.ReplayNo = 3;
     game.Turn = 10;
-    PHASE(scene, QTest::mousePress(scene.Find(Drift()), Qt::RightButton);
-          QTest::mouseClick(scene.Find(UV()), Qt::RightButton);
+    PHASE(scene, scene.Hold(scene.Find(Drift()), Qt::RightButton); scene.Press(scene.Find(UV()), Qt::RightButton);
           QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QCOMPARE(scene.Text(UV()), QStringLiteral("10.0"));
           ZyTimer(scene)->start(1); QTRY_COMPARE(scene.Text(UV()), QStringLiteral("10"));
           QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")));
@@ -330,9 +330,8 @@ void BoardMenusTest::oneLabelAtATime() {
 
 void BoardMenusTest::otherButtonsBorrowNothing() {
     PositionScene scene;
-    PHASE(scene, QTest::mouseClick(scene.Find(Drift()), Qt::LeftButton);
-          QTest::mouseClick(scene.Find(UV()), Qt::LeftButton);
-          QTest::mouseRelease(scene.Find(Drift()), Qt::RightButton);
+    PHASE(scene, scene.Press(scene.Find(Drift())); scene.Press(scene.Find(UV()));
+          scene.Release(scene.Find(Drift()), Qt::RightButton);
           QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QCOMPARE(scene.Text(UV()), QStringLiteral("10"));
           QVERIFY(!ZyTimer(scene)->isActive()));
 }

@@ -365,11 +365,11 @@ void BoardWindowTest::clicksAtAnySize() {
     QVERIFY2(std::abs(puddle.width() * rows - puddle.height() * cols) <= rows * cols, "the squares are not square");
     for (const int square : {1, cols, cols + 1, (rows - 1) * cols + 1, rows * cols}) {
         for (const double inset : {12.0, 600.0, 1187.0}) {
-            scene.Then(QuestionKind::Square, [&puddle, square, cols, inset] {
+            scene.Then(QuestionKind::Square, [&scene, &puddle, square, cols, inset] {
                 const QPointF units((square - 1) % cols * 1200 + inset, (square - 1) / cols * 1200 + inset);
                 const QPoint point = puddle.PointAt(units).toPoint();
-                QTest::mouseClick(&puddle, Qt::LeftButton, Qt::NoModifier,
-                                  {std::min(point.x(), puddle.width() - 1), std::min(point.y(), puddle.height() - 1)});
+                scene.Press(&puddle, Qt::LeftButton,
+                            {std::min(point.x(), puddle.width() - 1), std::min(point.y(), puddle.height() - 1)});
             });
         }
     }

@@ -199,8 +199,8 @@ void ClosingTest::aSecondEndIsNoTrouble() {
         scene.Board().close();
         scene.Board().close();
         scene.Board().EndProgram();
-        scene.Menu(QStringLiteral("leavemen"));
-        scene.Menu(QStringLiteral("men_quit"));
+        scene.Item(QStringLiteral("leavemen"))->trigger();
+        scene.Item(QStringLiteral("men_quit"))->trigger();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QVERIFY(!scene.Board().isVisible());

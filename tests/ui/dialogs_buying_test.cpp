@@ -77,7 +77,7 @@ void DialogsBuyingTest::whatIsHeldStays() {
     scene.Then(QuestionKind::Genes, [&] {
         for (const char* code : {"int", "lif"}) {
             QVERIFY(scene.Ticked(Box(code)) && !scene.Enabled(Box(code)));
-            QTest::mouseClick(scene.Find(Box(code)), Qt::LeftButton);
+            scene.Press(scene.Find(Box(code)));
         }
         scene.Click(Box("mv1"));
         QVERIFY(!scene.Enabled(Box("int")) && !scene.Enabled(Box("lif")));
@@ -189,7 +189,7 @@ void DialogsBuyingTest::doubleClicksBuyOnce() {
     scene.ThenYes(OfferWith(20));
     scene.Then(QuestionKind::Genes, [&] {
         scene.DoubleClick(scene.Find(Box("int")));
-        QTest::mouseClick(scene.Find(Box("ray")), Qt::RightButton);
+        scene.Press(scene.Find(Box("ray")), Qt::RightButton);
         QCOMPARE(game.BP[3], 18);
         scene.Key(Box("sub"), Qt::Key_Space);
         QCOMPARE(game.BP[3], 14);

@@ -107,7 +107,7 @@ void DialogsCompanyTest::theTentacleDragsOneOfMany() {
         QCOMPARE(scene.Text(QStringLiteral("amlab")), QStringLiteral("Which amoeba shall be dragged along?"));
         QVERIFY(!scene.Enabled(QStringLiteral("amopt1")) && !scene.Enabled(QStringLiteral("amopt2")));
         QCOMPARE(scene.Text(QStringLiteral("amopt4")), QStringLiteral("A && 4"));
-        QTest::mouseClick(scene.Find(QStringLiteral("amopt2")), Qt::LeftButton);
+        scene.Press(scene.Find(QStringLiteral("amopt2")));
         QCOMPARE(game.Reply, -1);
         scene.Click(QStringLiteral("amopt6"));
     });

@@ -85,7 +85,7 @@ void DialogsDivisionTest::howMany() {
             QCOMPARE(scene.Sees(QStringLiteral("amopt%1").arg(k)), k <= (clans >= 5 ? 6 : 7));
             QCOMPARE(scene.Enabled(QStringLiteral("amopt%1").arg(k)), k <= highest);
         }
-        QTest::mouseClick(scene.Find(QStringLiteral("amopt%1").arg(highest + 1)), Qt::LeftButton);
+        scene.Press(scene.Find(QStringLiteral("amopt%1").arg(highest + 1)));
         QCOMPARE(game.Reply, -1);
         scene.Click(QStringLiteral("amopt0"));
     });

@@ -176,7 +176,7 @@ void DialogsFightsTest::thePickIsWithdrawn() {
     scene.ThenSquare({7, 9}, 7);
     scene.Then(QuestionKind::Victim, [&] {
         QVERIFY(!scene.Enabled(QStringLiteral("doneb")));
-        QTest::mouseClick(scene.Find(QStringLiteral("doneb")), Qt::LeftButton);
+        scene.Press(scene.Find(QStringLiteral("doneb")));
         QCOMPARE(game.ReplyY, 0);
         scene.Click(QStringLiteral("figure0"));
         scene.Click(QStringLiteral("closeb"));

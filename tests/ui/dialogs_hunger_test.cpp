@@ -74,7 +74,7 @@ void DialogsHungerTest::aParasiteEats() {
         QCOMPARE(scene.Text(QStringLiteral("vfamlab")), QStringLiteral("Choose your Parasite-victim:"));
         QVERIFY(!scene.Enabled(QStringLiteral("figure0")) && scene.Enabled(QStringLiteral("figure1")));
         QVERIFY(!scene.Enabled(QStringLiteral("doneb")));
-        QTest::mouseClick(scene.Find(QStringLiteral("figure0")), Qt::LeftButton);
+        scene.Press(scene.Find(QStringLiteral("figure0")));
         QVERIFY(!scene.Enabled(QStringLiteral("doneb")));
         scene.Click(QStringLiteral("figure1"));
         QCOMPARE(scene.Text(QStringLiteral("vfamlab")),

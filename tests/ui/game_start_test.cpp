@@ -103,7 +103,7 @@ void GameStartTest::isLeft() {
     QFETCH(int, after);
     Scene scene;
     scene.Board().setUpdatesEnabled(false);
-    AutoPerson person(scene.Board());
+    AutoPerson& person = scene.Player();
     game.HasRequestedReplay = true;
     game.RequestedReplay = 5;
     scene.AnswerBy([&](Question& question) {
@@ -147,7 +147,7 @@ void GameStartTest::anErrorEndsTheGameOnly() {
              told.c_str());
     QVERIFY(!scene.FileText(ErrorFile).isEmpty());
     QVERIFY(names.remove());
-    AutoPerson person(scene.Board());
+    AutoPerson& person = scene.Player();
     scene.AnswerBy([&](Question& question) { person.Answer(question); });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QCOMPARE(game.Turn, LastTurn + 1);

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPalette>
+#include <QScreen>
 #include <QTimer>
 
 #include "model/consistency.h"
@@ -24,9 +25,7 @@ namespace plasmos::testing {
 /// Does one random thing at a time; the same seed does the same things.
 class Monkey {
 public:
-    Monkey(Scene& scene, int seed) : scene_(scene), person_(scene.Board()) {
-        generator_.Seed(static_cast<std::uint64_t>(seed), 99);
-    }
+    Monkey(Scene& scene, int seed) : scene_(scene) { generator_.Seed(static_cast<std::uint64_t>(seed), 99); }
 
     void Act() {
         switch (Below(13)) {
@@ -36,7 +35,7 @@ public:
             case 3: ChooseAnItem(); break;
             case 4: TypeSomething(); break;
             case 5: ClickTheBoard(); break;
-            case 6: scene_.Board().resize(900 + Below(900), 600 + Below(500)); break;
+            case 6: Resize(); break;
             case 7: ChangeTheFocus(); break;
             case 8: ClickAButton(); break;
             case 9: ChangeTheLooks(); break;
@@ -45,7 +44,7 @@ public:
     }
     void AnswerTop() {
         if (Question* top = scene_.Board().TopQuestion(); top != nullptr) {
-            person_.Answer(*top);
+            scene_.Player().Answer(*top);
         }
     }
 
@@ -63,15 +62,15 @@ private:
         return seen.isEmpty() ? nullptr : seen[Below(static_cast<int>(seen.size()))];
     }
     void ClickAnything() {
-        if (auto* widget = AnyVisible<QWidget>(); widget != nullptr && qobject_cast<QMenuBar*>(widget) == nullptr) {
-            const QPoint point(Below(std::max(widget->width(), 1)), Below(std::max(widget->height(), 1)));
-            const Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::MiddleButton};
-            QTest::mouseClick(widget, buttons[Below(3)], Qt::NoModifier, point);
-        }
+        const QWidget* table = scene_.Board().centralWidget();
+        const QPoint point(Below(table->width()), Below(table->height()));
+        const Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::MiddleButton};
+        QTest::mouseClick(scene_.Board().windowHandle(), buttons[Below(3)], Qt::NoModifier,
+                          table->mapTo(&scene_.Board(), point));
     }
     void ClickAButton() {
         if (auto* button = AnyVisible<QAbstractButton>(); button != nullptr) {
-            Below(4) == 0 ? scene_.DoubleClick(button) : QTest::mouseClick(button, Qt::LeftButton);
+            Below(4) == 0 ? scene_.DoubleClick(button) : scene_.Press(button);
         }
     }
     void PressAKey() {
@@ -86,7 +85,7 @@ private:
                                "normmen",     "victorymen",  "pref_men", "watchmen",  "twoplayermen"};
         QAction* item = scene_.Item(QString::fromLatin1(items[Below(static_cast<int>(std::size(items)))]));
         if (item->isEnabled()) {
-            item->trigger();
+            scene_.Menu(item->objectName());
         }
     }
     void TypeSomething() {
@@ -100,8 +99,12 @@ private:
     void ClickTheBoard() {
         const QPoint point(Below(scene_.Puddle().width()), Below(scene_.Puddle().height()));
         Below(3) == 0 ? scene_.DoubleClick(&scene_.Puddle(), point)
-                      : QTest::mouseClick(&scene_.Puddle(), Below(4) == 0 ? Qt::RightButton : Qt::LeftButton,
-                                          Qt::NoModifier, point);
+                      : scene_.Press(&scene_.Puddle(), Below(4) == 0 ? Qt::RightButton : Qt::LeftButton, point);
+    }
+    void Resize() {
+        UBoard& board = scene_.Board();
+        const QSize space = board.screen()->availableGeometry().size() - QSize(8, 8);
+        board.resize(QSize(700 + Below(900), 400 + Below(700)).boundedTo(space));
     }
     void ChangeTheFocus() {
         QEvent event(Below(2) == 0 ? QEvent::WindowDeactivate : QEvent::WindowActivate);
@@ -120,7 +123,6 @@ private:
     }
 
     Scene& scene_;
-    AutoPerson person_;
     Pcg32 generator_;
 };
 
@@ -198,8 +200,11 @@ void MonkeyTest::thenAnotherGame() {
     for (QWidget* widget : scene.Board().findChildren<QWidget*>()) {
         if (widget->isVisible() && qobject_cast<QAbstractButton*>(widget) == nullptr &&
             qobject_cast<QMenuBar*>(widget) == nullptr) {
-            QTest::mouseClick(widget, Qt::LeftButton);
-            QTest::mouseClick(widget, Qt::RightButton);
+            scene.Press(widget);
+            scene.Press(widget, Qt::RightButton);
+            while (QWidget* open = QApplication::activePopupWidget()) {  // a field's own menu
+                QTest::keyClick(open, Qt::Key_Escape);
+            }
             QTest::keyClick(widget, Qt::Key_Escape);
         }
     }

@@ -163,7 +163,7 @@ void OptionsTest::movesAMarker() {
     window.ClickPicture(13, Qt::RightButton);
     QCOMPARE(window.Border(8), "black");
     QCOMPARE(window.Border(13), "black");
-    QTest::mouseClick(window.Picture(), Qt::RightButton, Qt::NoModifier, window.PlaceOf(13) + QPoint(19, 19));
+    window.Scene::Press(window.Picture(), Qt::RightButton, window.PlaceOf(13) + QPoint(19, 19));
     QCOMPARE(window.Border(13), "yellow");
     window.Press("cmdOK");
     QCOMPARE(window.Saved("board", "blocks"), std::string("13:8:"));

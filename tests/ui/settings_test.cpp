@@ -198,7 +198,7 @@ void SettingsTest::cannotBeSaved() {
     auto* dialog = scene.Board().findChild<OptionsDialog*>(QStringLiteral("frmOptions"));
     QTest::keyClick(dialog->findChild<QSpinBox*>(QStringLiteral("rowUD")), Qt::Key_Up);
     for (const char* button : {"cmdApply", "cmdOK"}) {
-        QTest::mouseClick(dialog->findChild<QPushButton*>(QString::fromLatin1(button)), Qt::LeftButton);
+        scene.Press(dialog->findChild<QPushButton*>(QString::fromLatin1(button)));
         QVERIFY(dialog->isVisible());
         const auto* fault = dialog->findChild<QLabel*>(QStringLiteral("faultlab"));
         QVERIFY(fault->isVisible());

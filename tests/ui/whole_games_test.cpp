@@ -97,7 +97,9 @@ void Meddle(Scene& scene, const Question& question) {
     }
     if (question.Kind != QuestionKind::YesNo) {
         for (const char* name : {"yesb", "nob"}) {
-            QTest::mouseClick(scene.Find(QString::fromLatin1(name)), Qt::LeftButton);
+            if (scene.Sees(QString::fromLatin1(name))) {
+                scene.Click(QString::fromLatin1(name));
+            }
         }
         QTest::keyClick(&scene.Board(), Qt::Key_Y);
         QTest::keyClick(&scene.Board(), Qt::Key_N);
@@ -169,7 +171,7 @@ void WholeGamesTest::aPersonPlays() {
     QFETCH(int, replay);
     const Row& row = Games[number];
     Scene scene(Board(row));
-    AutoPerson person(scene.Board());
+    AutoPerson& person = scene.Player();
     SetUp(scene, row, replay);
     scene.Board().setUpdatesEnabled(replay < 200 && number % 4 == 0);
     if (number % 2 == 1) {
@@ -254,7 +256,7 @@ void WholeGamesTest::theSameNumberDealsTheSameGame() {
     std::vector<std::uint64_t> signatures;
     for (int round = 0; round < 4; ++round) {
         Scene scene;
-        AutoPerson person(scene.Board());
+        AutoPerson& person = scene.Player();
         game.HasRequestedReplay = true;
         game.RequestedReplay = 77;
         game.RequestedClans = 4;
@@ -286,7 +288,7 @@ void WholeGamesTest::theSameNumberDealsTheSameGame() {
 void WholeGamesTest::oneGameAfterAnother() {
     Scene scene;
     scene.Board().setUpdatesEnabled(false);
-    AutoPerson person(scene.Board());
+    AutoPerson& person = scene.Player();
     const Row rows[] = {{"", 6, 5, 5, "", false, false, 1}, {"", 3, 5, 5, "", false, false, 1}};
     for (const Row& row : rows) {
         Attend(scene, person, row);

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
@@ -46,15 +47,19 @@ public:
             Note(Concat(name.toStdString(), expected ? " is not ticked" : " is ticked"));
         }
     }
-    /// A control that answers: its state, and nothing may cover or cut it.
+    /// A control that answers: its state, and nothing may cover or cut it. What scrolls is not looked for.
     void Answers(const QString& name, bool seen, bool enabled) {
         Seen(name, seen);
         if (seen) {
             Enabled(name, enabled);
             const QWidget* control = scene_.Find(name);
-            if (control != nullptr && control->visibleRegion().boundingRect() != control->rect()) {
+            if (control == nullptr || Scrolls(*control)) {
+                return;
+            }
+            if (control->visibleRegion().boundingRect() != control->rect()) {
                 Note(name.toStdString() + " is cut off");
             }
+            Note(WhyOutOfReach(*control, control->rect().center()));
         }
     }
     void Colours(const QString& name, int clan) {
@@ -63,6 +68,13 @@ public:
             palette.color(QPalette::WindowText) != LabelText(clan)) {
             Note(Concat(name.toStdString(), " has not the colours of clan ", clan));
         }
+    }
+    static bool Scrolls(const QWidget& control) {
+        const QWidget* above = control.parentWidget();
+        while (above != nullptr && qobject_cast<const QScrollArea*>(above) == nullptr) {
+            above = above->parentWidget();
+        }
+        return above != nullptr;
     }
     void Note(const std::string& what) {
         if (first_.empty()) {

@@ -45,7 +45,7 @@ public:
         return {(square - 1) % cols * side + side / 2, (square - 1) / cols * side + side / 2};
     }
     void ClickPicture(int square, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseClick(Picture(), button, Qt::NoModifier, PlaceOf(square));
+        Scene::Press(Picture(), button, PlaceOf(square));
     }
     /// The border of a square's marker: "black", "yellow", or "none" where there is no marker.
     const char* Border(int square) {
@@ -55,7 +55,7 @@ public:
         return dark ? "black" : colour.red() > 200 && colour.green() > 200 && colour.blue() < 90 ? "yellow" : "none";
     }
     void Press(const char* button) {
-        QTest::mouseClick(Dialog()->findChild<QPushButton*>(QString::fromLatin1(button)), Qt::LeftButton);
+        Scene::Press(Dialog()->findChild<QPushButton*>(QString::fromLatin1(button)));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }

@@ -8,15 +8,20 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMouseEvent>
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTemporaryFile>
 #include <QTextEdit>
 #include <QTimer>
+#include <QWindow>
 #include <numeric>
 
 #include "model/presentation.h"
 #include "model/runtime_error.h"
 #include "rules/ask.h"
 #include "tests/support/game_fixture.h"
+#include "ui/auto_person.h"
 #include "ui/piece_layout.h"
 #include "ui/puddle_view.h"
 #include "ui/uboard.h"
@@ -48,6 +53,24 @@ QString FolderTemplate() {
     return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/plasmos-XXXXXX");
 }
 
+void ChooseScreen() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && platform != "offscreen") {
+        return;
+    }
+    const QByteArray size = qEnvironmentVariableIsSet("PLASMOS_SCREEN") ? qgetenv("PLASMOS_SCREEN") : "1600x1200";
+    static QTemporaryFile file(FolderTemplate());
+    if (!file.open()) {
+        qFatal("there is no room for the description of a screen");
+    }
+    const QList<QByteArray> sides = size.split('x');
+    file.write("{\"windowFrameMargins\":true,\"screens\":[{\"name\":\"test\",\"x\":0,\"y\":0,\"width\":" + sides.at(0) +
+               ",\"height\":" + sides.at(1) + ",\"logicalDpi\":96,\"logicalBaseDpi\":96,\"dpr\":1}]}");
+    file.close();
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+}
+
 Scene::Scene(const std::vector<SavedValue>& saved) : folder_(FolderTemplate()) {
     ForgetGame();
     files_ = std::make_unique<DataFolder>(QString(folder_.path() + QStringLiteral("/data")).toStdString());
@@ -69,6 +92,8 @@ Scene::~Scene() {
 void Scene::Open() {
     board_ = std::make_unique<UBoard>();
     board_->SetSpeed(0);
+    player_ = std::make_unique<AutoPerson>(*board_);
+    player_->OnFault = [this](const std::string& why) { Fail(why); };
     board_->OnQuestion = [this](Question& question) { Answer(question); };
     board_->show();
     board_->activateWindow();
@@ -282,17 +307,53 @@ void Scene::Click(const QString& name, Qt::MouseButton button) {
         Fail("there is no " + name.toStdString() + " to click");
         return;
     }
-    QTest::mouseClick(widget, button);
+    Press(widget, button);
 }
 
-void Scene::DoubleClick(QWidget* widget, QPoint point) {
-    const QPointF place = point.x() < 0 ? widget->rect().center() : point;
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
-                                    QEvent::MouseButtonRelease}) {
-        const bool up = type == QEvent::MouseButtonRelease;
-        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, up ? Qt::NoButton : Qt::LeftButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &event);
+// Gives the point its place, brings it into sight, and says whether a press there arrives.
+bool Scene::InReach(QWidget* control, QPoint& point) {
+    if (control == nullptr) {
+        Fail("there is no such control to press");
+        return false;
+    }
+    if (point.x() < 0) {
+        point = control->rect().center();
+    }
+    if (control->isVisible()) {
+        hand_.Reveal(*control, point);
+    }
+    const std::string why = WhyOutOfReach(*control, point);
+    if (!why.empty()) {
+        Fail(why);
+    }
+    return why.empty();
+}
+
+void Scene::Press(QWidget* control, Qt::MouseButton button, QPoint point) {
+    if (InReach(control, point)) {
+        QTest::mouseClick(control->window()->windowHandle(), button, Qt::NoModifier,
+                          control->mapTo(control->window(), point));
+    }
+}
+
+void Scene::Hold(QWidget* control, Qt::MouseButton button) {
+    if (QPoint point(-1, -1); InReach(control, point)) {
+        QTest::mousePress(control->window()->windowHandle(), button, Qt::NoModifier,
+                          control->mapTo(control->window(), point));
+    }
+}
+
+void Scene::Release(QWidget* control, Qt::MouseButton button) {
+    if (QPoint point(-1, -1); InReach(control, point)) {
+        QTest::mouseRelease(control->window()->windowHandle(), button, Qt::NoModifier,
+                            control->mapTo(control->window(), point));
+    }
+}
+
+void Scene::DoubleClick(QWidget* widget, QPoint point, Qt::MouseButton button) {
+    if (InReach(widget, point)) {
+        QTest::mouseDClick(widget->window()->windowHandle(), button, Qt::NoModifier,
+                           widget->mapTo(widget->window(), point));
     }
 }
 
@@ -330,7 +391,7 @@ void Scene::Paste(const QString& name, const QString& text) {
 
 void Scene::ClickSquare(int square, Qt::MouseButton button) {
     const QPointF middle = SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
-    QTest::mouseClick(&Puddle(), button, Qt::NoModifier, Puddle().PointAt(middle).toPoint());
+    Press(&Puddle(), button, Puddle().PointAt(middle).toPoint());
 }
 
 QAction* Scene::Item(const QString& name) {
@@ -343,7 +404,28 @@ void Scene::Menu(const QString& name) {
         Fail("there is no menu item " + name.toStdString());
         return;
     }
-    item->trigger();
+    std::vector<QMenu*> way;
+    for (auto* menu = qobject_cast<QMenu*>(item->parent()); menu != nullptr;
+         menu = qobject_cast<QMenu*>(menu->parentWidget())) {
+        way.insert(way.begin(), menu);
+    }
+    if (way.empty()) {
+        Fail(name.toStdString() + " is in no menu");
+        return;
+    }
+    QMenuBar* bar = board_->menuBar();
+    Press(bar, Qt::LeftButton, bar->actionGeometry(way.front()->menuAction()).center());
+    for (std::size_t i = 0; i < way.size(); ++i) {
+        if (!way[i]->isVisible()) {
+            Fail("the menu " + way[i]->title().toStdString() + " does not open");
+            return;
+        }
+        QAction* next = i + 1 < way.size() ? way[i + 1]->menuAction() : item;
+        Press(way[i], Qt::LeftButton, way[i]->actionGeometry(next).center());
+    }
+    while (QWidget* open = QApplication::activePopupWidget()) {  // a greyed item leaves its menu open
+        QTest::keyClick(open, Qt::Key_Escape);
+    }
 }
 
 }  // namespace plasmos::testing

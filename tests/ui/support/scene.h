@@ -16,6 +16,7 @@
 #include "model/game_state.h"
 #include "model/question.h"
 #include "model/step.h"
+#include "ui/hand.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
 
@@ -24,6 +25,7 @@ class QLineEdit;
 
 namespace plasmos {
 class PuddleView;
+class AutoPerson;
 class UBoard;
 }  // namespace plasmos
 
@@ -68,6 +70,8 @@ public:
     Scene& ThenSquare(std::vector<int> offered, int square);
     /// The next message box has this text; its OK is clicked.
     Scene& ThenBox(std::string text);
+    /// Somebody who sees a whole game through; what cannot be pressed is a failure of the test.
+    AutoPerson& Player() { return *player_; }
     /// Answers whatever the steps do not.
     void AnswerBy(std::function<void(Question&)> policy) { policy_ = std::move(policy); }
     /// Called at every question, before it is answered.
@@ -98,15 +102,21 @@ public:
     QString Text(const QString& name);
     bool Ticked(const QString& name);
     void Click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+    /// Presses the place of a control in its window, its middle where no point of it is given. What lies
+    /// over it there, or keeps it out of reach, is a failure of the test.
+    void Press(QWidget* control, Qt::MouseButton button = Qt::LeftButton, QPoint point = {-1, -1});
+    /// Presses the button down and keeps it, or lets it go, at the place of a control.
+    void Hold(QWidget* control, Qt::MouseButton button);
+    void Release(QWidget* control, Qt::MouseButton button);
     /// What the window system sends for a double click: press, release, double click, release.
-    void DoubleClick(QWidget* widget, QPoint point = {-1, -1});
+    void DoubleClick(QWidget* widget, QPoint point = {-1, -1}, Qt::MouseButton button = Qt::LeftButton);
     void Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Replaces the text of a field.
     void Type(const QString& name, const QString& text);
     /// Replaces the text of a field at one stroke, as from the clipboard.
     void Paste(const QString& name, const QString& text);
     void ClickSquare(int square, Qt::MouseButton button = Qt::LeftButton);
-    /// Chooses an item of the menus.
+    /// Chooses an item of the menus: its menu is pulled down and the item pressed, greyed or not.
     void Menu(const QString& name);
     QAction* Item(const QString& name);
     /// Lines of the game log, without signs and headings' layout.
@@ -126,10 +136,14 @@ private:
     QLineEdit* FieldToFill(const QString& name);
     void Answer(Question& question);
 
+    bool InReach(QWidget* control, QPoint& point);
+
+    WindowHand hand_;
     QTemporaryDir folder_;
     std::unique_ptr<DataFolder> files_;
     std::unique_ptr<QtSettings> settings_;
     std::unique_ptr<UBoard> board_;
+    std::unique_ptr<AutoPerson> player_;
     std::unique_ptr<DiceTape> tape_;
     std::vector<Step> steps_;
     std::size_t next_ = 0;
@@ -142,12 +156,14 @@ private:
 /// Compares what the window shows with its topmost question and the state; the first difference.
 std::string WhatIsWrong(Scene& scene, Question& question);
 
+/// Without a screen of its own a test gets one in memory: PLASMOS_SCREEN names it (1024x600, with a window's
+/// frame around the window), else it is large.
+void ChooseScreen();
+
 /// Runs the tests of a class off the screen, away from the user's own settings.
 template <class Tests>
 int RunWindowTests(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    ChooseScreen();
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
