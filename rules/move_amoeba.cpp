@@ -149,20 +149,53 @@ int NearestFreeSpot(int square, int slot) {
     return 0;
 }
 
+/// A part of a piece's move, by itself: an error in it is recorded for this piece, and the log tells when
+/// it stays for that. True: there was none.
+template <class Move>
+bool MoveGuarded(int clan, int amoeba, Move&& move) {
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const int from = piece.Square;
+    try {
+        move();
+        return true;
+    } catch (const std::exception&) {
+        const RuntimeError error = CurrentError();
+        AppendErrorRecord(error, clan, amoeba);
+        if (piece.Square == from && SomebodyListens()) {
+            LogText(Concat(piece.Name, " stays in ", from, ": ", std::string_view(error.what())), clan);
+        }
+        return false;
+    }
+}
+
+bool Follow(int mover, int moverAmoeba, const Rider& rider, int destination) {
+    if (!MoveAlone(rider.Clan, rider.Amoeba, destination)) {
+        return false;
+    }
+    Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[moverAmoeba][mover].Name);
+    LetPersonRead(mover);
+    return true;
+}
+
+/// The mover goes first; those that follow go each by itself, and nobody follows a mover that stays.
 void MoveWithCompany(int clan, int amoeba, int destination) {
-    const int from = game.Amoeba[amoeba][clan].Square;
-    const TentacleLoad load = ChooseTentacleLoad(clan, amoeba, destination);
-    RiderList riders = ChooseRiders(clan, from, destination, load);
-    MoveWithFood(clan, amoeba, destination, load);
-    if (load.DraggedAmoeba != 0) {
-        --game.BP[clan];
-        Show(&Presentation::ShowBP, clan);
-        riders.Add({clan, load.DraggedAmoeba});
+    TentacleLoad load;
+    RiderList riders;
+    const bool moved = MoveGuarded(clan, amoeba, [&] {
+        const int from = game.Amoeba[amoeba][clan].Square;
+        load = ChooseTentacleLoad(clan, amoeba, destination);
+        riders = ChooseRiders(clan, from, destination, load);
+        MoveWithFood(clan, amoeba, destination, load);
+    });
+    if (!moved) {
+        return;
     }
     for (const Rider& rider : riders) {
-        MoveAlone(rider.Clan, rider.Amoeba, destination);
-        Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
-        LetPersonRead(clan);
+        Follow(clan, amoeba, rider, destination);
+    }
+    if (load.DraggedAmoeba != 0 && Follow(clan, amoeba, {clan, load.DraggedAmoeba}, destination)) {
+        --game.BP[clan];
+        Show(&Presentation::ShowBP, clan);
     }
 }
 
@@ -197,27 +230,22 @@ int SquareCapacity(int square) {
     return lowest;
 }
 
-void MoveAlone(int clan, int amoeba, int destination) {
-    const Piece& piece = game.Amoeba[amoeba][clan];
-    if (piece.Square == destination) {
-        TraceSpot(clan, piece.Slot, false);
-    } else {
-        MoveWithFood(clan, amoeba, destination, {});
-    }
+bool MoveAlone(int clan, int amoeba, int destination) {
+    return MoveGuarded(clan, amoeba, [&] {
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        if (piece.Square == destination) {
+            TraceSpot(clan, piece.Slot, false);
+        } else {
+            MoveWithFood(clan, amoeba, destination, {});
+        }
+    });
 }
 
 void MoveAmoeba(int clan, int amoeba, int destination) {
-    try {
-        if (game.Amoeba[amoeba][clan].Square == destination) {
-            TraceSpot(clan, game.Amoeba[amoeba][clan].Slot, false);
-        } else {
-            MoveWithCompany(clan, amoeba, destination);
-        }
-    } catch (const std::exception&) {
-        const RuntimeError error = CurrentError();
-        AppendErrorRecord(error, clan, amoeba);
-        const Piece& piece = game.Amoeba[amoeba][clan];
-        LogLine(piece.Name, " stays in ", piece.Square, ": ", std::string_view(error.what()));
+    if (game.Amoeba[amoeba][clan].Square == destination) {
+        MoveAlone(clan, amoeba, destination);
+    } else {
+        MoveWithCompany(clan, amoeba, destination);
     }
 }
 
