@@ -175,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(Typed, ReplayNumbers, ::testing::ValuesIn(ReplayRows), 
 TEST(ReplayTexts, AreTheShortestThatReadBack) {
     EXPECT_EQ(ReplayText(1), "1");
     EXPECT_EQ(ReplayText(0), "0");
+    EXPECT_EQ(ReplayText(-0.0F), "-0");
     EXPECT_EQ(ReplayText(-3.25F), "-3.25");
     EXPECT_EQ(ReplayText(0.1F), "0.1");
     EXPECT_EQ(ReplayText(43210.5F), "43210.5");
