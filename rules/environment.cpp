@@ -14,7 +14,8 @@ namespace plasmos {
 namespace {
 
 void TurnCard() {
-    const EnvironmentCard& card = game.EnvDeck[game.Turn];
+    game.TurnedCard = game.Turn;
+    const EnvironmentCard& card = game.EnvDeck[game.TurnedCard];
     game.Drift = card.DriftDirection;
     game.UVLevel = card.UV;
     Show(&Presentation::ShowDrift);
