@@ -118,6 +118,8 @@ struct GameTables {
     bool WantSquare = false;
     std::string_view DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
     int DoneFlag = 0;
+    int MessageUnits = 0;  ///< pause units that the message line's text has a claim to
+    int PauseOwed = 0;     ///< what is left of them
     int DiscardedPoints = 0;
     bool ParasiteHunt = false;  ///< no rule ever sets it
 

@@ -29,7 +29,7 @@ void AdaptPerson(int clan) {
         "UV-level, and/or discard genes until the difference is reduced to 0 or below.";
     GeneForm form(clan, text);
     form.PrepareEnvironment();
-    Board().ShowMessage(text, clan);
+    ShowQuestionText(text, clan);
     {
         OpenQuestion open(form);
         open.Wait();

@@ -173,7 +173,7 @@ bool Follow(int mover, int moverAmoeba, const Rider& rider, int destination) {
         return false;
     }
     Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[moverAmoeba][mover].Name);
-    LetPersonRead(mover);
+    Concern(rider.Clan);
     return true;
 }
 
