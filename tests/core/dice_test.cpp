@@ -182,6 +182,12 @@ TEST(ReplayTexts, AreTheShortestThatReadBack) {
     EXPECT_EQ(ReplayText(16777216), "16777216");
 }
 
+TEST(ReplayTexts, MinusZeroIsReadAsItself) {
+    float number = 1;
+    EXPECT_TRUE(ParseReplayNumber("-0", number));
+    EXPECT_EQ(ReplayText(number), "-0");
+}
+
 RC_GTEST_PROP(ReplayTexts, ReadBackToTheSameSingle, ()) {
     const auto bits = *rc::gen::arbitrary<std::uint32_t>();
     float number = 0;
