@@ -78,8 +78,10 @@ void LetMessageBeRead() {
 }
 
 void TakePause(int units) {
-    Show(&Presentation::Pause, units);
-    game.PauseOwed = std::max(0, game.PauseOwed - units);
+    if (game.Window != nullptr) {
+        game.Window->Pause(units);
+        game.PauseOwed = std::max(0, game.PauseOwed - units);
+    }
 }
 
 }  // namespace plasmos

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <exception>
 
-#include "model/dice.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -88,8 +87,7 @@ bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
     return !CanEat(from, clan) && CanEat(to, clan);
 }
 
-RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
-    RiderList riders;
+void ChooseRiders(int mover, int from, int to, const TentacleLoad& load, RiderList& riders) {
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         if (!HasGene(clan, "hol") || clan == mover || game.Occupancy[from][clan] == 0) {
             continue;
@@ -100,7 +98,6 @@ RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
             ForPiecesIn(from, clan, [&](int amoeba) { riders.Add({clan, amoeba}); });
         }
     }
-    return riders;
 }
 
 void TraceSpot(int clan, int slot, bool moved) {
@@ -130,23 +127,6 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     Show(&Presentation::AnimateMove, clan, amoeba, from, destination);
     Show(&Presentation::DrawSquare, from);
     Show(&Presentation::DrawSquare, destination);
-}
-
-/// The free spot of a square closest to a spot, the lower one of two; 0: all are taken.
-int NearestFreeSpot(int square, int slot) {
-    const std::uint32_t taken = game.SpotsTaken[square];
-    const auto isFree = [&](int spot) {
-        return spot >= 1 && spot <= MaxSpots && (taken >> static_cast<unsigned>(spot) & 1U) == 0;
-    };
-    for (int distance = 0; distance <= MaxSpots; ++distance) {
-        if (isFree(slot - distance)) {
-            return slot - distance;
-        }
-        if (isFree(slot + distance)) {
-            return slot + distance;
-        }
-    }
-    return 0;
 }
 
 /// A part of a piece's move, by itself: an error in it is recorded for this piece, and the log tells when
@@ -184,7 +164,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     const bool moved = MoveGuarded(clan, amoeba, [&] {
         const int from = game.Amoeba[amoeba][clan].Square;
         load = ChooseTentacleLoad(clan, amoeba, destination);
-        riders = ChooseRiders(clan, from, destination, load);
+        ChooseRiders(clan, from, destination, load, riders);
         MoveWithFood(clan, amoeba, destination, load);
     });
     if (!moved) {
@@ -199,36 +179,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
     }
 }
 
-/// The clan that acts put one amoeba too many into a square.
-void TellOfTheCrowd(int square) {
-    const auto text = Concat("How did you ever manage to squeeze ", "30", " amoebas in square ", square, "?!?!?");
-    if (game.Players[game.CurPlayer].IsComputer) {
-        ReportBox(text);
-    } else {
-        ShowBox(game.CurPlayer, text);
-    }
-}
-
 }  // namespace
-
-int SquareCapacity(int square) {
-    if (game.Occupancy[square][0] >= MaxSpots) {
-        TellOfTheCrowd(square);
-        return 0;
-    }
-    const std::uint32_t taken = game.SpotsTaken[square];
-    for (int draw = 1; draw <= MaxDraws; ++draw) {
-        const int spot = RollDie(MaxSpots);
-        if ((taken >> static_cast<unsigned>(spot) & 1U) == 0) {
-            return spot;
-        }
-    }
-    int lowest = 1;
-    while ((taken >> static_cast<unsigned>(lowest) & 1U) != 0) {
-        ++lowest;
-    }
-    return lowest;
-}
 
 bool MoveAlone(int clan, int amoeba, int destination) {
     return MoveGuarded(clan, amoeba, [&] {
@@ -247,17 +198,6 @@ void MoveAmoeba(int clan, int amoeba, int destination) {
     } else {
         MoveWithCompany(clan, amoeba, destination);
     }
-}
-
-void MoveBeside(int clan, int amoeba, int otherSlot) {
-    const int square = game.Amoeba[amoeba][clan].Square;
-    const int nearest = NearestFreeSpot(square, otherSlot);
-    if (nearest == 0) {
-        return;
-    }
-    LiftPiece(clan, amoeba);
-    PutPiece(clan, amoeba, square, nearest);
-    Show(&Presentation::DrawPiece, clan, amoeba);
 }
 
 }  // namespace plasmos
