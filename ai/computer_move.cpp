@@ -3,6 +3,7 @@
 
 #include "model/dice.h"
 #include "model/genes.h"
+#include "model/message_line.h"
 #include "model/narration.h"
 #include "model/presentation.h"
 #include "rules/feeding.h"
@@ -211,10 +212,10 @@ private:
             }
         } else {
             Say(piece().Name, " remains ", found_ ? "contentedly" : "dejectedly", " in ", destination_);
-            Show(&Presentation::Pause, RestPause);
+            TakePause(RestPause);
         }
         MoveAmoeba(clan_, amoeba_, destination_);
-        Show(&Presentation::Pause, MovePause);
+        TakePause(MovePause);
     }
 
     int clan_;
@@ -245,7 +246,7 @@ void ComputerMoveAmoeba(int clan, int amoeba) {
     const Piece& piece = game.Amoeba[amoeba][clan];
     if (HasGene(clan, "hol") && CanEat(piece.Square, clan)) {
         Say(piece.Name, " clings to the bottom in ", piece.Square);
-        Show(&Presentation::Pause, RestPause);
+        TakePause(RestPause);
         return;
     }
     const bool rolled = MovePass(clan, amoeba, false).Run();

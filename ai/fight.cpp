@@ -52,6 +52,19 @@ struct Victim {
     int Amoeba = 0;
 };
 
+/// What a person whose amoeba is attacked reads above the questions that follow; it is for the window
+/// alone.
+template <class... Pieces>
+void TellVictim(int clan, const Pieces&... pieces) {
+    if (game.Players[clan].IsComputer || !SomebodyListens()) {
+        return;
+    }
+    const std::string text = Concat(pieces...);
+    AddStatement(text, game.CurPlayer);
+    Concern(clan);
+    Board().Log(text, game.CurPlayer);
+}
+
 /// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
 Victim PickByPerson(int attacker, int square) {
     VictimForm form(attacker, "AGGRESS", "Choose the Attack-victim:", square);
@@ -60,7 +73,7 @@ Victim PickByPerson(int attacker, int square) {
             form.Allow(figure.Clan, figure.Amoeba);
         }
     }
-    Board().ShowMessage(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
+    ShowQuestionText(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
     const auto picked = AskVictims(form);
     game.DialogMode = "";
     if (picked.empty()) {
@@ -75,14 +88,13 @@ void Outcome(const Victim& victim, int square) {
     if (HasGene(victim.Clan, "arm")) {
         ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
         Show(&Presentation::DrawPiece, victim.Clan, victim.Amoeba);
-        LetPersonRead(game.CurPlayer);
         return;
     }
     AddFoodOfAllColours(square, FoodOfTheTorn);
     SayMore(game.Amoeba[victim.Amoeba][victim.Clan].Name, " torn viciously to pieces!!!");
-    Show(&Presentation::Pause, EatenPause);
+    TakePause(EatenPause);
     RemoveAmoeba(victim.Clan, victim.Amoeba);
-    Show(&Presentation::Pause, EatenPause);
+    TakePause(EatenPause);
 }
 
 /// Whom the second attack goes against: the same clan if it still has a piece in the square, else the
@@ -108,6 +120,8 @@ bool Resolve(const Victim& victim, int square) {
     MoveBeside(attacker, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
     Sign(SignedEvent::Attack, attacker, victim.Clan, victim.Amoeba);
     Say(Attacker().Name, " picking a fight with ", game.Amoeba[victim.Amoeba][victim.Clan].Name, " in ", square);
+    Concern(victim.Clan);
+    TellVictim(victim.Clan, Attacker().Name, " belongs to ", game.Players[attacker].Name, ".");
     const bool gotAway = GetsAway(victim.Clan, victim.Amoeba);
     if (!gotAway) {
         Outcome(victim, square);
@@ -126,13 +140,15 @@ void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, in
     const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(victimClan, square, false);
     MoveBeside(victimClan, amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
     Sign(SignedEvent::Attack, attacker, victimClan, amoeba);
+    TellVictim(victimClan, Attacker().Name, " of ", game.Players[attacker].Name, " attacks ",
+               game.Amoeba[amoeba][victimClan].Name, " in ", square, " to eat it.");
     if (GetsAway(victimClan, amoeba)) {
         return;
     }
     stillHungry = false;
     AddFoodOfAllColours(square, FoodOfTheEaten);
     Say(game.Amoeba[amoeba][victimClan].Name, " Eaten!");
-    Show(&Presentation::Pause, EatenPause);
+    TakePause(EatenPause);
     RemoveAmoeba(victimClan, amoeba);
 }
 

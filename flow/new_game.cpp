@@ -56,7 +56,7 @@ int GetPlayerCount() {
             ClearMessage();
             return count;
         }
-        Board().ShowMessage("Invalid response!", 0);
+        ShowQuestionText("Invalid response!", 0);
     }
 }
 

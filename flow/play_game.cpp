@@ -9,6 +9,7 @@
 #include "flow/start.h"
 #include "model/dice.h"
 #include "model/game_files.h"
+#include "model/message_line.h"
 #include "model/narration.h"
 #include "model/observer.h"
 #include "model/platform.h"
@@ -116,6 +117,7 @@ void PlayOneGame() {
             break;
         }
     }
+    LetMessageBeRead();
     AnnounceWinner();
     if (game.Listener != nullptr) {
         game.Listener->OnOver();

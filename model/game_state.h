@@ -118,6 +118,8 @@ struct GameTables {
     bool WantSquare = false;
     std::string_view DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
     int DoneFlag = 0;
+    int MessageUnits = 0;  ///< pause units that the message line's text has a claim to
+    int PauseOwed = 0;     ///< what is left of them
     int DiscardedPoints = 0;
     bool ParasiteHunt = false;  ///< no rule ever sets it
 
@@ -139,6 +141,7 @@ struct GameTables {
     Table<Table<bool, 0, 2>, 0, MaxClans> AutoFlags;  ///< [clan][1 eating, 2 tentacle]
     Table<std::int32_t, 0, GeneCount> PersonalityTable;
     Table<EnvironmentCard, 0, LastCard> EnvDeck;
+    int TurnedCard = 0;  ///< the card of EnvDeck that was turned last; 0 lies open from the beginning
 
     Table<int, 0, 7> MenuAmounts;  ///< amounts of the food counted last; the first 0 ends the list
     Table<int, 0, 7> MenuColours;  ///< the colour each amount belongs to; 0: a lent piece

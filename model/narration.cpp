@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/narration.h"
 
+#include "model/message_line.h"
 #include "model/observer.h"
 #include "model/presentation.h"
 
@@ -19,13 +20,12 @@ void LogText(const std::string& line, int clan) {
 }
 
 void SayText(const std::string& line) {
-    Board().ShowMessage(line, game.CurPlayer);
+    ShowStatement(line, game.CurPlayer);
     LogText(line);
 }
 
 void SayMoreText(const std::string& line) {
-    const std::string before = Board().Message();
-    Board().ShowMessage(before.empty() ? line : before + "\n" + line, game.CurPlayer);
+    AddStatement(line, game.CurPlayer);
     LogText(line);
 }
 

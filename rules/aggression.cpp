@@ -63,7 +63,7 @@ int ChooseAttacker(int clan, int square) {
     if (count == 1) {
         return only;
     }
-    Board().ShowMessage(form.Text, clan);
+    ShowQuestionText(form.Text, clan);
     return AskAmoeba(form);
 }
 

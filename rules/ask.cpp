@@ -17,6 +17,22 @@ void ForgetAnswer() {
     game.ReplyY = -1;
 }
 
+/// Other questions have a panel, which may cover the message line.
+bool IsAskedInMessageLine(const Question& question) {
+    return question.Kind == QuestionKind::YesNo || question.Kind == QuestionKind::Square;
+}
+
+bool WaitForYes(int clan, const std::string& text, int about) {
+    YesNoQuestion question(clan, text, about);
+    game.Reply = 0;
+    OpenQuestion open(question);
+    open.Wait();
+    const bool yes = game.Reply == ReplyYes;
+    NoteAnswer(question, Concat(game.Reply), true);
+    ForgetAnswer();
+    return yes;
+}
+
 void LogBox(int clan, const std::string& text) {
     if (SomebodyListens()) {
         LogText(text, clan);
@@ -34,6 +50,9 @@ bool SquareQuestion::Answered() const {
 }
 
 OpenQuestion::OpenQuestion(Question& question) : question_(question) {
+    if (!IsAskedInMessageLine(question)) {
+        LetMessageBeRead();
+    }
     if (game.Listener != nullptr) {
         if (question.Kind == QuestionKind::Box) {
             game.Listener->OnBox(question.Text);
@@ -52,6 +71,7 @@ void OpenQuestion::Wait() {
     while (!question_.Answered()) {
         Board().Wait();
     }
+    MessageIsRead();
 }
 
 void NoteAnswer(const Question& question, std::string_view value, bool accepted) {
@@ -77,14 +97,15 @@ void Picture1_MouseUp(int x, int y) {
 }
 
 bool AskYesNo(int clan, const std::string& text, int about) {
-    YesNoQuestion question(clan, text, about);
-    game.Reply = 0;
-    Board().ShowMessage(text, clan);
-    OpenQuestion open(question);
-    open.Wait();
-    const bool yes = game.Reply == ReplyYes;
-    NoteAnswer(question, Concat(game.Reply), true);
-    ForgetAnswer();
+    ShowQuestionText(text, clan);
+    return WaitForYes(clan, text, about);
+}
+
+bool AskYesNoBelow(int clan, const std::string& text) {
+    const std::string before = Board().Message();
+    ShowQuestionText(BelowMessage(text), clan);
+    const bool yes = WaitForYes(clan, text, 0);
+    PutBackMessage(before, game.CurPlayer);
     return yes;
 }
 
@@ -111,7 +132,7 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
         return squares.front();
     }
     SquareQuestion question(clan, text, squares);
-    Board().ShowMessage(text, clan);
+    ShowQuestionText(text, clan);
     game.Reply = game.ReplyY = -1;
     game.WantSquare = true;
     OpenQuestion open(question);
@@ -148,13 +169,9 @@ void ReportBox(const std::string& text) {
 }
 
 void TellPerson(int clan, const std::string& text) {
-    Board().ShowMessage(text, clan);
+    ShowStatement(text, clan);
     LogBox(clan, text);
-    Show(&Presentation::Pause, StatementPause);
-}
-
-void ClearMessage() {
-    Board().ShowMessage({}, 0);
+    TakePause(StatementPause);
 }
 
 }  // namespace plasmos

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/game_state.h"
+#include "model/message_line.h"
 #include "model/presentation.h"
 #include "model/question.h"
 
@@ -81,6 +82,9 @@ void Picture1_MouseUp(int x, int y);
 /// Asks a clan a yes/no question, about a square if it speaks of one; true is yes.
 bool AskYesNo(int clan, const std::string& text, int about = 0);
 
+/// The same below what the message line tells, which stays in sight and is put back.
+bool AskYesNoBelow(int clan, const std::string& text);
+
 /// Asks a clan for one of the offered squares (in any order, not empty); every other answer is
 /// refused and the wait goes on. A single square is the answer without a question.
 int AskSquare(int clan, const std::string& text, const std::vector<int>& offered);
@@ -98,18 +102,5 @@ void ReportBox(const std::string& text);
 /// A statement to a person between two questions: the message line shows it, the log keeps it, and
 /// there is a pause to read it in.
 void TellPerson(int clan, const std::string& text);
-
-/// Time to read a statement in, in pause units.
-inline constexpr int StatementPause = 10;
-
-/// Time to read what has just been said; taken only where the clan is a person's.
-inline void LetPersonRead(int clan) {
-    if (game.Window != nullptr && !game.Players[clan].IsComputer) {
-        game.Window->Pause(StatementPause);
-    }
-}
-
-/// The message line without text.
-void ClearMessage();
 
 }  // namespace plasmos

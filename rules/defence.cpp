@@ -29,9 +29,10 @@ bool AgreesToDefend(int clan, int amoeba, bool again) {
     if (game.Players[clan].IsComputer) {
         return true;
     }
-    return AskYesNo(clan, Concat(game.Players[clan].Name,
-                                 again ? ": would you like to pay another BP for " : ": would you like to pay 1BP for ",
-                                 game.Amoeba[amoeba][clan].Name, " to Defend itself against the attack?"));
+    return AskYesNoBelow(clan,
+                         Concat(game.Players[clan].Name,
+                                again ? ": would you like to pay another BP for " : ": would you like to pay 1BP for ",
+                                game.Amoeba[amoeba][clan].Name, " to Defend itself against the attack?"));
 }
 
 /// Two dice, rolled again as long as they are equal; the defence succeeds when the first is lower.
@@ -57,14 +58,14 @@ bool DefendOnce(int clan, int amoeba) {
     } else {
         SayMore("Amoeba's defense failed.");
     }
-    Show(&Presentation::Pause, DefencePause);
+    TakePause(DefencePause);
     return beatenOff;
 }
 
 bool AgreesToEscape(int clan, int amoeba) {
     const auto& name = game.Amoeba[amoeba][clan].Name;
     const auto& clanName = game.Players[clan].Name;
-    return AskYesNo(
+    return AskYesNoBelow(
         clan, HasGene(clan, "str")
                   ? Concat(clanName, ": Would ", name, " like to attempt to Escape the attack?")
                   : Concat(clanName, ": Would you like to pay 1BP for ", name, " to attempt to Escape the attack?"));
@@ -99,7 +100,6 @@ bool EscapeComputer(int clan, int amoeba) {
         return false;
     }
     Say(piece.Name, " escaped to ", piece.Square, "!");
-    LetPersonRead(game.CurPlayer);
     return true;
 }
 

@@ -115,7 +115,7 @@ int AskHowMany(int clan, int affordable) {
     AmNumfrm form(clan, "Amoeba-number form", "How many amoebas would you like to create?", -1, 0);
     form.Activate();
     form.LimitTo(affordable);
-    Board().ShowMessage(form.Text, clan);
+    ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     open.Wait();
     const int count = game.Reply;

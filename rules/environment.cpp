@@ -14,7 +14,8 @@ namespace plasmos {
 namespace {
 
 void TurnCard() {
-    const EnvironmentCard& card = game.EnvDeck[game.Turn];
+    game.TurnedCard = game.Turn;
+    const EnvironmentCard& card = game.EnvDeck[game.TurnedCard];
     game.Drift = card.DriftDirection;
     game.UVLevel = card.UV;
     Show(&Presentation::ShowDrift);
@@ -28,7 +29,7 @@ void AdaptPerson(int clan) {
         "UV-level, and/or discard genes until the difference is reduced to 0 or below.";
     GeneForm form(clan, text);
     form.PrepareEnvironment();
-    Board().ShowMessage(text, clan);
+    ShowQuestionText(text, clan);
     {
         OpenQuestion open(form);
         open.Wait();

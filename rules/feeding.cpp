@@ -34,6 +34,31 @@ void ForDigits(int menu, Visit&& visit) {
     }
 }
 
+/// Takes the menu's pieces from the square, and the eater excretes.
+void TakeMeal(int menu, int square) {
+    const int clan = game.CurPlayer;
+    auto& food = game.Food[square];
+    ForDigits(menu, [&](int place, int digit) {
+        if (const int colour = game.MenuColours[place]; colour != 0) {
+            food[colour] -= digit;
+        }
+    });
+    food[clan] += Excretion;
+    Sign(SignedEvent::Meal, clan, square, menu);
+}
+
+void TellOfHosts(const ParasiteMeal& meal) {
+    const auto& first = game.Players[meal.Hosts[1]].Name;
+    if (meal.HostCount == 2) {
+        Say(Eater().Name, " parasitizing off of clan ", first, " and clan ", game.Players[meal.Hosts[2]].Name);
+    } else {
+        Say(Eater().Name, " parasitizing off of clan ", first);
+    }
+    for (int i = 1; i <= meal.HostCount; ++i) {
+        Concern(meal.Hosts[i]);
+    }
+}
+
 /// The lowest colour from one upward that the square lacks and that is not the eater's; 6 ends it.
 int NextLentColour(int colour, int square, int clan) {
     while (colour < LastLentColour && (colour == clan || game.Food[square][colour] > 0)) {
@@ -100,18 +125,9 @@ void EatMenu(int menu, int square) {
     if (menu == 0) {
         return;
     }
-    const int clan = game.CurPlayer;
-    auto& food = game.Food[square];
-    ForDigits(menu, [&](int place, int digit) {
-        if (const int colour = game.MenuColours[place]; colour != 0) {
-            food[colour] -= digit;
-        }
-    });
-    food[clan] += Excretion;
-    Sign(SignedEvent::Meal, clan, square, menu);
+    TakeMeal(menu, square);
     Say(Eater().Name, " eats ", menu, " in ", square);
     Show(&Presentation::DrawSquare, square);
-    LetPersonRead(clan);
 }
 
 void EatSuggestion(int menu, int square) {
@@ -124,20 +140,17 @@ void EatAsParasite(const ParasiteMeal& meal, int square) {
         --game.BP[meal.Hosts[i]];
         Show(&Presentation::ShowBP, meal.Hosts[i]);
     }
-    if (meal.HostCount == 2) {
-        Say(Eater().Name, " parasitizing off of clan ", game.Players[meal.Hosts[1]].Name, " and clan ",
-            game.Players[meal.Hosts[2]].Name);
-    } else {
-        Say(Eater().Name, " parasitizing off of clan ", game.Players[meal.Hosts[1]].Name);
-    }
-    EatMenu(meal.Menu, square);
+    TellOfHosts(meal);
+    TakeMeal(meal.Menu, square);
+    SayMore(Eater().Name, " eats ", meal.Menu, " in ", square);
+    Show(&Presentation::DrawSquare, square);
 }
 
 void Starve(int square) {
     SayMore(Eater().Name, " starves in ", square);
     ++game.Amoeba[game.CurAmoeba][game.CurPlayer].Damage;
     Show(&Presentation::DrawPiece, game.CurPlayer, game.CurAmoeba);
-    Show(&Presentation::Pause, StarvePause);
+    TakePause(StarvePause);
 }
 
 Table<int, 0, MaxClans> SuggestedAmounts(int square, int clan) {

@@ -79,7 +79,7 @@ private:
         NoteAnswer(form_, Concat("eat ", form_.Entry()), false);
         ShowBox(form_.Clan, message);
         form_.Text = "Please try again.";
-        Board().ShowMessage(form_.Text, form_.Clan);
+        ShowQuestionText(form_.Text, form_.Clan);
     }
 
     bool TakesTooMuch() const {
@@ -137,7 +137,7 @@ private:
             }
         }
         if (form_.fdtxt[7].Visible || !victims.HasChoice()) {
-            Board().ShowMessage("There is no further host to pick; eat, or design another menu.", form_.Clan);
+            ShowQuestionText("There is no further host to pick; eat, or design another menu.", form_.Clan);
             return;
         }
         const auto picked = AskVictims(victims);
@@ -227,7 +227,7 @@ void FeedAmoeba(int square, int clan) {
         Starve(square);
         return;
     }
-    Board().ShowMessage(form.Text, clan);
+    ShowQuestionText(form.Text, clan);
     FeedByDialog(form);
 }
 

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <exception>
 
-#include "model/dice.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -88,8 +87,7 @@ bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
     return !CanEat(from, clan) && CanEat(to, clan);
 }
 
-RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
-    RiderList riders;
+void ChooseRiders(int mover, int from, int to, const TentacleLoad& load, RiderList& riders) {
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         if (!HasGene(clan, "hol") || clan == mover || game.Occupancy[from][clan] == 0) {
             continue;
@@ -100,7 +98,6 @@ RiderList ChooseRiders(int mover, int from, int to, const TentacleLoad& load) {
             ForPiecesIn(from, clan, [&](int amoeba) { riders.Add({clan, amoeba}); });
         }
     }
-    return riders;
 }
 
 void TraceSpot(int clan, int slot, bool moved) {
@@ -132,104 +129,75 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     Show(&Presentation::DrawSquare, destination);
 }
 
-/// The free spot of a square closest to a spot, the lower one of two; 0: all are taken.
-int NearestFreeSpot(int square, int slot) {
-    const std::uint32_t taken = game.SpotsTaken[square];
-    const auto isFree = [&](int spot) {
-        return spot >= 1 && spot <= MaxSpots && (taken >> static_cast<unsigned>(spot) & 1U) == 0;
-    };
-    for (int distance = 0; distance <= MaxSpots; ++distance) {
-        if (isFree(slot - distance)) {
-            return slot - distance;
+/// A part of a piece's move, by itself: an error in it is recorded for this piece, and the log tells when
+/// it stays for that. True: there was none.
+template <class Move>
+bool MoveGuarded(int clan, int amoeba, Move&& move) {
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const int from = piece.Square;
+    try {
+        move();
+        return true;
+    } catch (const std::exception&) {
+        const RuntimeError error = CurrentError();
+        AppendErrorRecord(error, clan, amoeba);
+        if (piece.Square == from && SomebodyListens()) {
+            LogText(Concat(piece.Name, " stays in ", from, ": ", std::string_view(error.what())), clan);
         }
-        if (isFree(slot + distance)) {
-            return slot + distance;
-        }
+        return false;
     }
-    return 0;
 }
 
+bool Follow(int mover, int moverAmoeba, const Rider& rider, int destination) {
+    if (!MoveAlone(rider.Clan, rider.Amoeba, destination)) {
+        return false;
+    }
+    Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[moverAmoeba][mover].Name);
+    Concern(rider.Clan);
+    return true;
+}
+
+/// The mover goes first; those that follow go each by itself, and nobody follows a mover that stays.
 void MoveWithCompany(int clan, int amoeba, int destination) {
-    const int from = game.Amoeba[amoeba][clan].Square;
-    const TentacleLoad load = ChooseTentacleLoad(clan, amoeba, destination);
-    RiderList riders = ChooseRiders(clan, from, destination, load);
-    MoveWithFood(clan, amoeba, destination, load);
-    if (load.DraggedAmoeba != 0) {
-        --game.BP[clan];
-        Show(&Presentation::ShowBP, clan);
-        riders.Add({clan, load.DraggedAmoeba});
+    TentacleLoad load;
+    RiderList riders;
+    const bool moved = MoveGuarded(clan, amoeba, [&] {
+        const int from = game.Amoeba[amoeba][clan].Square;
+        load = ChooseTentacleLoad(clan, amoeba, destination);
+        ChooseRiders(clan, from, destination, load, riders);
+        MoveWithFood(clan, amoeba, destination, load);
+    });
+    if (!moved) {
+        return;
     }
     for (const Rider& rider : riders) {
-        MoveAlone(rider.Clan, rider.Amoeba, destination);
-        Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[amoeba][clan].Name);
-        LetPersonRead(clan);
+        Follow(clan, amoeba, rider, destination);
     }
-}
-
-/// The clan that acts put one amoeba too many into a square.
-void TellOfTheCrowd(int square) {
-    const auto text = Concat("How did you ever manage to squeeze ", "30", " amoebas in square ", square, "?!?!?");
-    if (game.Players[game.CurPlayer].IsComputer) {
-        ReportBox(text);
-    } else {
-        ShowBox(game.CurPlayer, text);
+    if (load.DraggedAmoeba != 0 && Follow(clan, amoeba, {clan, load.DraggedAmoeba}, destination)) {
+        --game.BP[clan];
+        Show(&Presentation::ShowBP, clan);
     }
 }
 
 }  // namespace
 
-int SquareCapacity(int square) {
-    if (game.Occupancy[square][0] >= MaxSpots) {
-        TellOfTheCrowd(square);
-        return 0;
-    }
-    const std::uint32_t taken = game.SpotsTaken[square];
-    for (int draw = 1; draw <= MaxDraws; ++draw) {
-        const int spot = RollDie(MaxSpots);
-        if ((taken >> static_cast<unsigned>(spot) & 1U) == 0) {
-            return spot;
+bool MoveAlone(int clan, int amoeba, int destination) {
+    return MoveGuarded(clan, amoeba, [&] {
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        if (piece.Square == destination) {
+            TraceSpot(clan, piece.Slot, false);
+        } else {
+            MoveWithFood(clan, amoeba, destination, {});
         }
-    }
-    int lowest = 1;
-    while ((taken >> static_cast<unsigned>(lowest) & 1U) != 0) {
-        ++lowest;
-    }
-    return lowest;
-}
-
-void MoveAlone(int clan, int amoeba, int destination) {
-    const Piece& piece = game.Amoeba[amoeba][clan];
-    if (piece.Square == destination) {
-        TraceSpot(clan, piece.Slot, false);
-    } else {
-        MoveWithFood(clan, amoeba, destination, {});
-    }
+    });
 }
 
 void MoveAmoeba(int clan, int amoeba, int destination) {
-    try {
-        if (game.Amoeba[amoeba][clan].Square == destination) {
-            TraceSpot(clan, game.Amoeba[amoeba][clan].Slot, false);
-        } else {
-            MoveWithCompany(clan, amoeba, destination);
-        }
-    } catch (const std::exception&) {
-        const RuntimeError error = CurrentError();
-        AppendErrorRecord(error, clan, amoeba);
-        const Piece& piece = game.Amoeba[amoeba][clan];
-        LogLine(piece.Name, " stays in ", piece.Square, ": ", std::string_view(error.what()));
+    if (game.Amoeba[amoeba][clan].Square == destination) {
+        MoveAlone(clan, amoeba, destination);
+    } else {
+        MoveWithCompany(clan, amoeba, destination);
     }
-}
-
-void MoveBeside(int clan, int amoeba, int otherSlot) {
-    const int square = game.Amoeba[amoeba][clan].Square;
-    const int nearest = NearestFreeSpot(square, otherSlot);
-    if (nearest == 0) {
-        return;
-    }
-    LiftPiece(clan, amoeba);
-    PutPiece(clan, amoeba, square, nearest);
-    Show(&Presentation::DrawPiece, clan, amoeba);
 }
 
 }  // namespace plasmos

@@ -18,12 +18,14 @@ struct TentacleLoad {
 };
 
 /// Moves one amoeba to a square, with what its tentacle takes along and with the hitch-hikers. Each
-/// move is traced. An error is recorded and leaves the piece where it is; the phase goes on.
+/// piece's move is traced, and everything in it that can fail comes before its tables change: an error
+/// is recorded for the piece that it stops, which stays where it is and pays nothing for being dragged,
+/// while the others move. Nobody follows a mover that stays. The phase goes on.
 void MoveAmoeba(int clan, int amoeba, int destination);
 
 /// The same for a piece that rides, is dragged or escapes: no tentacle and no riders of its own.
-/// Errors are the caller's.
-void MoveAlone(int clan, int amoeba, int destination);
+/// False: an error has been recorded.
+bool MoveAlone(int clan, int amoeba, int destination);
 
 /// The spot a piece gets in a square: RollDie(30) until it is free. A square with 30 pieces has none:
 /// a message tells so and the spot is 0, not drawn.

@@ -131,7 +131,7 @@ int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) 
     }
     const std::string before = Board().Message();
     const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares);
-    Board().ShowMessage(before, clan);
+    PutBackMessage(before, clan);
     return chosen;
 }
 

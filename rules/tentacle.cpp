@@ -69,7 +69,7 @@ void AskFood(int clan, int from, TentacleLoad& load) {
     form.Text = Concat("What will your amoeba carry out of square ", from, "? (At most ", CarryingLimit, " food.)");
     form.UpdateButtons();
     game.DialogMode = "TENTACLE";
-    Board().ShowMessage(form.Text, clan);
+    ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     for (;;) {
         open.Wait();
@@ -82,7 +82,7 @@ void AskFood(int clan, int from, TentacleLoad& load) {
             NoteAnswer(form, Concat("carry ", form.Entry()), false);
             ShowBox(clan, fault);
             form.Text = "Please try again.";
-            Board().ShowMessage(form.Text, clan);
+            ShowQuestionText(form.Text, clan);
             Board().Refresh(form);
             continue;
         }
@@ -93,6 +93,12 @@ void AskFood(int clan, int from, TentacleLoad& load) {
         break;
     }
     game.DialogMode = "";
+}
+
+int PickDragged(AmChoicefrm& form) {
+    ShowQuestionText(form.Text, form.Clan);
+    game.Reply = -1;
+    return AskAmoeba(form);
 }
 
 void AskDragged(int clan, int amoeba, int from, TentacleLoad& load) {
@@ -112,9 +118,7 @@ void AskDragged(int clan, int amoeba, int from, TentacleLoad& load) {
     const auto text =
         Concat("Would ", game.Amoeba[amoeba][clan].Name, " like to pay 1BP to drag another amoeba of its clan along?");
     if (AskYesNo(clan, text)) {
-        Board().ShowMessage(form.Text, clan);
-        game.Reply = -1;
-        load.DraggedAmoeba = count == 1 ? only : AskAmoeba(form);
+        load.DraggedAmoeba = count == 1 ? only : PickDragged(form);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sim/results.h"
 
+#include <cmath>
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
@@ -21,9 +22,17 @@ std::string CsvRecord(const GameResult& result) {
     return text + "\n";
 }
 
+/// A whole number stays one, but for minus zero, which JSON has among the others alone.
+nlohmann::ordered_json JsonReplay(float replay) {
+    if (replay == 0 && std::signbit(replay)) {
+        return -0.0;
+    }
+    return nlohmann::ordered_json::parse(ReplayText(replay));
+}
+
 std::string JsonRecord(const GameResult& result) {
     nlohmann::ordered_json record;
-    record["replay"] = nlohmann::ordered_json::parse(ReplayText(result.Replay));
+    record["replay"] = JsonReplay(result.Replay);
     record["clans"] = result.Clans;
     record["turns"] = result.Turns;
     record["winner"] = result.Winner;

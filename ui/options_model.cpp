@@ -84,7 +84,7 @@ std::string OptionsModel::Bounds() const {
     return text;
 }
 
-// A square is blocked once, however many markers a lowered side has brought to it.
+// A square is blocked once, however many markers have come to it.
 void OptionsModel::MergeMarkers() {
     std::vector<Marker> kept;
     for (std::size_t i = 0; i < markers_.size(); ++i) {
@@ -170,20 +170,18 @@ void OptionsModel::LeftClick(int x, int y) {
     }
 }
 
-// A picked marker goes back to where it was when the square has a marker already.
+// A picked marker becomes one with the marker that the square has already.
 void OptionsModel::RightClick(int x, int y) {
     if (!OnPicture(x, y)) {
         return;
     }
-    const int there = MarkerAt(x, y);
     if (picked_ < 0) {
-        picked_ = there - 1;
+        picked_ = MarkerAt(x, y) - 1;
         return;
     }
-    if (there == 0) {
-        markers_[static_cast<std::size_t>(picked_)] = {x / Unit * Unit, y / Unit * Unit};
-    }
+    markers_[static_cast<std::size_t>(picked_)] = {x / Unit * Unit, y / Unit * Unit};
     picked_ = -1;
+    MergeMarkers();
 }
 
 std::string OptionsModel::Diagnosis(int x, int y, int button) const {

@@ -51,7 +51,7 @@ public:
     void SetBlocks(int blocks);
 
     /// A click at a point of the picture. Left: a marker comes to the square, or goes from it. Right:
-    /// the marker there is picked, or the picked one moves there.
+    /// the marker there is picked, or the picked one moves there and becomes one with a marker it meets.
     void LeftClick(int x, int y);
     void RightClick(int x, int y);
 

@@ -34,7 +34,7 @@ const QString UVBorrowed = QStringLiteral("UVLAB");
 double MeanUV() {
     int sum = 0;
     int cards = 0;
-    for (int card = game.Turn + 1; game.NumPlayers > 0 && card <= LastCard; ++card) {
+    for (int card = game.TurnedCard + 1; game.NumPlayers > 0 && card <= LastCard; ++card) {
         sum += game.EnvDeck[card].UV;
         ++cards;
     }

@@ -37,6 +37,23 @@ TEST_F(Choosing, AddsToTheMessageAndPutsItBack) {
     EXPECT_EQ(board.Message(), "B3 will drift into 14.");
 }
 
+TEST_F(Choosing, WithAnEmptyMessageBeginsWithTheQuestion) {
+    Put(2, 3, 13);
+    board.Then(Square(8));
+    ChooseSquare(2, 3, true);
+    EXPECT_THAT(board.Messages, ElementsAre("Choose a square for B3 to Move into:", ""));
+}
+
+TEST_F(Choosing, WhereTheCurrentLetsItChooseBeginsWithTheQuestion) {
+    Person(2);
+    Put(2, 3, 13);
+    game.Drift = WhereItWants;
+    board.Then(Square(8));
+    Script script({9});
+    MovePersonsAmoeba(2, 3);
+    EXPECT_EQ(board.Messages.front(), "Choose a square for B3 to Move into:");
+}
+
 TEST_F(Choosing, WithoutTheFlagTheListIsTheCallers) {
     Put(2, 3, 13);
     SquareList list;

@@ -175,10 +175,17 @@ INSTANTIATE_TEST_SUITE_P(Typed, ReplayNumbers, ::testing::ValuesIn(ReplayRows), 
 TEST(ReplayTexts, AreTheShortestThatReadBack) {
     EXPECT_EQ(ReplayText(1), "1");
     EXPECT_EQ(ReplayText(0), "0");
+    EXPECT_EQ(ReplayText(-0.0F), "-0");
     EXPECT_EQ(ReplayText(-3.25F), "-3.25");
     EXPECT_EQ(ReplayText(0.1F), "0.1");
     EXPECT_EQ(ReplayText(43210.5F), "43210.5");
     EXPECT_EQ(ReplayText(16777216), "16777216");
+}
+
+TEST(ReplayTexts, MinusZeroIsReadAsItself) {
+    float number = 1;
+    EXPECT_TRUE(ParseReplayNumber("-0", number));
+    EXPECT_EQ(ReplayText(number), "-0");
 }
 
 RC_GTEST_PROP(ReplayTexts, ReadBackToTheSameSingle, ()) {

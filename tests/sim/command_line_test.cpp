@@ -76,6 +76,17 @@ TEST_F(CommandLineTest, OneTwoAndEightJobsGiveTheSameBytes) {
     }
 }
 
+TEST_F(CommandLineTest, MinusZeroIsAGameOfItsOwn) {
+    const auto csv = Shell("\\$SIM --games 2 --replay -0 --format csv 2>/dev/null").Text;
+    EXPECT_THAT(csv, ::testing::HasSubstr("\n-0,"));
+    EXPECT_THAT(csv, ::testing::HasSubstr("\n1,"));
+    const auto minus = Shell("\\$SIM --games 1 --replay -0 --format json 2>/dev/null").Text;
+    const auto zero = Shell("\\$SIM --games 1 --replay 0 --format json 2>/dev/null").Text;
+    EXPECT_THAT(minus, ::testing::StartsWith("{\"replay\":-0.0,"));
+    EXPECT_THAT(zero, ::testing::StartsWith("{\"replay\":0,"));
+    EXPECT_NE(minus.substr(minus.find("clans")), zero.substr(zero.find("clans"))) << "other dice";
+}
+
 TEST_F(CommandLineTest, EveryFormatTellsEveryGame) {
     const auto csv = Shell("\\$SIM --games 5 --format csv 2>/dev/null").Text;
     EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 6);

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "model/dice.h"
 #include "tests/support/game_fixture.h"
 
 namespace plasmos::testing {
@@ -67,6 +68,12 @@ TEST_F(OptionsTest, ReplayNumbersCountFromTheFirst) {
     const SimOptions options = Parse({"--replay", "0.5", "--games", "3"});
     EXPECT_EQ(ReplayOf(options, 0), 0.5F);
     EXPECT_EQ(ReplayOf(options, 2), 2.5F);
+}
+
+TEST_F(OptionsTest, MinusZeroIsAReplayNumberOfItsOwn) {
+    const SimOptions options = Parse({"--replay", "-0", "--games", "3"});
+    EXPECT_EQ(ReplayText(ReplayOf(options, 0)), "-0");
+    EXPECT_EQ(ReplayText(ReplayOf(options, 1)), "1");
 }
 
 struct RefusedRow {

@@ -122,6 +122,13 @@ void ScriptedBoard::ShowMessage(std::string_view text, int /*clan*/) {
     Messages.push_back(message_);
 }
 
+void ScriptedBoard::Pause(int units) {
+    Pauses.push_back(units);
+    if (OnPause) {
+        OnPause();
+    }
+}
+
 void ScriptedBoard::StartLog(std::string_view header) {
     LogLines.assign(1, std::string(header));
 }

@@ -104,7 +104,8 @@ public:
     std::vector<std::string> Phases;
     std::vector<std::string> Captions;
     std::vector<int> Pauses;  ///< units
-    std::string ReplayBox;    ///< what the person typed as the replay number
+    std::function<void()> OnPause;
+    std::string ReplayBox;  ///< what the person typed as the replay number
 
     bool WasAsked(QuestionKind kind) const;
     bool HasLogLine(const std::string& line) const;
@@ -116,7 +117,7 @@ public:
     void ShowPhase(std::string_view phase) override { Phases.emplace_back(phase); }
     void ShowCaption(std::string_view caption) override { Captions.emplace_back(caption); }
     std::string TakeReplayText() override { return ReplayBox; }
-    void Pause(int units) override { Pauses.push_back(units); }
+    void Pause(int units) override;
     void Open(Question& question) override;
     void Close(Question& question) override;
     void Wait() override;

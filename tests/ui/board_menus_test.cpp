@@ -9,6 +9,7 @@
 
 #include "rules/ask.h"
 #include "rules/division.h"
+#include "rules/environment.h"
 #include "rules/new_genes.h"
 #include "tests/ui/support/position.h"
 #include "ui/puddle_view.h"
@@ -296,22 +297,28 @@ void BoardMenusTest::driftGivesBackAtOnce() {
 
 void BoardMenusTest::uvLends_data() {
     QTest::addColumn<int>("turn");
+    QTest::addColumn<bool>("turned");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("cards to come: 12, 11, 10") << 7 << "11.0";
-    QTest::newRow("cards to come: 11, 10") << 8 << "10.5";
-    QTest::newRow("the last card") << 9 << "10.0";
-    QTest::newRow("no card to come: the current level") << 10 << "09.0";
+    QTest::newRow("cards to come: 12, 11, 10") << 8 << false << "11.0";
+    QTest::newRow("the card of this turn has been turned: 11, 10") << 8 << true << "10.5";
+    QTest::newRow("this turn's card lies there still: 11, 10") << 9 << false << "10.5";
+    QTest::newRow("the last card") << 10 << false << "10.0";
+    QTest::newRow("no card to come: the current level") << 10 << true << "09.0";
 }
 
 void BoardMenusTest::uvLends() {
     QFETCH(int, turn);
+    QFETCH(bool, turned);
     QFETCH(QString, shown);
     PositionScene scene;
-    game.Turn = turn;
-    game.UVLevel = 9;
     game.EnvDeck[8].UV = 12;
     game.EnvDeck[9].UV = 11;
     game.EnvDeck[10].UV = 10;
+    for (game.Turn = 1; game.Turn < turn || (game.Turn == turn && turned); ++game.Turn) {
+        EnvironmentPhase();
+    }
+    game.Turn = turn;
+    game.UVLevel = 9;
     PHASE(scene, scene.Hold(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), QStringLiteral("9"));
           scene.Release(scene.Find(UV()), Qt::RightButton); QCOMPARE(scene.Text(UV()), shown);
           QCOMPARE(ZyTimer(scene)->interval(), 3000); QVERIFY(ZyTimer(scene)->isActive()); ZyTimer(scene)->start(1);
@@ -321,7 +328,7 @@ void BoardMenusTest::uvLends() {
 void BoardMenusTest::oneLabelAtATime() {
     PositionScene scene;
     game.ReplayNo = 3;
-    game.Turn = 10;
+    game.Turn = game.TurnedCard = 10;
     PHASE(scene, scene.Hold(scene.Find(Drift()), Qt::RightButton); scene.Press(scene.Find(UV()), Qt::RightButton);
           QCOMPARE(scene.Text(Drift()), QStringLiteral("in place")); QCOMPARE(scene.Text(UV()), QStringLiteral("10.0"));
           ZyTimer(scene)->start(1); QTRY_COMPARE(scene.Text(UV()), QStringLiteral("10"));

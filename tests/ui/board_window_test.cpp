@@ -3,6 +3,7 @@
 // The board window's controls and what happens when they are used.
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
@@ -11,6 +12,7 @@
 #include <cstring>
 
 #include "model/genes.h"
+#include "model/narration.h"
 #include "model/platform.h"
 #include "model/presentation.h"
 #include "rules/ask.h"
@@ -51,6 +53,7 @@ private slots:
     void messageColours();
     void twoClansTwoColours();
     void anEarlierTextComesBack();
+    void aLineStandsUntilItCouldBeRead();
     void geneLists();
 
     void aClickThatNobodyWants();
@@ -204,6 +207,23 @@ void BoardWindowTest::anEarlierTextComesBack() {
     scene.ThenSquare({2, 6, 8, 12}, 6);
     PHASE(scene, Board().ShowMessage("Before", 3); QCOMPARE(ChooseSquare(3, 1, true), 6);
           QCOMPARE(scene.Text(QStringLiteral("msglab")), QStringLiteral("Before")));
+}
+
+void BoardWindowTest::aLineStandsUntilItCouldBeRead() {
+    PositionScene scene;
+    scene.Board().SetSpeed(1);
+    game.CurPlayer = 1;
+    QElapsedTimer time;
+    qint64 computers = 0;
+    qint64 persons = 0;
+    qint64 fast = 0;
+    PHASE(scene, Say("A1 eats 111 in 7"); time.start(); QTimer::singleShot(
+              200, [&] { QCOMPARE(scene.Text(QStringLiteral("msglab")), QStringLiteral("A1 eats 111 in 7")); });
+          Say("B1 eats 111 in 7"); computers = time.restart(); Concern(3); Say("B2 eats 111 in 7");
+          persons = time.restart(); game.FastMode = true; Say("B3 eats 111 in 7"); fast = time.elapsed(););
+    QVERIFY2(computers >= 4 * 75, QByteArray::number(computers));
+    QVERIFY2(persons >= 10 * 75, QByteArray::number(persons));
+    QVERIFY2(fast < 4 * 75, QByteArray::number(fast));
 }
 
 void BoardWindowTest::geneLists() {

@@ -258,7 +258,12 @@ void DialogsHungerTest::theAttackedPersonDefends() {
     scene.ThenStruggle();
     scene.ThenVictim("figure0");
     scene.ThenBox("Player 2: You are being attacked!");
-    scene.ThenYes("Player 2: would you like to pay 1BP for B4 to Defend itself against the attack?");
+    scene.Then(QuestionKind::YesNo, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("msglab")),
+                 QStringLiteral("C1 of Player 3 attacks B4 in 7 to eat it.\n"
+                                "Player 2: would you like to pay 1BP for B4 to Defend itself against the attack?"));
+        scene.Click(QStringLiteral("yesb"));
+    });
     PHASE(scene, FeedAmoeba(7, 3));
     QCOMPARE(SquareOf(2, 4), 0);
     QCOMPARE(game.BP[2], 0);

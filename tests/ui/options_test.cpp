@@ -19,6 +19,7 @@ private slots:
     void typedValuesStopAtTheBounds();
     void placesAndRemovesMarkers();
     void movesAMarker();
+    void aMarkerMovedOntoAnotherBecomesOneWithIt();
     void theDiagnosticLabel();
     void aLoweredSideTakesMarkersAlong();
     void markersThatMeetBecomeOne();
@@ -159,14 +160,27 @@ void OptionsTest::movesAMarker() {
     window.ClickPicture(13, Qt::RightButton);
     QCOMPARE(window.Border(13), "black");
     QCOMPARE(window.Border(7), "none");
-    window.ClickPicture(8, Qt::RightButton);
     window.ClickPicture(13, Qt::RightButton);
-    QCOMPARE(window.Border(8), "black");
+    window.ClickPicture(13, Qt::RightButton);
     QCOMPARE(window.Border(13), "black");
     window.Scene::Press(window.Picture(), Qt::RightButton, window.PlaceOf(13) + QPoint(19, 19));
     QCOMPARE(window.Border(13), "yellow");
     window.Press("cmdOK");
     QCOMPARE(window.Saved("board", "blocks"), std::string("13:8:"));
+}
+
+void OptionsTest::aMarkerMovedOntoAnotherBecomesOneWithIt() {
+    Preferences window({{"board", "blocks", "7:8:13:"}});
+    window.ClickPicture(8, Qt::RightButton);
+    window.ClickPicture(13, Qt::RightButton);
+    QCOMPARE(window.Values(), QStringLiteral("5x5 2"));
+    QCOMPARE(window.Border(8), "none");
+    QCOMPARE(window.Border(13), "black");
+    window.ClickPicture(8, Qt::RightButton);
+    QCOMPARE(window.Border(13), "black");
+    window.Press("cmdOK");
+    QCOMPARE(window.Saved("board", "blocks"), std::string("7:13:"));
+    QCOMPARE(window.Saved("board", "blockno"), std::string("2"));
 }
 
 void OptionsTest::theDiagnosticLabel() {

@@ -32,6 +32,15 @@ public:
             Note(Concat(name.toStdString(), " shows \"", shown.toStdString(), "\", not \"", expected, "\""));
         }
     }
+    /// The words of a question, alone or as new lines below what has been told.
+    void Asks(const QString& name, const std::string& question) {
+        const QString asked = u'\n' + ToQt(question);
+        const QString shown = u'\n' + scene_.Text(name);
+        if (!shown.endsWith(question.front() == '\n' ? ToQt(question) : asked)) {
+            Note(Concat(name.toStdString(), " shows \"", shown.toStdString(), "\", which does not ask \"", question,
+                        "\""));
+        }
+    }
     void Seen(const QString& name, bool expected) {
         if (scene_.Sees(name) != expected) {
             Note(Concat(name.toStdString(), expected ? " is hidden" : " is in sight"));
@@ -115,7 +124,7 @@ void CompareMessageLine(Comparison& see, const Question& question) {
     see.Answers(QStringLiteral("yesb"), yesNo, true);
     see.Answers(QStringLiteral("nob"), yesNo, true);
     if (yesNo || question.Kind == QuestionKind::Square) {
-        see.Text(QStringLiteral("msglab"), question.Text);
+        see.Asks(QStringLiteral("msglab"), question.Text);
         see.Seen(QStringLiteral("msglab"), true);
         see.Colours(QStringLiteral("msglab"), question.Clan);
     }

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/message_line.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/presentation.h"
+
+namespace plasmos {
+
+namespace {
+
+int UnitsFor(int clan) {
+    const bool person = clan >= 1 && clan <= game.NumPlayers && !game.Players[clan].IsComputer;
+    return person ? StatementPause : TellingPause;
+}
+
+void StartTime(int units) {
+    game.PauseOwed = game.MessageUnits = units;
+}
+
+bool LeavesMessage(std::string_view text) {
+    const std::string before = Board().Message();
+    return text.size() > before.size() && text[before.size()] == '\n' && text.substr(0, before.size()) == before;
+}
+
+void Replace(std::string_view text, int clan, int units) {
+    LetMessageBeRead();
+    Board().ShowMessage(text, clan);
+    StartTime(units);
+}
+
+}  // namespace
+
+void ShowStatement(std::string_view text, int clan) {
+    Replace(text, clan, UnitsFor(clan));
+}
+
+void AddStatement(std::string_view text, int clan) {
+    Board().ShowMessage(BelowMessage(text), clan);
+    StartTime(std::max(game.MessageUnits, UnitsFor(clan)));
+}
+
+void Concern(int clan) {
+    if (UnitsFor(clan) > game.MessageUnits) {
+        StartTime(UnitsFor(clan));
+    }
+}
+
+void ShowQuestionText(std::string_view text, int clan) {
+    if (LeavesMessage(text)) {
+        Board().ShowMessage(text.substr(text.front() == '\n' ? 1 : 0), clan);
+    } else {
+        Replace(text, clan, 0);
+    }
+}
+
+void PutBackMessage(const std::string& before, int clan) {
+    if (Board().Message() != before) {
+        Replace(before, clan, 0);
+    }
+}
+
+void ClearMessage() {
+    Replace({}, 0, 0);
+}
+
+std::string BelowMessage(std::string_view text) {
+    const std::string before = Board().Message();
+    return before.empty() ? std::string(text) : Concat(before, "\n", text);
+}
+
+void LetMessageBeRead() {
+    const int owed = std::exchange(game.PauseOwed, 0);
+    if (owed > 0 && !game.FastMode) {
+        Show(&Presentation::Pause, owed);
+    }
+}
+
+void TakePause(int units) {
+    if (game.Window != nullptr) {
+        game.Window->Pause(units);
+        game.PauseOwed = std::max(0, game.PauseOwed - units);
+    }
+}
+
+}  // namespace plasmos
