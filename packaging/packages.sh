@@ -31,6 +31,7 @@ ci       gcovr               line coverage
 ci       cppcheck            a second reader of the sources
 ci       xvfb                an X server without a screen, for the window tests
 ci       xauth               needed by xvfb-run
+ci       xdotool             moves its pointer and presses its keys
 ci       ccache              makes second builds quick
 wayland  qt6-wayland         a window where there is Wayland and no X server
 long     mingw-w64           builds the program for Windows

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "model/game_state.h"
+#include "ui/arrow_keys.h"
 #include "ui/palette.h"
 
 namespace plasmos {
@@ -53,6 +54,7 @@ QuestionCard::QuestionCard(QWidget* parent)
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     autoeatlab->setToolTip(QStringLiteral("This clan eats without asking"));
     autotenlab->setToolTip(QStringLiteral("This clan uses its tentacles without asking"));
+    (new ArrowKeys(this))->Take();
     AskYesNo(false);
     ShowClan(0);
     Recolour();

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/question_panel.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cstdlib>
 
 #include "model/presentation.h"
 #include "rules/ask.h"
@@ -13,6 +11,7 @@
 #include "rules/food_form.h"
 #include "rules/gene_form.h"
 #include "rules/victim_form.h"
+#include "ui/arrow_keys.h"
 #include "ui/choice_panels.h"
 #include "ui/food_panel.h"
 #include "ui/gene_panel.h"
@@ -61,7 +60,8 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
       message_(MakeText(this, "messagelab", 13)),
       scroll_(new ScrollBody(this)),
       body_(new QVBoxLayout(scroll_->Content())),
-      foot_(new QVBoxLayout) {
+      foot_(new QVBoxLayout),
+      arrows_(new ArrowKeys(this)) {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(SideMargin, 6, SideMargin, 12);
     outer->setSpacing(Spacing);
@@ -168,7 +168,7 @@ void QuestionPanel::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
-    if (MoveFocus(event->key())) {
+    if (arrows_->Move(event->key())) {
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -181,52 +181,22 @@ void QuestionPanel::keyPressEvent(QKeyEvent* event) {
     Card::keyPressEvent(event);
 }
 
-void QuestionPanel::TakeArrows() {
-    for (QWidget* control : findChildren<QWidget*>()) {
+void QuestionPanel::TakeControls() {
+    arrows_->Take();
+    for (QWidget* control : scroll_->Content()->findChildren<QWidget*>()) {
         if (control->focusPolicy() != Qt::NoFocus) {
             control->installEventFilter(this);
         }
     }
 }
 
-// An arrow key goes to the nearest control that way; where there is none the focus stays.
-bool QuestionPanel::MoveFocus(int key) {
-    const QPoint ways[] = {{-1, 0}, {0, -1}, {1, 0}, {0, 1}};
-    const QWidget* from = focusWidget();
-    if (key < Qt::Key_Left || key > Qt::Key_Down || from == nullptr || !isAncestorOf(from)) {
-        return false;
-    }
-    const QPoint way = ways[key - Qt::Key_Left];
-    const QPoint start = from->mapTo(this, from->rect().center());
-    QWidget* nearest = nullptr;
-    int least = 0;
-    for (QWidget* control : findChildren<QWidget*>()) {
-        const QPoint apart = control->mapTo(this, control->rect().center()) - start;
-        const int ahead = QPoint::dotProduct(apart, way);
-        const bool takes = control != from && control->isVisible() && control->isEnabled() &&
-                           (control->focusPolicy() & Qt::TabFocus) != 0;
-        const int distance = ahead + 3 * std::abs(QPoint::dotProduct(apart, QPoint(way.y(), way.x())));
-        if (takes && ahead > 2 && (nearest == nullptr || distance < least)) {
-            nearest = control;
-            least = distance;
-        }
-    }
-    if (nearest != nullptr) {
-        nearest->setFocus(Qt::TabFocusReason);
-    }
-    return true;
-}
-
+// What the keyboard gets to is scrolled into sight. What is pressed with the mouse stays under it until the
+// button is released.
 bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
     auto* control = qobject_cast<QWidget*>(watched);
-    // What is pressed with the mouse stays under it until the button is released.
     if (event->type() == QEvent::FocusIn && scroll_->Content()->isAncestorOf(control) &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) {
         scroll_->ensureWidgetVisible(control, 0, 4);
-    }
-    if (event->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(control) != nullptr &&
-        MoveFocus(static_cast<QKeyEvent*>(event)->key())) {
-        return true;
     }
     return Card::eventFilter(watched, event);
 }
@@ -252,7 +222,7 @@ std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
 std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
     auto panel = PanelFor(parent, question);
     if (panel) {
-        panel->TakeArrows();
+        panel->TakeControls();
     }
     return panel;
 }

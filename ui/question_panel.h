@@ -14,6 +14,7 @@
 
 namespace plasmos {
 
+class ArrowKeys;
 class ScrollBody;
 
 /// A dialog of the rules, shown in the strip beside the board. It shows what its question holds, hands
@@ -48,9 +49,9 @@ public:
     void ShowMessage(bool on);
     /// The least height at which the panel is of use, with its message line.
     int LeastHeight(int width) const;
-    /// From now on the arrow keys go from control to control and never out of the panel. Call it when
-    /// every control is there.
-    void TakeArrows();
+    /// From now on the arrow keys stay in the panel, and what has the focus is in sight. Call it when every
+    /// control is there.
+    void TakeControls();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -71,8 +72,6 @@ protected:
     int Clan() const { return clan_; }
 
 private:
-    bool MoveFocus(int key);
-
     const Question& question_;
     int clan_;
     bool retired_ = false;
@@ -82,6 +81,7 @@ private:
     ScrollBody* scroll_;
     QVBoxLayout* body_;
     QVBoxLayout* foot_;
+    ArrowKeys* arrows_;
 };
 
 /// Keeps double clicks and repeated keys from an answering control.

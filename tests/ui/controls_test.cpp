@@ -15,6 +15,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QWindow>
 
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
@@ -160,6 +161,31 @@ class Walk : public PositionScene {
 public:
     explicit Walk(QSet<QString>& pressed) : PositionScene(6), pressed_(pressed) { Crowd(); }
 
+    /// Presses arrow keys at the question, and answers it when none of them has led out of it.
+    void StepAbout(const Row& row) {
+        AnswerBy([this, &row](Question& question) {
+            if (question.Kind == QuestionKind::YesNo && row.Kind != question.Kind) {
+                Click(QStringLiteral("yesb"));
+                return;
+            }
+            const QWidget* part = PartOf(question);
+            QSet<QWidget*> visited;
+            for (int i = 0; i < 400 && question.Kind == row.Kind; ++i) {
+                constexpr Qt::Key arrows[] = {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Up, Qt::Key_Left};
+                QTest::keyClick(Board().windowHandle(), arrows[(i + i / 7 + i / 53) % 5]);
+                visited.insert(QApplication::focusWidget());
+                if (!part->isAncestorOf(QApplication::focusWidget())) {
+                    Fail(Concat("an arrow key leads out of \"", question.Text, "\""));
+                    return;
+                }
+            }
+            visited_ = std::max(visited_, visited.size());
+            Player().Answer(question);
+        });
+        RunPhase(row.Ask, __FILE__, __LINE__);
+    }
+    qsizetype Visited() const { return visited_; }
+
     void Ask(const Row& row) {
         AnswerBy([this, &row](Question& question) {
             if (question.Kind == row.Kind) {
@@ -244,6 +270,7 @@ private:
     }
 
     QSet<QString>& pressed_;
+    qsizetype visited_ = 0;
 };
 
 class ControlsTest : public QObject {
@@ -253,6 +280,8 @@ private slots:
     void theWindowFitsItsScreen();
     void questions_data();
     void questions();
+    void arrowKeysStayInADialog_data() { questions_data(); }
+    void arrowKeysStayInADialog();
     void theStart();
     void afterAGame();
     void menus();
@@ -288,6 +317,18 @@ void ControlsTest::questions() {
         Walk(pressed).Ask(Rows[row]);
     }
     QVERIFY(Rows[row].Kind == QuestionKind::Square || !pressed.isEmpty());
+}
+
+void ControlsTest::arrowKeysStayInADialog() {
+    QFETCH(int, row);
+    const Row& asked = Rows[row];
+    if (asked.Kind == QuestionKind::Square) {
+        return;  // there they choose the square
+    }
+    QSet<QString> pressed;
+    Walk walk(pressed);
+    walk.StepAbout(asked);
+    QVERIFY2(asked.Kind == QuestionKind::Box || walk.Visited() > 1, "the arrow keys lead nowhere");
 }
 
 void ControlsTest::theStart() {
