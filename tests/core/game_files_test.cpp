@@ -50,29 +50,6 @@ TEST_F(OnDisk, AFileIsReplacedWhole) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1) << "no draft stays behind";
 }
 
-TEST_F(OnDisk, WhatIsWrittenInAMissingFolderIsAnErrorThatNamesTheFile) {
-    try {
-        files.Append(MoveFile, "x\n");
-        FAIL();
-    } catch (const RuntimeError& error) {
-        EXPECT_TRUE(error.Number == 53 || error.Number == 76) << error.Number;
-        EXPECT_THAT(error.what(), HasSubstr("movefil.txt"));
-    }
-}
-
-TEST_F(OnDisk, AMissingFileIsNotFound) {
-    files.MakeFolder();
-    EXPECT_EQ(ErrorOf([this] { files.ReadLines(NamesFile, 10); }), 53);
-}
-
-TEST_F(OnDisk, AFolderIsNoFile) {
-    files.MakeFolder();
-    fs::create_directory(files.PathOf(MoveFile));
-    EXPECT_EQ(ErrorOf([this] { files.Append(MoveFile, "x"); }), 75);
-    EXPECT_EQ(ErrorOf([this] { files.Rewrite(MoveFile, "x"); }), 75);
-    EXPECT_EQ(ErrorOf([this] { files.ReadLines(MoveFile, 1); }), 75);
-}
-
 TEST_F(OnDisk, LinesAreReadWhateverTheirEnd) {
     files.MakeFolder();
     Lay(NamesFile, "1 - Oddr\r\n2 - Bruno\n\n3 - Guy");
