@@ -8,6 +8,7 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/platform.h"
+#include "model/process.h"
 #include "ui/end_signals.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
@@ -15,6 +16,7 @@
 
 int main(int argc, char** argv) {
     using namespace plasmos;
+    PrepareProcess();
     if (argc > 1) {
         std::fputs("plasmos takes no arguments\n", stderr);
         return 2;
