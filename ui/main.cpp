@@ -28,7 +28,10 @@ int main(int argc, char** argv) {
     game.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
     game.Settings = &settings;
-    const std::string fault = PrepareDataFolder();
+    std::string fault = PrepareDataFolder();
+    if (const auto refused = settings.Fault(); !refused.empty()) {
+        fault += (fault.empty() ? "" : "\n\n") + refused;
+    }
     UBoard board;
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
@@ -36,6 +39,7 @@ int main(int argc, char** argv) {
     const EndSignals endSignals([&board] { board.close(); });
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
+    notice.setTextFormat(Qt::PlainText);
     notice.setPalette(LookPalette());
     if (!fault.empty()) {
         notice.setModal(false);

@@ -14,6 +14,7 @@
 #include "model/trace.h"
 #include "tests/support/most_bytes.h"
 #include "tests/support/on_disk.h"
+#include "tests/support/terminal.h"
 
 namespace plasmos::testing {
 namespace {
@@ -91,6 +92,11 @@ void LayLinkToPipe(const std::string& path) {
     fs::create_symlink(Elsewhere(path), path);
 }
 
+void LayDevice(const std::string& path) {
+    static const Terminal terminal;
+    fs::create_symlink(terminal.Path(), path);
+}
+
 const PlaceRow PlaceRows[] = {
     {"nothing", [](const std::string&) {}, 53, 0, 0},
     {"a_file", [](const std::string& path) { std::ofstream(path) << "old\n"; }, 0, 0, 0},
@@ -98,9 +104,7 @@ const PlaceRow PlaceRows[] = {
     {"a_pipe", LayPipe, 75, 75, 75},
     {"a_link_to_a_pipe", LayLinkToPipe, 75, 75, 75},
     {"a_socket", LaySocket, 75, 75, 75},
-    {"the_null_device", [](const std::string& path) { fs::create_symlink("/dev/null", path); }, 75, 75, 75},
-    {"an_endless_device", [](const std::string& path) { fs::create_symlink("/dev/zero", path); }, 75, 75, 75},
-    {"a_full_device", [](const std::string& path) { fs::create_symlink("/dev/full", path); }, 75, 75, 75},
+    {"a_device", LayDevice, 75, 75, 75},
     {"a_link_to_a_file",
      [](const std::string& path) {
          std::ofstream(Elsewhere(path)) << "old\n";
