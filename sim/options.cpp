@@ -145,7 +145,9 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
 }
 
 float ReplayOf(const SimOptions& options, std::int64_t index) {
-    return static_cast<float>(static_cast<double>(options.FirstReplay) + static_cast<double>(index));
+    // Minus zero plus nothing would be zero, which is another game.
+    return index == 0 ? options.FirstReplay
+                      : static_cast<float>(static_cast<double>(options.FirstReplay) + static_cast<double>(index));
 }
 
 }  // namespace plasmos

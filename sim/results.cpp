@@ -23,7 +23,6 @@ std::string CsvRecord(const GameResult& result) {
 
 std::string JsonRecord(const GameResult& result) {
     nlohmann::ordered_json record;
-    record["replay"] = nlohmann::ordered_json::parse(ReplayText(result.Replay));
     record["clans"] = result.Clans;
     record["turns"] = result.Turns;
     record["winner"] = result.Winner;
@@ -35,7 +34,8 @@ std::string JsonRecord(const GameResult& result) {
                                      {"genes", entry.Genes},
                                      {"bp", entry.BP}});
     }
-    return record.dump() + "\n";
+    // The number is written as everywhere else: minus zero has its sign.
+    return Concat(R"({"replay":)", ReplayText(result.Replay), ",", record.dump().substr(1), "\n");
 }
 
 std::string CsvHeading() {

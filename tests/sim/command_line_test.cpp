@@ -44,6 +44,20 @@ TEST_F(CommandLineTest, EveryFormatTellsEveryGame) {
     EXPECT_EQ(games, 5);
 }
 
+TEST_F(CommandLineTest, MinusZeroIsANumberOfItsOwnInEveryFile) {
+    for (const std::string zero : {"-0", "0"}) {
+        const auto run = Concat("$SIM --games 2 --replay=", zero, " --clans 3 2>/dev/null");
+        EXPECT_THAT(Shell(run + " --format csv --journal all").Text, ::testing::HasSubstr("\n" + zero + ",3,"));
+        EXPECT_THAT(Read("all"), ::testing::StartsWith(R"({"t":"game","replay":)" + zero + ","));
+        EXPECT_THAT(Shell(run + " --format json").Text,
+                    ::testing::StartsWith(R"({"replay":)" + zero + R"(,"clans":3,)"));
+        EXPECT_EQ(Shell(Concat("$SIM --games 1 --replay ", zero, " --data data >/dev/null 2>&1")).ExitCode, 0);
+        EXPECT_THAT(Read("data/movefil.txt"), ::testing::HasSubstr("Game: " + zero + " "));
+    }
+    EXPECT_NE(Shell("$SIM --games 1 --replay -0 2>/dev/null").Text,
+              Shell("$SIM --games 1 --replay 0 2>/dev/null").Text);
+}
+
 TEST_F(CommandLineTest, TheTableCountsEverySeat) {
     const auto table = Shell("$SIM --games 50 --clans 4 2>/dev/null").Text;
     EXPECT_THAT(table, ::testing::StartsWith("games: 50\n"));
