@@ -2,10 +2,13 @@
 #include "model/process.h"
 
 #include <csignal>
+#include <cstdlib>
 #ifndef _WIN32
 #include <fcntl.h>
 #include <unistd.h>
 #endif
+
+#include "model/platform.h"
 
 namespace plasmos {
 
@@ -48,6 +51,7 @@ void PrepareProcess() {
             static_cast<void>(opened);
         }
     }
+    ::setenv("HOME", HomeFolder().c_str(), 1);
 #endif
 }
 

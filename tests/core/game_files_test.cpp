@@ -2,6 +2,8 @@
 #include "model/game_files.h"
 
 #include <gmock/gmock.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -149,6 +151,28 @@ TEST(Platform, TheDataFolderLiesInTheDataHome) {
     }
     const Variable data("XDG_DATA_HOME", nullptr);
     EXPECT_EQ(DataFolderPath(), "/home/otto/.local/share/QX/Plasmo6");
+}
+
+TEST(Platform, ATildeInTheChosenFolderIsTheHomeFolder) {
+    const Variable home("HOME", "/home/otto");
+    for (const auto& [chosen, folder] :
+         {std::pair{"~/games", "/home/otto/games"}, std::pair{"~", "/home/otto"}, std::pair{"~/", "/home/otto/"},
+          std::pair{"/a/~/b", "/a/~/b"}, std::pair{"~else/x", "~else/x"}, std::pair{"x~/y", "x~/y"}}) {
+        const Variable variable("PLASMOS_DATA", chosen);
+        EXPECT_EQ(DataFolderPath(), folder);
+    }
+}
+
+TEST(Platform, WithoutAHomeInTheEnvironmentTheAccountHasOne) {
+    const Variable data("XDG_DATA_HOME", nullptr);
+    const std::string account = getpwuid(getuid())->pw_dir;
+    for (const char* home : {static_cast<const char*>(nullptr), ""}) {
+        const Variable variable("HOME", home);
+        const Variable chosen("PLASMOS_DATA", nullptr);
+        EXPECT_EQ(DataFolderPath(), account + "/.local/share/QX/Plasmo6");
+        const Variable tilde("PLASMOS_DATA", "~/x");
+        EXPECT_EQ(DataFolderPath(), account + "/x");
+    }
 }
 
 TEST(Platform, DateAndTimeAreWrittenYearFirst) {
