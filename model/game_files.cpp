@@ -54,14 +54,13 @@ std::string_view ErrorName(int number) {
     }
 }
 
-[[noreturn]] void RaiseFileError(const std::string& path, int reason) {
-    const int number = ErrorNumber(reason, path);
+[[noreturn]] void RaiseFileError(int number, const std::string& path, int reason) {
     throw RuntimeError(number, Concat(ErrorName(number), ": ", path, " (", ReasonText(reason), ")"));
 }
 
 void RaiseUnlessDone(const std::string& path, int reason) {
     if (reason != 0) {
-        RaiseFileError(path, reason);
+        RaiseFileError(ErrorNumber(reason, path), path, reason);
     }
 }
 
@@ -87,10 +86,12 @@ void DataFolder::MakeFolder() {
         return;
     }
     if (fs::exists(folder_, error)) {
-        RaiseFileError(folder_, EEXIST);
+        RaiseFileError(75, folder_, EEXIST);
     }
     if (!fs::create_directories(folder_, error) && error) {
-        RaiseFileError(folder_, error.value());
+        const int reason = error.value();
+        const bool leadsNowhere = reason == ENOENT || reason == EEXIST;
+        RaiseFileError(leadsNowhere ? 76 : ErrorNumber(reason, folder_), folder_, leadsNowhere ? ENOENT : reason);
     }
 }
 

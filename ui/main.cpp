@@ -28,6 +28,7 @@ int main(int argc, char** argv) {
     game.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
     game.Settings = &settings;
+    settings.RemoveAbandonedDrafts();
     std::string fault = PrepareDataFolder();
     if (const auto refused = settings.Fault(); !refused.empty()) {
         fault += (fault.empty() ? "" : "\n\n") + refused;

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt_settings.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
 #include <cerrno>
+#include <utility>
 
 #include "model/disk_file.h"
 #include "model/text.h"
@@ -35,7 +39,7 @@ QString OwnFile() {
 
 QtSettings::QtSettings() : file_(OwnFile()) {}
 
-QtSettings::QtSettings(const QString& iniFile) : file_(iniFile) {}
+QtSettings::QtSettings(QString iniFile) : file_(std::move(iniFile)) {}
 
 std::string QtSettings::Where() const {
     return file_.isEmpty() ? "the user's settings" : file_.toStdString();
@@ -55,6 +59,25 @@ std::string QtSettings::Fault() const {
     }
     const bool small = QFileInfo(file_).size() <= MostBytes;
     return small ? std::string() : Concat("The settings are not used: ", Where(), " (larger than settings can be)");
+}
+
+// Whoever saves has the lock; drafts that lie there while nobody has it are nobody's.
+void QtSettings::RemoveAbandonedDrafts() const {
+    if (file_.isEmpty() || !Fault().empty()) {
+        return;
+    }
+    const QFileInfo store(file_);
+    QDir folder = store.dir();
+    const QString drafts = store.fileName() + QStringLiteral(".??????");
+    const QRegularExpression letters(QStringLiteral("\\.[A-Za-z]{6}$"));
+    const QStringList found = folder.entryList({drafts}, QDir::Files).filter(letters);
+    QLockFile lock(file_ + QStringLiteral(".lock"));
+    if (found.isEmpty() || !lock.tryLock(0)) {
+        return;
+    }
+    for (const QString& draft : found) {
+        folder.remove(draft);
+    }
 }
 
 std::unique_ptr<QSettings> QtSettings::Open() const {

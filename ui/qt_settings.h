@@ -15,7 +15,7 @@ namespace plasmos {
 class QtSettings : public SettingsStore {
 public:
     QtSettings();
-    explicit QtSettings(const QString& iniFile);
+    explicit QtSettings(QString iniFile);
 
     std::string Get(std::string_view section, std::string_view key, std::string_view fallback) const override;
     bool Save(std::string_view section, std::string_view key, std::string_view value) override;
@@ -25,6 +25,9 @@ public:
     /// be), with its path; empty: it is used. While it is left alone everything counts as missing and
     /// nothing is saved.
     std::string Fault() const;
+
+    /// Removes what programs that were killed in the middle of a save have left beside the store.
+    void RemoveAbandonedDrafts() const;
 
 private:
     std::unique_ptr<QSettings> Open() const;

@@ -35,6 +35,15 @@ TEST_F(OnDisk, AFileInThePlaceOfTheFolderIsAnError) {
     EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 75);
 }
 
+TEST_F(OnDisk, AFolderThatCanBeMadeNowhereIsAPathNotFound) {
+    fs::create_symlink(Home() + "/no/where", Home() + "/QX");
+    EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 76);
+    fs::remove(Home() + "/QX");
+    std::ofstream(Home() + "/QX") << "in the way";
+    EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 76);
+    EXPECT_EQ(ErrorOf([] { DataFolder("/proc/no/where").MakeFolder(); }), 76);
+}
+
 TEST_F(OnDisk, LinesAreAppendedWithCrLf) {
     files.MakeFolder();
     EXPECT_FALSE(files.Exists(MoveFile));

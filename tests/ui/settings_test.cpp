@@ -3,6 +3,7 @@
 // Settings as they may be found: missing, garbage, contradictory, not to be saved.
 
 #include <QFile>
+#include <QLockFile>
 #include <QMessageBox>
 #include <QProcess>
 #include <thread>
@@ -43,6 +44,7 @@ private slots:
     void aDamagedLine_data();
     void aDamagedLine();
     void aSaveThatFailed();
+    void draftsOfAKilledProgram();
     void noFile_data();
     void noFile();
 };
@@ -394,6 +396,27 @@ void SettingsTest::aSaveThatFailed() {
     const QtSettings copy(ini + QStringLiteral(".copy"));
     QCOMPARE(copy.Get("board", "rows", "none"), std::string("6"));
     QCOMPARE(copy.Get("board", "cols", "none"), std::string("4"));
+}
+
+void SettingsTest::draftsOfAKilledProgram() {
+    const QTemporaryDir folder;
+    const QString ini = folder.path() + QStringLiteral("/settings.ini");
+    const auto lay = [&ini](const char* end) {
+        QFile file(ini + QString::fromLatin1(end));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    };
+    for (const char* end : {"", ".aBcDeF", ".backup", ".QwErTy", ".123456", ".new", ".bak"}) {
+        lay(end);
+    }
+    const QtSettings store(ini);
+    QLockFile lock(ini + QStringLiteral(".lock"));
+    QVERIFY(lock.lock());
+    store.RemoveAbandonedDrafts();
+    QVERIFY2(QFile::exists(ini + QStringLiteral(".aBcDeF")), "somebody saves just now");
+    lock.unlock();
+    store.RemoveAbandonedDrafts();
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files, QDir::Name).join(QLatin1Char(' ')),
+             QStringLiteral("settings.ini settings.ini.123456 settings.ini.bak settings.ini.new"));
 }
 
 void SettingsTest::noFile_data() {

@@ -19,6 +19,7 @@ private slots:
     void aTerminalThatGoes();
     void aTerminalThatMayGo();
     void closedStreams();
+    void picturesOnAFullOutput();
 };
 
 namespace {
@@ -97,6 +98,16 @@ void SurroundingsTest::closedStreams() {
         QCOMPARE(number.symLinkTarget(), QStringLiteral("/dev/null"));
     }
     program.Terminate();
+}
+
+void SurroundingsTest::picturesOnAFullOutput() {
+    const QTemporaryDir home(FolderTemplate());
+    Program program(home.path());
+    program.Start(QStringLiteral("/bin/bash"),
+                  {QStringLiteral("-c"), QStringLiteral("exec $0 --demo $1/pictures >/dev/full"),
+                   QStringLiteral(PLASMOS_SHOT), home.path()});
+    program.Ends(1);
+    QVERIFY(QFile::exists(home.path() + QStringLiteral("/pictures/last.png")));
 }
 
 }  // namespace plasmos::testing
