@@ -6,7 +6,6 @@
 #ifdef _WIN32
 #include <io.h>
 #else
-#include <sys/file.h>
 #include <unistd.h>
 #endif
 
@@ -226,80 +225,5 @@ int WhyNotWritable(const std::string& path) {
     const DiskFile file(Open(path, O_WRONLY));
     return file.IsOpen() ? 0 : LastReason();
 }
-
-std::string WithoutLinks(const std::string& path) {
-    constexpr int mostLinks = 40;
-    std::error_code error;
-    fs::path place = fs::absolute(path, error);
-    for (int links = 0; links < mostLinks && fs::is_symlink(fs::symlink_status(place, error)); ++links) {
-        const fs::path target = fs::read_symlink(place, error);
-        if (error) {
-            break;
-        }
-        place = place.parent_path() / target;
-    }
-    const fs::path folder = fs::canonical(place.parent_path(), error);
-    return error ? place.string() : (folder / place.filename()).string();
-}
-
-#ifdef _WIN32
-
-FileIdentity IdentityOf(const std::string&) {
-    return {};
-}
-FileIdentity IdentityOf(const DiskFile&) {
-    return {};
-}
-bool ClaimDraft(const DiskFile&) {
-    return true;
-}
-// The system itself does not remove a file that a program has open.
-void RemoveUnclaimed(const std::string& draft) {
-    std::error_code error;
-    fs::remove(draft, error);
-}
-
-#else
-
-namespace {
-
-FileIdentity IdentityFrom(bool known, const struct stat& status, bool terminal) {
-    return {known, S_ISCHR(status.st_mode) && !terminal, status.st_dev, status.st_ino};
-}
-
-/// 0: the file is this program's alone now.
-int Lock(const DiskFile& file) {
-    return ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0 ? 0 : LastReason();
-}
-
-}  // namespace
-
-FileIdentity IdentityOf(const std::string& path) {
-    struct stat status {};
-    const bool known = ::stat(path.c_str(), &status) == 0;
-    return IdentityFrom(known, status, false);
-}
-
-FileIdentity IdentityOf(const DiskFile& file) {
-    struct stat status {};
-    const bool known = ::fstat(file.Number(), &status) == 0;
-    return IdentityFrom(known, status, ::isatty(file.Number()) != 0);
-}
-
-bool ClaimDraft(const DiskFile& draft) {
-    struct stat status {};
-    return Lock(draft) != EWOULDBLOCK && ::fstat(draft.Number(), &status) == 0 && status.st_nlink > 0;
-}
-
-void RemoveUnclaimed(const std::string& draft) {
-    int reason = 0;
-    const DiskFile file = OpenDiskFile(draft, OpenFor::Reading, reason);
-    if (file.IsOpen() && Lock(file) == 0) {
-        std::error_code error;
-        fs::remove(draft, error);
-    }
-}
-
-#endif
 
 }  // namespace plasmos

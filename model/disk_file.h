@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -49,28 +48,5 @@ DiskFile OpenDiskFile(const std::string& path, OpenFor use, int& reason);
 
 /// Why an existing file may not be written, by anybody's rights or by its own marks; 0: it may, or is missing.
 int WhyNotWritable(const std::string& path);
-
-/// Where a path leads when its links are followed, whether anything is there or not; the folder as it is
-/// known without links where it is there.
-std::string WithoutLinks(const std::string& path);
-
-/// What a file is known by, whatever its names.
-struct FileIdentity {
-    bool Known = false;         ///< false: there is none
-    bool KeepsNothing = false;  ///< a device that is no terminal: what is written to it twice is not mixed
-    std::uint64_t Disk = 0;
-    std::uint64_t Number = 0;
-
-    bool IsSameAs(const FileIdentity& other) const {
-        return Known && other.Known && !KeepsNothing && Disk == other.Disk && Number == other.Number;
-    }
-};
-FileIdentity IdentityOf(const std::string& path);
-FileIdentity IdentityOf(const DiskFile& file);
-
-/// Marks an open draft as this program's as long as it lives. False: it is another's, or gone.
-bool ClaimDraft(const DiskFile& draft);
-/// Removes a draft that no living program claims.
-void RemoveUnclaimed(const std::string& draft);
 
 }  // namespace plasmos

@@ -8,6 +8,7 @@
 #include "model/disk_file.h"
 #include "model/encoding.h"
 #include "model/file_draft.h"
+#include "model/file_place.h"
 #include "model/line_collector.h"
 #include "model/runtime_error.h"
 #include "model/text.h"

@@ -8,6 +8,7 @@
 
 #include "model/disk_stream.h"
 #include "model/file_draft.h"
+#include "model/file_place.h"
 
 namespace plasmos {
 
