@@ -93,8 +93,7 @@ bool DiskStream::Is(const std::string& path) {
     std::error_code error;
     switch (fs::status(path, error).type()) {
         case fs::file_type::fifo:
-        case fs::file_type::character:
-        case fs::file_type::socket: return true;
+        case fs::file_type::character: return true;
         default: return OpenNumberOf(path) >= 0;
     }
 }
@@ -113,10 +112,15 @@ int DiskStream::Open(const std::string& path) {
     if (const int number = OpenNumberOf(path); number >= 0) {
         return TakeNumber(number);
     }
+    std::error_code error;
+    const bool waits = fs::is_fifo(path, error);
     for (;;) {
         file_ = DiskFile(::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-        if (file_.IsOpen() || (errno != ENXIO && errno != EINTR)) {
-            return file_.IsOpen() ? 0 : errno;
+        if (file_.IsOpen()) {
+            return 0;
+        }
+        if (errno != EINTR && (errno != ENXIO || !waits)) {
+            return errno;
         }
         if (stop_()) {
             return EINTR;

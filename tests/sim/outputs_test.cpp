@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where results and journals go: files, links, pipes, devices, and what must not be touched.
 #include <gmock/gmock.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include "tests/sim/command_line.h"
 
@@ -82,6 +85,10 @@ const CommandRow RefusedRows[] = {
     {"standard_output_that_is_closed", "$SIM --games 2 2>&1 >&-", "standard output cannot be written: Bad file"},
     {"standard_output_that_is_closed_by_its_name", "$SIM --games 2 --output /dev/stdout 2>&1 >&-",
      "/dev/stdout cannot be written: Bad file"},
+    {"a_terminal_that_is_not_there", "setsid $SIM --games 2 --output /dev/tty 2>&1 >/dev/null",
+     "/dev/tty cannot be written: No such device"},
+    {"a_number_that_is_not_open", "$SIM --games 2 --output /dev/fd/77 2>&1 >/dev/null",
+     "/dev/fd/77 cannot be written: Bad file"},
     {"the_same_name_twice", "$SIM --games 2 --output new --journal new 2>&1 >/dev/null", std::string(OwnPlace)},
     {"the_same_name_in_other_words", "$SIM --games 2 --output new --journal folder/../new 2>&1 >/dev/null",
      std::string(OwnPlace)},
@@ -114,6 +121,20 @@ const CommandRow FullRows[] = {
     {"games_as_json", "--games 5 --format json", ""},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, FullOutput, ::testing::ValuesIn(FullRows), CommandName());
+
+TEST_F(CommandLineTest, ASocketIsNoPlaceForResults) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const auto path = (folder_ / "socket").string();
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int listening = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(listening, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    const auto ran = Shell("$SIM --games 2 --output socket 2>&1 >/dev/null");
+    close(listening);
+    EXPECT_EQ(ran.ExitCode, 2);
+    EXPECT_EQ(ran.Text, "plasmos-sim: socket cannot be written: a pipe or a device is in its place\n");
+    EXPECT_THAT(Names(), UnorderedElementsAre("socket"));
+}
 
 TEST_F(CommandLineTest, TwoRunsAtOnceLeaveOneWholeResult) {
     const auto one = Shell("$SIM --games 300 --format csv 2>/dev/null").Text;
