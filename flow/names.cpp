@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/dice.h"
+#include "model/encoding.h"
 #include "model/game_files.h"
 #include "model/strings.h"
 
@@ -74,14 +75,15 @@ void NameFromFile() {
     if (!game.Files->Exists(NamesFile)) {
         WriteDefaultNames();
     }
-    const auto lines = game.Files->ReadLines(NamesFile, MostLines);
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        std::vector<std::string_view> names;
-        for (const auto& line : lines) {
-            if (const NameLine entry = ParseNameLine(line); entry.Clan == clan) {
-                names.push_back(entry.Name);
-            }
+    std::vector<std::string> namesOf[MaxClans + 1];
+    for (const auto& line : game.Files->ReadLines(NamesFile, MostLines)) {
+        const NameLine entry = ParseNameLine(line);
+        if (const auto name = OneLine(entry.Name); !Trim(name).empty()) {
+            namesOf[entry.Clan].emplace_back(Trim(name));
         }
+    }
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        std::vector<std::string_view> names(namesOf[clan].begin(), namesOf[clan].end());
         NameClan(clan, names.data(), static_cast<int>(names.size()));
     }
 }

@@ -74,6 +74,16 @@ char FileByte(char32_t character) {
     return '?';
 }
 
+bool IsControl(char32_t character) {
+    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
+/// Line ends that are no control characters of old, and marks that turn the direction of all that follows.
+bool BreaksOrTurns(char32_t character) {
+    return character == 0x85 || character == 0x61C || character == 0x200E || character == 0x200F ||
+           (character >= 0x2028 && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+}
+
 }  // namespace
 
 std::string ToFileBytes(std::string_view text) {
@@ -113,13 +123,23 @@ std::string FromFileBytes(std::string_view bytes) {
     return text;
 }
 
+std::string OneLine(std::string_view text) {
+    std::string line;
+    while (!text.empty()) {
+        const char32_t character = NextCharacter(text);
+        if (character != Broken) {
+            AppendUtf8(line, IsControl(character) || BreaksOrTurns(character) ? U' ' : character);
+        }
+    }
+    return line;
+}
+
 std::string FirstCharacters(std::string_view text, int most) {
     std::string kept;
     for (int count = 0; count < most && !text.empty();) {
         const char32_t character = NextCharacter(text);
-        const bool control = character < 0x20 || (character >= 0x7F && character < 0xA0);
-        if (character != Broken && !control) {
-            AppendUtf8(kept, character);
+        if (character != Broken && (!IsControl(character) || BreaksOrTurns(character))) {
+            AppendUtf8(kept, BreaksOrTurns(character) ? U' ' : character);
             ++count;
         }
     }

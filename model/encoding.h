@@ -16,7 +16,12 @@ std::string FromFileBytes(std::string_view bytes);
 
 bool IsValidUtf8(std::string_view bytes);
 
-/// The first characters of a UTF-8 text, at most `most`, without control characters.
+/// A UTF-8 text as a part of one line: control characters, line and paragraph separators and what turns
+/// the direction of writing become blanks.
+std::string OneLine(std::string_view text);
+
+/// The first characters of a UTF-8 text, at most `most`, without control characters; separators and what
+/// turns the direction become blanks as in OneLine.
 std::string FirstCharacters(std::string_view text, int most);
 
 }  // namespace plasmos

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/game_files.h"
 
-#include <atomic>
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <memory>
 #include <system_error>
 
+#include "model/disk_file.h"
 #include "model/encoding.h"
+#include "model/file_draft.h"
+#include "model/file_place.h"
 #include "model/line_collector.h"
-#include "model/platform.h"
 #include "model/runtime_error.h"
 #include "model/text.h"
 
@@ -21,16 +19,23 @@ namespace fs = std::filesystem;
 
 namespace {
 
-int ErrorNumber(int systemError) {
-    switch (systemError) {
-        case ENOENT: return 53;
+int ErrorNumber(int reason, const std::string& path) {
+    switch (reason) {
+        case ENOENT: {
+            std::error_code error;
+            return fs::is_directory(fs::path(WithoutLinks(path)).parent_path(), error) ? 53 : 76;
+        }
         case ENOTDIR: return 76;
         case EACCES:
         case EPERM:
         case EROFS: return 70;
         case EISDIR:
-        case EEXIST: return 75;
+        case EEXIST:
+        case ELOOP:
+        case ENAMETOOLONG:
+        case NotAFile: return 75;
         case ENOSPC:
+        case EFBIG:
 #ifdef EDQUOT
         case EDQUOT:
 #endif
@@ -50,43 +55,21 @@ std::string_view ErrorName(int number) {
     }
 }
 
-[[noreturn]] void RaiseFileError(const std::string& path, int systemError) {
-    const int number = ErrorNumber(systemError);
-    throw RuntimeError(number, Concat(ErrorName(number), ": ", path, " (",
-                                      std::generic_category().message(systemError == 0 ? EIO : systemError), ")"));
+[[noreturn]] void RaiseFileError(int number, const std::string& path, int reason) {
+    throw RuntimeError(number, Concat(ErrorName(number), ": ", path, " (", ReasonText(reason), ")"));
 }
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-/// Opens a file; an error names it as the person knows it.
-File OpenFile(const std::string& path, const char* mode, const std::string& knownAs) {
-    errno = 0;
-    File file(std::fopen(path.c_str(), mode));
-    if (!file) {
-        RaiseFileError(knownAs, errno);
+void RaiseUnlessDone(const std::string& path, int reason) {
+    if (reason != 0) {
+        RaiseFileError(ErrorNumber(reason, path), path, reason);
     }
+}
+
+DiskFile OpenFile(const std::string& path, OpenFor use) {
+    int reason = 0;
+    DiskFile file = OpenDiskFile(path, use, reason);
+    RaiseUnlessDone(path, reason);
     return file;
-}
-
-/// A name that no other writer uses, be it another program: what is written here is renamed when it is
-/// whole.
-std::string DraftName(const std::string& path) {
-    static std::atomic<unsigned> drafts = 0;
-    return Concat(path, ".", ProcessNumber(), "-", static_cast<int>(++drafts), ".new");
-}
-
-void WriteAll(File file, const std::string& path, std::string_view bytes) {
-    errno = 0;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    const bool flushed = std::fflush(file.get()) == 0;
-    const int reason = errno;
-    const bool closed = std::fclose(file.release()) == 0;
-    if (!written || !flushed || !closed) {
-        RaiseFileError(path, written && flushed ? errno : reason);
-    }
 }
 
 }  // namespace
@@ -98,13 +81,18 @@ std::string DataFolder::PathOf(std::string_view name) const {
 void DataFolder::MakeFolder() {
     std::error_code error;
     if (fs::is_directory(folder_, error)) {
+        for (const auto name : {NamesFile, MoveFile, OptionsFile}) {
+            RemoveAbandonedDrafts(PathOf(name));
+        }
         return;
     }
     if (fs::exists(folder_, error)) {
-        RaiseFileError(folder_, EEXIST);
+        RaiseFileError(75, folder_, EEXIST);
     }
     if (!fs::create_directories(folder_, error) && error) {
-        RaiseFileError(folder_, error.value());
+        const int reason = error.value();
+        const bool leadsNowhere = reason == ENOENT || reason == EEXIST;
+        RaiseFileError(leadsNowhere ? 76 : ErrorNumber(reason, folder_), folder_, leadsNowhere ? ENOENT : reason);
     }
 }
 
@@ -115,48 +103,25 @@ bool DataFolder::Exists(std::string_view name) const {
 
 void DataFolder::Append(std::string_view name, std::string_view text) {
     const auto path = PathOf(name);
-    WriteAll(OpenFile(path, "ab", path), path, ToFileBytes(text));
+    RaiseUnlessDone(path, OpenFile(path, OpenFor::Appending).Append(ToFileBytes(text)));
 }
 
 void DataFolder::Rewrite(std::string_view name, std::string_view text) {
     const auto path = PathOf(name);
-    const auto draft = DraftName(path);
-    std::error_code error;
-    if (fs::is_directory(path, error)) {
-        RaiseFileError(path, EISDIR);
-    }
-    try {
-        WriteAll(OpenFile(draft, "wb", path), path, ToFileBytes(text));
-        fs::rename(draft, path, error);
-    } catch (const RuntimeError&) {
-        fs::remove(draft, error);
-        throw;
-    }
-    if (error) {
-        const int reason = error.value();
-        fs::remove(draft, error);
-        RaiseFileError(path, reason);
-    }
+    FileDraft draft;
+    RaiseUnlessDone(path, draft.Open(path));
+    RaiseUnlessDone(path, draft.Write(ToFileBytes(text)));
+    RaiseUnlessDone(path, draft.Commit());
 }
 
 std::vector<std::string> DataFolder::ReadLines(std::string_view name, int most) const {
     const auto path = PathOf(name);
-    std::error_code error;
-    if (fs::is_directory(path, error)) {
-        RaiseFileError(path, EISDIR);
-    }
-    const File file = OpenFile(path, "rb", path);
+    const DiskFile file = OpenFile(path, OpenFor::Reading);
     LineCollector lines(most);
     char bytes[16384];
-    while (!lines.Full()) {
-        const auto count = std::fread(bytes, 1, sizeof bytes, file.get());
+    for (std::size_t count = 1; count > 0 && !lines.Full();) {
+        RaiseUnlessDone(path, file.Read(bytes, sizeof bytes, count));
         lines.Take({bytes, count});
-        if (count < sizeof bytes) {
-            if (std::ferror(file.get()) != 0) {
-                RaiseFileError(path, errno);
-            }
-            break;
-        }
     }
     return lines.Lines();
 }

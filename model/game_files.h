@@ -15,17 +15,20 @@ inline constexpr std::string_view OptionsFile = "Opts.txt";
 
 /// The files of the game by their plain names. Texts are UTF-8 with "\n" in the program and
 /// Windows-1252 with CR LF on disk. Every operation opens, works and closes; one that fails raises a
-/// RuntimeError whose description names the file and the reason (53, 57, 61, 70, 75 or 76).
+/// RuntimeError whose description names the file and the reason: 53 the folder is there and the file is
+/// not, 57, 61, 70, 75 (a folder, a pipe or a device in the file's place, too; none is waited for), 76 a
+/// folder of the path is missing.
 class GameFiles {
 public:
     virtual ~GameFiles() = default;
 
     /// The full path of a file, or of the folder for an empty name; for messages.
     virtual std::string PathOf(std::string_view name) const = 0;
-    /// Makes sure that the folder is there.
+    /// Makes sure that the folder is there, without the half-written files of programs that were killed.
     virtual void MakeFolder() = 0;
     virtual bool Exists(std::string_view name) const = 0;
-    /// Adds text at the end of a file, which is made when it is missing.
+    /// Adds text at the end of a file, which is made when it is missing. All of it or, when this fails,
+    /// none of it.
     virtual void Append(std::string_view name, std::string_view text) = 0;
     /// Replaces a file whole; the old one stays when this fails.
     virtual void Rewrite(std::string_view name, std::string_view text) = 0;

@@ -4,6 +4,7 @@
 #ifdef _WIN32
 #include <process.h>
 #else
+#include <pwd.h>
 #include <unistd.h>
 #endif
 
@@ -33,9 +34,22 @@ std::string Environment(const char* name) {
 
 }  // namespace
 
+std::string HomeFolder() {
+    if (auto home = Environment("HOME"); !home.empty()) {
+        return home;
+    }
+#ifdef _WIN32
+    return Environment("USERPROFILE");
+#else
+    const passwd* account = ::getpwuid(::getuid());
+    return account != nullptr && account->pw_dir != nullptr ? account->pw_dir : "";
+#endif
+}
+
 std::string DataFolderPath() {
     if (auto chosen = Environment("PLASMOS_DATA"); !chosen.empty()) {
-        return chosen;
+        const bool atHome = chosen == "~" || chosen.substr(0, 2) == "~/";
+        return atHome ? HomeFolder() + chosen.substr(1) : chosen;
     }
 #ifdef _WIN32
     return "C:\\QX\\Plasmo6";
@@ -43,7 +57,7 @@ std::string DataFolderPath() {
     if (const auto home = Environment("XDG_DATA_HOME"); !home.empty() && home.front() == '/') {
         return home + "/QX/Plasmo6";
     }
-    return Environment("HOME") + "/.local/share/QX/Plasmo6";
+    return HomeFolder() + "/.local/share/QX/Plasmo6";
 #endif
 }
 

@@ -5,8 +5,11 @@
 
 namespace plasmos {
 
-/// The game's data folder: what PLASMOS_DATA names, else C:\QX\Plasmo6 on Windows and QX/Plasmo6
-/// under the user's data home elsewhere (XDG_DATA_HOME, or ~/.local/share).
+/// The user's home folder: what HOME names, else the account's.
+std::string HomeFolder();
+
+/// The game's data folder: what PLASMOS_DATA names ("~/" in it is the home folder), else C:\QX\Plasmo6 on Windows and
+/// QX/Plasmo6 under the user's data home elsewhere (XDG_DATA_HOME, or ~/.local/share).
 std::string DataFolderPath();
 
 /// Local date and time, "YYYY-MM-DD HH:MM:SS".

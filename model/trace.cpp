@@ -64,16 +64,17 @@ std::string ErrorRecord(const RuntimeError& error, int clan, int amoeba) {
 }
 
 void AppendErrorRecord(const RuntimeError& error, int clan, int amoeba) {
-    const auto record = ErrorRecord(error, clan, amoeba);
+    std::string record;
     try {
+        record = ErrorRecord(error, clan, amoeba);
         if (TracesAreKept()) {
-            game.Files->Append(ErrorFile, record);
+            AppendWithPatience(ErrorFile, record);
             return;
         }
-    } catch (const RuntimeError& refused) {
-        std::fprintf(stderr, "%s\n", refused.what());
+    } catch (const std::exception& refused) {
+        std::fprintf(stderr, "%s: %s\n", ErrorFile.data(), refused.what());
     }
-    std::fputs(record.c_str(), stderr);
+    std::fputs(record.empty() ? error.what() : record.c_str(), stderr);
 }
 
 void WriteErrorRecord(const RuntimeError& error, int clan, int amoeba) {

@@ -26,8 +26,8 @@ void EmptyMoveFile();
 /// The six lines of an error record, each with its line end.
 std::string ErrorRecord(const RuntimeError& error, int clan, int amoeba);
 
-/// Appends an error record to the error file. It never fails: what cannot be written goes to standard
-/// error, and so does the record of a game that keeps no files.
+/// Appends an error record to the error file, with the patience of a trace line. It never fails: what cannot
+/// be written goes to standard error, and so does the record of a game that keeps no files.
 void AppendErrorRecord(const RuntimeError& error, int clan, int amoeba);
 
 /// Appends an error record and ends the program.

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <csignal>
-
+#include "model/process.h"
 #include "sim/run.h"
 
 namespace {
 
-extern "C" void HandleInterrupt(int /*signal*/) {
+extern "C" void HandleEnd(int /*signal*/) {
     plasmos::InterruptSimulator();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGINT, HandleInterrupt);
-    std::signal(SIGTERM, HandleInterrupt);
-#ifdef SIGPIPE
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
+    plasmos::PrepareProcess();
+    plasmos::CatchEndSignals(HandleEnd);
     return plasmos::RunSimulator(argc, argv);
 }

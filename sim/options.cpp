@@ -145,10 +145,9 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
 }
 
 float ReplayOf(const SimOptions& options, std::int64_t index) {
-    if (index == 0) {
-        return options.FirstReplay;  // a sum would turn minus zero into zero
-    }
-    return static_cast<float>(static_cast<double>(options.FirstReplay) + static_cast<double>(index));
+    // Minus zero plus nothing would be zero, which is another game.
+    return index == 0 ? options.FirstReplay
+                      : static_cast<float>(static_cast<double>(options.FirstReplay) + static_cast<double>(index));
 }
 
 }  // namespace plasmos

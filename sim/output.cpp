@@ -2,91 +2,77 @@
 #include "sim/output.h"
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "model/text.h"
 
 namespace plasmos {
 
-namespace fs = std::filesystem;
-
 namespace {
 
-std::string Reason(int error) {
-    return std::generic_category().message(error == 0 ? EIO : error);
-}
-
-/// Devices and pipes are written in place; what is new or a regular file is drafted first.
-bool IsDrafted(const std::string& name) {
-    std::error_code error;
-    const auto status = fs::status(name, error);
-    return status.type() == fs::file_type::not_found || status.type() == fs::file_type::regular;
-}
+constexpr std::size_t MostPending = 65536;
 
 }  // namespace
 
-Output::Output(std::string name) : name_(std::move(name)) {
+Output::Output(std::string name, std::function<bool()> stop) : name_(std::move(name)), stream_(std::move(stop)) {
     if (name_.empty()) {
-        file_ = stdout;
-        return;
-    }
-    draft_ = IsDrafted(name_) ? name_ + ".new" : "";
-    errno = 0;
-    file_ = std::fopen(draft_.empty() ? name_.c_str() : draft_.c_str(), "wb");
-    if (file_ == nullptr) {
-        throw OutputError(Concat(name_, " cannot be written: ", Reason(errno)));
+        Check(stream_.OpenStandardOutput());
+    } else if (DiskStream::Is(name_)) {
+        Check(stream_.Open(name_));
+    } else {
+        RemoveAbandonedDrafts(name_);
+        Check(draft_.Open(name_));
     }
 }
 
-Output::~Output() {
-    if (file_ != nullptr && file_ != stdout) {
-        std::fclose(file_);
+void Output::Check(int reason) const {
+    if (reason == EINTR) {
+        throw WaitEnded{};
     }
-    if (!draft_.empty()) {
-        std::error_code error;
-        fs::remove(draft_, error);
+    if (reason != 0) {
+        throw OutputError(
+            Concat(name_.empty() ? "standard output" : name_.c_str(), " cannot be written: ", ReasonText(reason)));
     }
 }
 
-void Output::Fail(int reason) {
-    throw OutputError(
-        Concat(name_.empty() ? "standard output" : name_.c_str(), " cannot be written: ", Reason(reason)));
+void Output::Send() {
+    Check(draft_.IsOpen() ? draft_.Write(pending_) : stream_.Write(pending_));
+    pending_.clear();
 }
 
 void Output::Write(std::string_view text) {
-    errno = 0;
-    if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) {
-        Fail(errno);
+    pending_ += text;
+    if (pending_.size() >= MostPending) {
+        Send();
     }
 }
 
 void Output::Finish() {
-    errno = 0;
-    if (std::fflush(file_) != 0 || std::ferror(file_) != 0) {
-        Fail(errno);
-    }
-    if (file_ == stdout) {
-        return;
-    }
-    std::FILE* const file = file_;
-    file_ = nullptr;
-    if (std::fclose(file) != 0) {
-        Fail(errno);
+    Send();
+    if (!draft_.IsOpen()) {
+        Check(stream_.Close());
     }
 }
 
 void Output::Commit() {
-    if (draft_.empty()) {
-        return;
+    if (draft_.IsOpen()) {
+        Check(draft_.Commit());
     }
-    std::error_code error;
-    fs::rename(draft_, name_, error);
-    if (error) {
-        Fail(error.value());
-    }
-    draft_.clear();
+}
+
+FileIdentity Output::Identity() const {
+    return draft_.IsOpen() ? IdentityOf(draft_.Target()) : IdentityOf(stream_.File());
+}
+
+bool Output::IsSameAs(const Output& other) const {
+    const bool drafts = draft_.IsOpen() && other.draft_.IsOpen();
+    return (drafts && draft_.Target() == other.draft_.Target()) || Identity().IsSameAs(other.Identity());
+}
+
+void PrintOut(std::string_view text, const std::function<bool()>& stop) {
+    Output output({}, stop);
+    output.Write(text);
+    output.Finish();
 }
 
 }  // namespace plasmos

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -35,8 +36,8 @@ public:
         if (stopped_ || first >= games_) {
             return -1;
         }
-        ++handedOut_;
         slots_.emplace_back();
+        ++handedOut_;
         return first;
     }
 
@@ -50,10 +51,13 @@ public:
         changed_.notify_all();
     }
 
-    /// The results of the next pack in order; an empty one: the run is over.
+    /// The results of the next pack in order; an empty one: the run is over. Throws what a job ended with.
     Pack Take() {
         std::unique_lock lock(mutex_);
-        changed_.wait(lock, [&] { return IsOver() || (!slots_.empty() && slots_.front().Done); });
+        changed_.wait(lock, [&] { return failure_ || IsOver() || (!slots_.empty() && slots_.front().Done); });
+        if (failure_) {
+            std::rethrow_exception(failure_);
+        }
         if (slots_.empty() || !slots_.front().Done) {
             return {};
         }
@@ -67,6 +71,14 @@ public:
     /// No further pack is handed out.
     void Stop() {
         const std::lock_guard lock(mutex_);
+        stopped_ = true;
+        changed_.notify_all();
+    }
+
+    /// A job cannot go on.
+    void Fail(std::exception_ptr failure) {
+        const std::lock_guard lock(mutex_);
+        failure_ = std::move(failure);
         stopped_ = true;
         changed_.notify_all();
     }
@@ -89,6 +101,7 @@ private:
     std::int64_t handedOut_ = 0;
     std::int64_t taken_ = 0;
     bool stopped_ = false;
+    std::exception_ptr failure_;
 };
 
 Pack PlayPack(const SimOptions& options, std::int64_t first, std::int64_t end, const std::function<bool()>& stop) {
@@ -104,12 +117,16 @@ Pack PlayPack(const SimOptions& options, std::int64_t first, std::int64_t end, c
 }
 
 void Work(const SimOptions& options, GameFiles* files, PackQueue& queue, const std::function<bool()>& stop) {
-    PrepareThread(options, files);
-    for (std::int64_t first = queue.NextPack(); first >= 0; first = queue.NextPack()) {
-        queue.Deliver(first, PlayPack(options, first, queue.EndOf(first), stop));
-        if (stop()) {
-            queue.Stop();
+    try {
+        PrepareThread(options, files);
+        for (std::int64_t first = queue.NextPack(); first >= 0; first = queue.NextPack()) {
+            queue.Deliver(first, PlayPack(options, first, queue.EndOf(first), stop));
+            if (stop()) {
+                queue.Stop();
+            }
         }
+    } catch (const std::exception&) {
+        queue.Fail(std::current_exception());
     }
 }
 
@@ -131,9 +148,18 @@ public:
     JobThreads(const JobThreads&) = delete;
     JobThreads& operator=(const JobThreads&) = delete;
 
+    /// Starts so many jobs, or as many as the system lets it; the number of them.
     template <class Body>
-    void Start(Body&& body) {
-        jobs_.emplace_back(std::forward<Body>(body));
+    int Start(int jobs, const Body& body) {
+        jobs_.reserve(static_cast<std::size_t>(jobs));
+        try {
+            for (int job = 0; job < jobs; ++job) {
+                jobs_.emplace_back(body);
+            }
+        } catch (const std::exception&) {
+            // The games are played by fewer.
+        }
+        return static_cast<int>(jobs_.size());
     }
 
 private:
@@ -163,8 +189,9 @@ void SimulateGames(const SimOptions& options, GameFiles* files, const std::funct
     PackQueue queue(options.Games, heavy ? PackWithJournals : PackOfGames,
                     static_cast<std::size_t>(options.Jobs) * PacksAhead);
     JobThreads jobs(queue);
-    for (int job = 0; job < options.Jobs; ++job) {
-        jobs.Start([&] { Work(options, files, queue, stop); });
+    if (jobs.Start(options.Jobs, [&] { Work(options, files, queue, stop); }) == 0) {
+        SimulateHere(options, files, stop, take);
+        return;
     }
     std::int64_t expected = 0;
     for (Pack pack = queue.Take(); !pack.empty(); pack = queue.Take()) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sim/results.h"
 
-#include <cmath>
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
@@ -22,17 +21,8 @@ std::string CsvRecord(const GameResult& result) {
     return text + "\n";
 }
 
-/// A whole number stays one, but for minus zero, which JSON has among the others alone.
-nlohmann::ordered_json JsonReplay(float replay) {
-    if (replay == 0 && std::signbit(replay)) {
-        return -0.0;
-    }
-    return nlohmann::ordered_json::parse(ReplayText(replay));
-}
-
 std::string JsonRecord(const GameResult& result) {
     nlohmann::ordered_json record;
-    record["replay"] = JsonReplay(result.Replay);
     record["clans"] = result.Clans;
     record["turns"] = result.Turns;
     record["winner"] = result.Winner;
@@ -44,7 +34,8 @@ std::string JsonRecord(const GameResult& result) {
                                      {"genes", entry.Genes},
                                      {"bp", entry.BP}});
     }
-    return record.dump() + "\n";
+    // The number is written as everywhere else: minus zero has its sign.
+    return Concat(R"({"replay":)", ReplayText(result.Replay), ",", record.dump().substr(1), "\n");
 }
 
 std::string CsvHeading() {

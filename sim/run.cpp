@@ -6,6 +6,7 @@
 #include <cinttypes>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <optional>
 
 #ifdef _WIN32
@@ -131,19 +132,24 @@ int RunBench(const SimOptions& options) {
         return true;
     });
     const double seconds = SecondsSince(start);
-    std::printf("games=%" PRId64 " decisions=%" PRId64 " seconds=%.3f games_per_second=%.0f signature=%016" PRIx64 "\n",
-                games, decisions, seconds, static_cast<double>(games) / seconds, signature);
-    if (std::fflush(stdout) != 0) {
-        throw OutputError("standard output cannot be written");
-    }
+    char line[200];
+    std::snprintf(line, sizeof line,
+                  "games=%" PRId64 " decisions=%" PRId64 " seconds=%.3f games_per_second=%.0f signature=%016" PRIx64
+                  "\n",
+                  games, decisions, seconds, static_cast<double>(games) / seconds, signature);
+    PrintOut(line, Interrupted);
     return ExitCode(faulty);
 }
 
 int RunGames(const SimOptions& options) {
-    Output output(options.Output);
+    Output output(options.Output, Interrupted);
     std::optional<Output> journal;
     if (!options.Journal.empty()) {
-        journal.emplace(options.Journal);
+        journal.emplace(options.Journal, Interrupted);
+        if (journal->IsSameAs(output)) {
+            throw UsageError(Concat("--journal: ", options.Journal,
+                                    " is where the results go; the journal must have a place of its own"));
+        }
     }
     const auto data = OpenData(options);
     ResultWriter writer(options.Format);
@@ -181,6 +187,16 @@ int RunGames(const SimOptions& options) {
     return ExitCode(faulty);
 }
 
+int Run(int argc, const char* const* argv) {
+    try {
+        const SimOptions options = ParseOptions(argc, argv);
+        return options.Bench ? RunBench(options) : RunGames(options);
+    } catch (const HelpWanted& help) {
+        PrintOut(help.Text, Interrupted);
+        return 0;
+    }
+}
+
 }  // namespace
 
 void InterruptSimulator() {
@@ -189,14 +205,12 @@ void InterruptSimulator() {
 
 int RunSimulator(int argc, const char* const* argv) {
     try {
-        const SimOptions options = ParseOptions(argc, argv);
-        return options.Bench ? RunBench(options) : RunGames(options);
-    } catch (const HelpWanted& help) {
-        std::fputs(help.Text.c_str(), stdout);
-        return 0;
-    } catch (const UsageError& error) {
-        std::fprintf(stderr, "plasmos-sim: %s\n", error.what());
-    } catch (const OutputError& error) {
+        return Run(argc, argv);
+    } catch (const WaitEnded&) {
+        return ExitInterrupted;
+    } catch (const std::bad_alloc&) {
+        std::fputs("plasmos-sim: out of memory\n", stderr);
+    } catch (const std::exception& error) {
         std::fprintf(stderr, "plasmos-sim: %s\n", error.what());
     }
     return ExitBadInput;

@@ -10,6 +10,7 @@
 #include "model/game_state.h"
 #include "ui/blob_shape.h"
 #include "ui/palette.h"
+#include "ui/ttip.h"
 
 namespace plasmos {
 
@@ -135,7 +136,7 @@ void AmoebaPanel::Reread() {
         option->setVisible(choice.Visible && k > 0);
         option->setEnabled(choice.Enabled);
         option->setText(ButtonText(*option, choice.Caption));
-        option->setToolTip(ToQt(choice.Caption));
+        option->setToolTip(PlainTip(ToQt(choice.Caption)));
         option->setIcon(k > 0 && Clan() > 0 ? BlobIcon(Clan(), k, devicePixelRatioF()) : QIcon());
     }
 }

@@ -16,11 +16,11 @@ EndSignals::~EndSignals() = default;
 #include <csignal>
 #include <utility>
 
+#include "model/process.h"
+
 namespace plasmos {
 
 namespace {
-
-constexpr int Caught[] = {SIGTERM, SIGINT, SIGHUP};
 
 // The writing end for the handler, which may do no more than write.
 volatile std::sig_atomic_t writingEnd = -1;
@@ -51,15 +51,11 @@ EndSignals::EndSignals(std::function<void()> onEnd) : pipe_(std::make_unique<Pip
                          }
                      });
     writingEnd = pipe_->Ends[0];
-    for (const int signal : Caught) {
-        std::signal(signal, OnSignal);
-    }
+    CatchEndSignals(OnSignal);
 }
 
 EndSignals::~EndSignals() {
-    for (const int signal : Caught) {
-        std::signal(signal, SIG_DFL);
-    }
+    ReleaseEndSignals();
     writingEnd = -1;
     pipe_->Notifier.reset();
     for (const int end : pipe_->Ends) {

@@ -6,8 +6,8 @@
 
 namespace plasmos {
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP call a function from the event loop instead of killing the
-/// program. Does nothing where the platform has no such signals.
+/// While it lives, SIGTERM, SIGINT and SIGHUP (unless it was ignored) call a function from the event loop
+/// instead of killing the program. Does nothing where the platform has no such signals.
 class EndSignals {
 public:
     explicit EndSignals(std::function<void()> onEnd);

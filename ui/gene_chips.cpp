@@ -9,6 +9,7 @@
 
 #include "model/genes.h"
 #include "ui/palette.h"
+#include "ui/ttip.h"
 
 namespace plasmos {
 
@@ -125,7 +126,7 @@ bool GeneChips::event(QEvent* event) {
                 tip += QLatin1Char('\n') + (chip.Gene > 0 ? ChipText(chip.Gene, FullNames) : Names());
             }
         }
-        QToolTip::showText(help->globalPos(), tip, this);
+        QToolTip::showText(help->globalPos(), PlainTip(tip), this);
         return true;
     }
     return QWidget::event(event);

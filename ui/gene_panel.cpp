@@ -7,6 +7,7 @@
 #include "model/presentation.h"
 #include "ui/choice_panels.h"
 #include "ui/palette.h"
+#include "ui/ttip.h"
 
 namespace plasmos {
 
@@ -119,7 +120,7 @@ void GenePanel::Reread() {
         const GeneForm::CheckBox& source = form_.gcheck[gene];
         QCheckBox* box = boxes_[static_cast<std::size_t>(gene)];
         box->setText(ToQt(source.Caption));
-        box->setToolTip(ToQt(source.ToolTip));
+        box->setToolTip(PlainTip(ToQt(source.ToolTip)));
         box->setChecked(source.Ticked);
         box->setEnabled(source.Enabled);
         costs_[static_cast<std::size_t>(gene)]->setText(ToQt(source.ToolTip));

@@ -8,6 +8,7 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/platform.h"
+#include "model/process.h"
 #include "ui/end_signals.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
@@ -16,6 +17,7 @@
 
 int main(int argc, char** argv) {
     using namespace plasmos;
+    PrepareProcess();
     if (argc > 1) {
         std::fputs("plasmos takes no arguments\n", stderr);
         return 2;
@@ -28,7 +30,11 @@ int main(int argc, char** argv) {
     game.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
     game.Settings = &settings;
-    const std::string fault = PrepareDataFolder();
+    settings.RemoveAbandonedDrafts();
+    std::string fault = PrepareDataFolder();
+    if (const auto refused = settings.Fault(); !refused.empty()) {
+        fault += (fault.empty() ? "" : "\n\n") + refused;
+    }
     UBoard board;
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
@@ -36,6 +42,7 @@ int main(int argc, char** argv) {
     const EndSignals endSignals([&board] { board.close(); });
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
+    notice.setTextFormat(Qt::PlainText);
     notice.setPalette(LookPalette());
     if (!fault.empty()) {
         notice.setModal(false);

@@ -13,6 +13,7 @@
 #include "model/dice.h"
 #include "model/game_files.h"
 #include "model/game_state.h"
+#include "model/process.h"
 #include "model/settings_store.h"
 #include "ui/auto_person.h"
 #include "ui/palette.h"
@@ -178,12 +179,17 @@ int PlayDemo(const Wish& wish) {
     if (board.Failed()) {
         std::fprintf(stderr, "plasmos-shot: a picture in %s cannot be written\n", qPrintable(wish.Folder));
     }
-    return board.Failed() ? 1 : 0;
+    const bool told = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+    if (!told) {
+        std::fputs("plasmos-shot: standard output cannot be written\n", stderr);
+    }
+    return board.Failed() || !told ? 1 : 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    PrepareProcess();
     QStringList arguments;
     for (int i = 1; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QTextDocument>
 
 #include "model/game_state.h"
 #include "model/text.h"
@@ -37,6 +38,14 @@ std::string TipTextAt(int x, int y) {
         }
     }
     return {};
+}
+
+QString PlainTip(const QString& text) {
+    if (!Qt::mightBeRichText(text)) {
+        return text;
+    }
+    QString letters = text.toHtmlEscaped();
+    return QStringLiteral("<qt>%1</qt>").arg(letters.replace(QLatin1Char('\n'), QLatin1String("<br>")));
 }
 
 ToolTips::ToolTips(PuddleView* puddle)

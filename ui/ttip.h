@@ -14,6 +14,9 @@ class PuddleView;
 /// units below the marker, on purpose.
 std::string TipTextAt(int x, int y);
 
+/// A text that the desktop's tool tips show to the letter, whatever it looks like.
+QString PlainTip(const QString& text);
+
 /// The small window that follows the pointer over an amoeba.
 class ToolTips : public QObject {
 public:

@@ -186,6 +186,7 @@ void UBoard::ClearBoard() {
 
 void UBoard::Tell(const QString& text) {
     auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Plasmos"), text, QMessageBox::Ok, this);
+    box->setTextFormat(Qt::PlainText);
     box->setPalette(LookPalette());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);

@@ -9,6 +9,7 @@
 #include "ui/blob_shape.h"
 #include "ui/choice_panels.h"
 #include "ui/palette.h"
+#include "ui/ttip.h"
 
 namespace plasmos {
 
@@ -85,9 +86,8 @@ void VictimPanel::Reread() {
         const VictimFigure& source = form_.Figures[i];
         figures_[i]->Figure = source;
         figures_[i]->setEnabled(source.Markable);
-        figures_[i]->setToolTip(QStringLiteral("%1 of %2")
-                                    .arg(ToQt(game.Amoeba[source.Amoeba][source.Clan].Name.View()),
-                                         ToQt(game.Players[source.Clan].Name.View())));
+        figures_[i]->setToolTip(PlainTip(
+            ToQt(Concat(game.Amoeba[source.Amoeba][source.Clan].Name, " of ", game.Players[source.Clan].Name))));
         figures_[i]->update();
     }
     vfamlab_->setText(ToQt(form_.vfamlab));

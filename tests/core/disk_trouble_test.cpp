@@ -2,6 +2,7 @@
 // A real disk that is full, forbidden, gone or full of somebody else's things.
 #include <gmock/gmock.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <thread>
@@ -13,6 +14,7 @@
 #include "model/trace.h"
 #include "rules/ask.h"
 #include "rules/movement.h"
+#include "tests/support/most_bytes.h"
 #include "tests/support/on_disk.h"
 #include "tests/support/scripted_board.h"
 
@@ -129,23 +131,36 @@ TEST_F(DiskTrouble, AFolderThatCannotBeMadeAgainLeavesThePiecesWhereTheyAre) {
                 ::testing::Contains(AllOf(HasSubstr("A1 stays in 7: "), HasSubstr(files.PathOf(MoveFile)))));
 }
 
-TEST_F(DiskTrouble, AFolderInTheMoveFilesPlaceIsNamedEvenWhereTheErrorFileIsFull) {
+TEST_F(DiskTrouble, AFolderInTheMoveFilesPlaceIsNamedEvenWhereTheErrorFileIsOneToo) {
     files.MakeFolder();
-    fs::create_symlink("/dev/full", files.PathOf(ErrorFile));
+    fs::create_directory(files.PathOf(ErrorFile));
     fs::create_directory(files.PathOf(MoveFile));
     EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr("Error #75"), HasSubstr(files.PathOf(MoveFile)))));
     fs::remove(files.PathOf(MoveFile));
     EXPECT_THAT(BoxesOfAGame(), IsEmpty());
 }
 
-TEST_F(DiskTrouble, AMoveFileThatIsFullLeavesThePiecesWhereTheyAre) {
+TEST_F(DiskTrouble, AMoveFileThatMayNotGrowLeavesThePiecesWhereTheyAre) {
     files.MakeFolder();
-    fs::create_symlink("/dev/full", files.PathOf(MoveFile));
+    Lay(MoveFile, "as it was\r\n");
+    {
+        const MostBytes most(20);
+        TwoDrift();
+    }
+    EXPECT_EQ(game.Amoeba[1][1].Square, 7);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 9);
+    EXPECT_EQ(Bytes(MoveFile), "as it was\r\n");
+    EXPECT_THAT(board_.LogLines, ::testing::Contains(HasSubstr("A1 stays in 7: Disk full: ")));
+}
+
+TEST_F(DiskTrouble, AMoveFileThatTurnsIntoAPipeIsNotWaitedFor) {
+    files.MakeFolder();
+    ASSERT_EQ(mkfifo(files.PathOf(MoveFile).c_str(), 0666), 0);
     TwoDrift();
     EXPECT_EQ(game.Amoeba[1][1].Square, 7);
     EXPECT_EQ(game.Amoeba[1][2].Square, 9);
     EXPECT_THAT(Bytes(ErrorFile), AllOf(HasSubstr("Player: 1 (Player 1)  Moeba: 1\r\n"),
-                                        HasSubstr("Error #61: Disk full: " + files.PathOf(MoveFile))));
+                                        HasSubstr("Error #75: Path/File access error: " + files.PathOf(MoveFile))));
 }
 
 /// A disk of 64 KiB, where the tests may make one.
@@ -236,6 +251,8 @@ TEST_P(OddNames, AreToldAndNotRepaired) {
 constexpr std::uintmax_t Huge = 100U << 20U;
 
 const NamesRow NamesRows[] = {
+    {"a_pipe", [](const std::string& path) { ASSERT_EQ(mkfifo(path.c_str(), 0666), 0); },
+     "Error #75: Path/File access error"},
     {"a_folder", [](const std::string& path) { fs::create_directory(path); }, "Error #75: Path/File access error"},
     {"unreadable",
      [](const std::string& path) {

@@ -91,10 +91,25 @@ TEST(FirstCharactersOfAName, CountCharactersNotBytes) {
 TEST(FirstCharactersOfAName, LeaveControlCharactersOut) {
     EXPECT_EQ(FirstCharacters("O\tt\nt\x7Fo\x1B", 20), "Otto");
     EXPECT_EQ(FirstCharacters("a\0b"sv, 20), "ab");
-    EXPECT_EQ(FirstCharacters("a\xC2\x85"
-                              "b",
-                              20),
-              "ab");
+}
+
+/// Characters that would break a line or turn its direction.
+constexpr std::string_view BreaksAndTurns[] = {
+    "\u0085", "\u061C", "\u200E", "\u200F", "\u2028", "\u2029", "\u202A", "\u202B",
+    "\u202C", "\u202D", "\u202E", "\u2066", "\u2067", "\u2068", "\u2069",
+};
+
+TEST(Names, HaveABlankForWhatBreaksALineOrTurnsItsDirection) {
+    for (const auto character : BreaksAndTurns) {
+        const auto name = Concat("a", character, "b");
+        EXPECT_EQ(FirstCharacters(name, 20), "a b") << ::testing::PrintToString(name);
+        EXPECT_EQ(OneLine(name), "a b") << ::testing::PrintToString(name);
+        EXPECT_EQ(FirstCharacters(name, 2), "a ") << "it counts";
+    }
+    EXPECT_EQ(OneLine("a\tb\x7F\x1B"), "a b  ");
+    EXPECT_EQ(OneLine("\u00D6nd\u00F3ttr \u200B\u2027\u202F\u2065\u206A"),
+              "\u00D6nd\u00F3ttr \u200B\u2027\u202F\u2065\u206A")
+        << "their neighbours stay";
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 #include "model/game_files.h"
 
 #include <gmock/gmock.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -33,6 +35,15 @@ TEST_F(OnDisk, AFileInThePlaceOfTheFolderIsAnError) {
     EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 75);
 }
 
+TEST_F(OnDisk, AFolderThatCanBeMadeNowhereIsAPathNotFound) {
+    fs::create_symlink(Home() + "/no/where", Home() + "/QX");
+    EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 76);
+    fs::remove(Home() + "/QX");
+    std::ofstream(Home() + "/QX") << "in the way";
+    EXPECT_EQ(ErrorOf([this] { files.MakeFolder(); }), 76);
+    EXPECT_EQ(ErrorOf([] { DataFolder("/proc/no/where").MakeFolder(); }), 76);
+}
+
 TEST_F(OnDisk, LinesAreAppendedWithCrLf) {
     files.MakeFolder();
     EXPECT_FALSE(files.Exists(MoveFile));
@@ -48,29 +59,6 @@ TEST_F(OnDisk, AFileIsReplacedWhole) {
     files.Rewrite(OptionsFile, "new\n");
     EXPECT_EQ(Bytes(OptionsFile), "new\r\n");
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1) << "no draft stays behind";
-}
-
-TEST_F(OnDisk, WhatIsWrittenInAMissingFolderIsAnErrorThatNamesTheFile) {
-    try {
-        files.Append(MoveFile, "x\n");
-        FAIL();
-    } catch (const RuntimeError& error) {
-        EXPECT_TRUE(error.Number == 53 || error.Number == 76) << error.Number;
-        EXPECT_THAT(error.what(), HasSubstr("movefil.txt"));
-    }
-}
-
-TEST_F(OnDisk, AMissingFileIsNotFound) {
-    files.MakeFolder();
-    EXPECT_EQ(ErrorOf([this] { files.ReadLines(NamesFile, 10); }), 53);
-}
-
-TEST_F(OnDisk, AFolderIsNoFile) {
-    files.MakeFolder();
-    fs::create_directory(files.PathOf(MoveFile));
-    EXPECT_EQ(ErrorOf([this] { files.Append(MoveFile, "x"); }), 75);
-    EXPECT_EQ(ErrorOf([this] { files.Rewrite(MoveFile, "x"); }), 75);
-    EXPECT_EQ(ErrorOf([this] { files.ReadLines(MoveFile, 1); }), 75);
 }
 
 TEST_F(OnDisk, LinesAreReadWhateverTheirEnd) {
@@ -172,6 +160,28 @@ TEST(Platform, TheDataFolderLiesInTheDataHome) {
     }
     const Variable data("XDG_DATA_HOME", nullptr);
     EXPECT_EQ(DataFolderPath(), "/home/otto/.local/share/QX/Plasmo6");
+}
+
+TEST(Platform, ATildeInTheChosenFolderIsTheHomeFolder) {
+    const Variable home("HOME", "/home/otto");
+    for (const auto& [chosen, folder] :
+         {std::pair{"~/games", "/home/otto/games"}, std::pair{"~", "/home/otto"}, std::pair{"~/", "/home/otto/"},
+          std::pair{"/a/~/b", "/a/~/b"}, std::pair{"~else/x", "~else/x"}, std::pair{"x~/y", "x~/y"}}) {
+        const Variable variable("PLASMOS_DATA", chosen);
+        EXPECT_EQ(DataFolderPath(), folder);
+    }
+}
+
+TEST(Platform, WithoutAHomeInTheEnvironmentTheAccountHasOne) {
+    const Variable data("XDG_DATA_HOME", nullptr);
+    const std::string account = getpwuid(getuid())->pw_dir;
+    for (const char* home : {static_cast<const char*>(nullptr), ""}) {
+        const Variable variable("HOME", home);
+        const Variable chosen("PLASMOS_DATA", nullptr);
+        EXPECT_EQ(DataFolderPath(), account + "/.local/share/QX/Plasmo6");
+        const Variable tilde("PLASMOS_DATA", "~/x");
+        EXPECT_EQ(DataFolderPath(), account + "/x");
+    }
 }
 
 TEST(Platform, DateAndTimeAreWrittenYearFirst) {

@@ -12,6 +12,7 @@
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
 #include "tests/support/game_fixture.h"
+#include "tests/support/memory_files.h"
 #include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
@@ -266,6 +267,29 @@ TEST_F(NewGameTest, NamesAreDrawnFromWhatIsLeftInTheOrderOfTheFile) {
     EXPECT_EQ(game.Amoeba[3][1].Name, "Oddr");
     EXPECT_EQ(game.Amoeba[1][2].Name, "Baterich");
     EXPECT_EQ(game.Amoeba[7][3].Name, "Grendel");
+}
+
+TEST_F(NewGameTest, NamesOfTheFileAreDealtFitForALine) {
+    MemoryFiles files;
+    const std::string euro = "\u20AC";
+    std::string longName;
+    while (longName.size() < 200) {
+        longName += euro;
+    }
+    files.Files["zynames.txt"] = "1 - a\u2028b\n1 - \u202E\n1 - " + longName +
+                                 "\n1 - <b>c</b>\n1 - d\te\n1 - f\u0085\n1 - " + std::string(3000, 'x') +
+                                 "\n1 - \u2066g\u2069h\n1 - i\n";
+    NewPosition(3);
+    game.NumPlayers = 1;
+    const Script script(std::vector<int>(7, 1));
+    LoadAmoebaNames();
+    EXPECT_EQ(game.Amoeba[1][1].Name, "a b");
+    EXPECT_EQ(game.Amoeba[2][1].Name.View(), longName.substr(0, 60)) << "a line of blanks has no name";
+    EXPECT_EQ(game.Amoeba[3][1].Name, "<b>c</b>");
+    EXPECT_EQ(game.Amoeba[4][1].Name, "d e");
+    EXPECT_EQ(game.Amoeba[5][1].Name, "f");
+    EXPECT_EQ(game.Amoeba[6][1].Name.View(), std::string(60, 'x'));
+    EXPECT_EQ(game.Amoeba[7][1].Name, "g h");
 }
 
 struct NameLineRow {

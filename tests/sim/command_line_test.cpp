@@ -1,70 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program plasmos-sim from outside: bytes, exit codes, outputs that fail, interrupts.
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "model/text.h"
+#include "tests/sim/command_line.h"
 
 namespace plasmos::testing {
 namespace {
 
-namespace fs = std::filesystem;
-
-struct Ran {
-    int ExitCode;
-    std::string Text;
-};
-
-class CommandLineTest : public ::testing::Test {
-protected:
-    CommandLineTest() {
-        std::string name = (fs::temp_directory_path() / "plasmos-sim-XXXXXX").string();
-        folder_ = mkdtemp(name.data());
-    }
-    ~CommandLineTest() override { fs::remove_all(folder_); }
-
-    /// Runs a shell command in which SIM stands for the program; the text is its standard output.
-    Ran Shell(const std::string& command) const {
-        const auto script = Concat("cd '", folder_.string(), "'; SIM='", PLASMOS_SIM, "'; ", command);
-        std::FILE* pipe = popen(Concat("bash -c \"", script, "\"").c_str(), "r");
-        std::string text;
-        char bytes[4096];
-        for (std::size_t count = 0; (count = fread(bytes, 1, sizeof bytes, pipe)) > 0;) {
-            text.append(bytes, count);
-        }
-        const int status = pclose(pipe);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text};
-    }
-
-    std::string Read(const std::string& name) const {
-        std::ifstream file(folder_ / name, std::ios::binary);
-        std::ostringstream text;
-        text << file.rdbuf();
-        return text.str();
-    }
-
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder_)) {
-            names.push_back(entry.path().filename().string());
-        }
-        return names;
-    }
-
-    fs::path folder_;
-};
-
 TEST_F(CommandLineTest, OneTwoAndEightJobsGiveTheSameBytes) {
     for (const std::string format : {"table", "csv", "json"}) {
         const auto run = [&](int jobs) {
-            return Shell(Concat("\\$SIM --games 40 --persons 1 --format ", format, " --journal j", jobs, " --jobs ",
-                                jobs, " 2>/dev/null"))
+            return Shell(Concat("$SIM --games 40 --persons 1 --format ", format, " --journal j", jobs, " --jobs ", jobs,
+                                " 2>/dev/null"))
                 .Text;
         };
         const auto one = run(1);
@@ -76,22 +26,11 @@ TEST_F(CommandLineTest, OneTwoAndEightJobsGiveTheSameBytes) {
     }
 }
 
-TEST_F(CommandLineTest, MinusZeroIsAGameOfItsOwn) {
-    const auto csv = Shell("\\$SIM --games 2 --replay -0 --format csv 2>/dev/null").Text;
-    EXPECT_THAT(csv, ::testing::HasSubstr("\n-0,"));
-    EXPECT_THAT(csv, ::testing::HasSubstr("\n1,"));
-    const auto minus = Shell("\\$SIM --games 1 --replay -0 --format json 2>/dev/null").Text;
-    const auto zero = Shell("\\$SIM --games 1 --replay 0 --format json 2>/dev/null").Text;
-    EXPECT_THAT(minus, ::testing::StartsWith("{\"replay\":-0.0,"));
-    EXPECT_THAT(zero, ::testing::StartsWith("{\"replay\":0,"));
-    EXPECT_NE(minus.substr(minus.find("clans")), zero.substr(zero.find("clans"))) << "other dice";
-}
-
 TEST_F(CommandLineTest, EveryFormatTellsEveryGame) {
-    const auto csv = Shell("\\$SIM --games 5 --format csv 2>/dev/null").Text;
+    const auto csv = Shell("$SIM --games 5 --format csv 2>/dev/null").Text;
     EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 6);
     EXPECT_THAT(csv, ::testing::StartsWith("replay,clans,turns,winner,personality1,score1,amoebas1,genes1,bp1,"));
-    std::istringstream lines(Shell("\\$SIM --games 5 --replay 2.5 --format json 2>/dev/null").Text);
+    std::istringstream lines(Shell("$SIM --games 5 --replay 2.5 --format json 2>/dev/null").Text);
     int games = 0;
     for (std::string line; std::getline(lines, line); ++games) {
         const auto record = nlohmann::json::parse(line);
@@ -105,35 +44,49 @@ TEST_F(CommandLineTest, EveryFormatTellsEveryGame) {
     EXPECT_EQ(games, 5);
 }
 
+TEST_F(CommandLineTest, MinusZeroIsANumberOfItsOwnInEveryFile) {
+    for (const std::string zero : {"-0", "0"}) {
+        const auto run = Concat("$SIM --games 2 --replay=", zero, " --clans 3 2>/dev/null");
+        EXPECT_THAT(Shell(run + " --format csv --journal all").Text, ::testing::HasSubstr("\n" + zero + ",3,"));
+        EXPECT_THAT(Read("all"), ::testing::StartsWith(R"({"t":"game","replay":)" + zero + ","));
+        EXPECT_THAT(Shell(run + " --format json").Text,
+                    ::testing::StartsWith(R"({"replay":)" + zero + R"(,"clans":3,)"));
+        EXPECT_EQ(Shell(Concat("$SIM --games 1 --replay ", zero, " --data data >/dev/null 2>&1")).ExitCode, 0);
+        EXPECT_THAT(Read("data/movefil.txt"), ::testing::HasSubstr("Game: " + zero + " "));
+    }
+    EXPECT_NE(Shell("$SIM --games 1 --replay -0 2>/dev/null").Text,
+              Shell("$SIM --games 1 --replay 0 2>/dev/null").Text);
+}
+
 TEST_F(CommandLineTest, TheTableCountsEverySeat) {
-    const auto table = Shell("\\$SIM --games 50 --clans 4 2>/dev/null").Text;
+    const auto table = Shell("$SIM --games 50 --clans 4 2>/dev/null").Text;
     EXPECT_THAT(table, ::testing::StartsWith("games: 50\n"));
     EXPECT_THAT(table, ::testing::HasSubstr("Eccentric"));
     EXPECT_THAT(table, ::testing::HasSubstr("place 4              50"));
 }
 
 TEST_F(CommandLineTest, TheBenchPrintsOneLine) {
-    const auto ran = Shell("\\$SIM --bench --games 20");
+    const auto ran = Shell("$SIM --bench --games 20");
     EXPECT_EQ(ran.ExitCode, 0);
     EXPECT_THAT(ran.Text, ::testing::MatchesRegex("games=20 decisions=[0-9]+ seconds=[0-9.]+ games_per_second=[0-9]+ "
                                                   "signature=[0-9a-f]+\n"));
 }
 
 TEST_F(CommandLineTest, AnOutputTakesItsNameWhenItIsWhole) {
-    EXPECT_EQ(Shell("\\$SIM --games 5 --format csv --output out.csv --journal all.jsonl 2>/dev/null").ExitCode, 0);
+    EXPECT_EQ(Shell("$SIM --games 5 --format csv --output out.csv --journal all.jsonl 2>/dev/null").ExitCode, 0);
     EXPECT_THAT(Names(), ::testing::UnorderedElementsAre("out.csv", "all.jsonl"));
     EXPECT_THAT(Read("all.jsonl"), ::testing::StartsWith("{\"t\":\"game\",\"replay\":1,"));
 }
 
 TEST_F(CommandLineTest, TraceFilesAreKeptInTheDataFolder) {
-    EXPECT_EQ(Shell("\\$SIM --games 2 --data here/there 2>/dev/null >/dev/null").ExitCode, 0);
+    EXPECT_EQ(Shell("$SIM --games 2 --data here/there 2>/dev/null >/dev/null").ExitCode, 0);
     EXPECT_TRUE(fs::exists(folder_ / "here/there/movefil.txt"));
     EXPECT_TRUE(fs::exists(folder_ / "here/there/zynames.txt"));
     EXPECT_THAT(Read("here/there/movefil.txt"), ::testing::HasSubstr("Game: 2 "));
 }
 
 TEST_F(CommandLineTest, WithoutADataFolderNoFileIsTouched) {
-    EXPECT_EQ(Shell("HOME=. XDG_DATA_HOME= \\$SIM --games 2 2>/dev/null >/dev/null").ExitCode, 0);
+    EXPECT_EQ(Shell("HOME=. XDG_DATA_HOME= $SIM --games 2 2>/dev/null >/dev/null").ExitCode, 0);
     EXPECT_THAT(Names(), ::testing::IsEmpty());
 }
 
@@ -159,37 +112,25 @@ TEST_P(RefusedCommands, OneLineAndExitCode2AndNothingHalfWritten) {
 }
 
 const RefusedRow RefusedRows[] = {
-    {"bad_option", "\\$SIM --frobnicate 2>&1 >/dev/null", "--frobnicate"},
-    {"output_in_a_folder_that_is_missing", "\\$SIM --output no/out.csv 2>&1 >/dev/null",
-     "no/out.csv cannot be written"},
-    {"output_is_a_folder", "\\$SIM --output taken 2>&1 >/dev/null", "taken cannot be written"},
-    {"journal_in_a_folder_that_is_missing", "\\$SIM --output kept.csv --journal no/j 2>&1 >/dev/null",
+    {"bad_option", "$SIM --frobnicate 2>&1 >/dev/null", "--frobnicate"},
+    {"output_in_a_folder_that_is_missing", "$SIM --output no/out.csv 2>&1 >/dev/null", "no/out.csv cannot be written"},
+    {"output_is_a_folder", "$SIM --output taken 2>&1 >/dev/null", "taken cannot be written"},
+    {"journal_in_a_folder_that_is_missing", "$SIM --output kept.csv --journal no/j 2>&1 >/dev/null",
      "no/j cannot be written"},
-    {"journal_on_a_full_disk", "\\$SIM --output kept.csv --journal /dev/full 2>&1 >/dev/null",
+    {"journal_on_a_full_disk", "$SIM --output kept.csv --journal /dev/full 2>&1 >/dev/null",
      "/dev/full cannot be written: No space"},
-    {"results_on_a_full_disk", "\\$SIM --format csv --games 3000 --output /dev/full 2>&1 >/dev/null",
+    {"results_on_a_full_disk", "$SIM --format csv --games 3000 --output /dev/full 2>&1 >/dev/null",
      "/dev/full cannot be written: No space"},
-    {"standard_output_full", "\\$SIM --games 3 2>&1 >/dev/full", "standard output cannot be written"},
+    {"standard_output_full", "$SIM --games 3 2>&1 >/dev/full", "standard output cannot be written"},
     {"closed_pipe",
-     "( \\$SIM --games 20000 --clans 3 --format json 2>err.txt; echo \\$? > code ) | true; cat err.txt; "
-     "read code < code; rm err.txt code; exit \\$code",
+     "( $SIM --games 20000 --clans 3 --format json 2>err.txt; echo $? > code ) | true; cat err.txt; "
+     "read code < code; rm err.txt code; exit $code",
      "standard output cannot be written: Broken pipe"},
-    {"data_folder_is_a_file", "\\$SIM --data kept.csv 2>&1 >/dev/null", "kept.csv"},
+    {"data_folder_is_a_file", "$SIM --data kept.csv 2>&1 >/dev/null", "kept.csv"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Commands, RefusedCommands, ::testing::ValuesIn(RefusedRows),
                          [](const auto& row) { return std::string(row.param.Name); });
-
-TEST_F(CommandLineTest, AnInterruptFinishesTheGamesInHandAndPrintsThem) {
-    const auto ran = Shell(
-        "\\$SIM --games 10000000 --format csv --output out.csv 2>/dev/null & sim=\\$!; sleep 0.5; "
-        "kill -INT \\$sim; wait \\$sim");
-    EXPECT_EQ(ran.ExitCode, 130);
-    const auto csv = Read("out.csv");
-    EXPECT_GT(std::count(csv.begin(), csv.end(), '\n'), 10);
-    EXPECT_EQ(csv.back(), '\n');
-    EXPECT_THAT(Names(), ::testing::UnorderedElementsAre("out.csv"));
-}
 
 }  // namespace
 }  // namespace plasmos::testing

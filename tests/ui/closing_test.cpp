@@ -5,8 +5,6 @@
 #include <QAction>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
-#include <QSettings>
 #include <QTimer>
 #include <csignal>
 #include <cstdlib>
@@ -16,6 +14,7 @@
 #include "model/game_files.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
+#include "tests/ui/support/program.h"
 #include "tests/ui/support/scene.h"
 #include "ui/auto_person.h"
 #include "ui/end_signals.h"
@@ -207,64 +206,6 @@ void ClosingTest::aSecondEndIsNoTrouble() {
 }
 
 namespace {
-
-/// Whether a process has a handler for SIGTERM, that is, will end in good order.
-bool CatchesTerm(qint64 process) {
-    QFile status(QStringLiteral("/proc/%1/status").arg(process));
-    if (!status.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    for (const QByteArray& line : status.readAll().split('\n')) {
-        if (line.startsWith("SigCgt:")) {
-            return (line.mid(7).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
-        }
-    }
-    return false;
-}
-
-/// A program with folders for itself, or with another one's.
-class Program {
-public:
-    explicit Program(const QString& home) : home_(home) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        environment.insert(QStringLiteral("PLASMOS_DATA"), home + QStringLiteral("/data"));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home);
-        process_.setProcessEnvironment(environment);
-        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    }
-    void Start(const QString& program, const QStringList& arguments) {
-        process_.start(program, arguments);
-        QVERIFY(process_.waitForStarted());
-    }
-    void StartReady(const QString& program, const QStringList& arguments) {
-        Start(program, arguments);
-        QTRY_VERIFY_WITH_TIMEOUT(CatchesTerm(process_.processId()), 20000);
-    }
-    void Terminate() {
-        QCOMPARE(process_.state(), QProcess::Running);
-        process_.terminate();
-        EndsWell();
-    }
-    void Ends(int exitCode) {
-        QVERIFY2(process_.waitForFinished(20000), "it does not end");
-        QCOMPARE(process_.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process_.exitCode(), exitCode);
-    }
-    /// Ends with code 0, no error record, and the window's place saved.
-    void EndsWell() {
-        Ends(0);
-        QVERIFY(!QFile::exists(home_ + QStringLiteral("/data/errfile.txt")));
-        QVERIFY(!QSettings(home_ + QStringLiteral("/QX/Plasmos.conf"), QSettings::IniFormat)
-                     .value(QStringLiteral("board/left"))
-                     .toString()
-                     .isEmpty());
-    }
-
-private:
-    QString home_;
-    QProcess process_;
-};
 
 /// Starts a program and terminates it some time after it is ready.
 void TerminateAfter(const QString& name, const QStringList& arguments, int milliseconds) {

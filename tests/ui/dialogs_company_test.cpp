@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QTextDocument>
 
 #include "rules/move_amoeba.h"
 #include "tests/ui/support/position.h"
@@ -23,6 +24,7 @@ private slots:
     void theTentacleByItself();
 
     void hitchHikers();
+    void tipsAreTakenToTheLetter();
     void noHitchHiker_data();
     void noHitchHiker();
     void theWindowLosesTheFocus();
@@ -213,6 +215,43 @@ void DialogsCompanyTest::theWindowLosesTheFocus() {
     });
     PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8));
     QCOMPARE(SquareOf(3, 1), 8);
+}
+
+namespace {
+
+/// What a person reads in the tool tip of a control.
+QString TipOf(PositionScene& scene, const QString& control) {
+    const QString tip = scene.Find(control)->toolTip();
+    QTextDocument document;
+    Qt::mightBeRichText(tip) ? document.setHtml(tip) : document.setPlainText(tip);
+    return document.toPlainText();
+}
+
+}  // namespace
+
+// Whatever somebody calls an amoeba or a clan.
+void DialogsCompanyTest::tipsAreTakenToTheLetter() {
+    PositionScene scene;
+    Give(3, "hol");
+    Give(3, "ten");
+    Put(3, 4, 7);
+    Put(3, 5, 7);
+    Put(1, 1, 7);
+    game.Amoeba[4][3].Name = "<b>O</b>";
+    game.Players[3].Name = std::string_view("<i>&lt;Ann</i>");
+    game.BP[3] = 2;
+    scene.Then(QuestionKind::YesNo, [&] { scene.Click(QStringLiteral("yesb")); });
+    scene.Then(QuestionKind::Victim, [&] {
+        QCOMPARE(TipOf(scene, QStringLiteral("figure2")), QStringLiteral("<b>O</b> of <i>&lt;Ann</i>"));
+        scene.Click(QStringLiteral("figure2"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    scene.Then(QuestionKind::YesNo, [&] { scene.Click(QStringLiteral("yesb")); });
+    scene.Then(QuestionKind::Amoeba, [&] {
+        QCOMPARE(TipOf(scene, QStringLiteral("amopt4")), QStringLiteral("<b>O</b>"));
+        scene.Click(QStringLiteral("amoptb"));
+    });
+    PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8); Put(3, 4, 7); game.CurPlayer = 3; MoveAmoeba(3, 1, 8));
 }
 
 }  // namespace plasmos::testing
