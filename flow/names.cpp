@@ -9,6 +9,7 @@
 #include "model/dice.h"
 #include "model/encoding.h"
 #include "model/game_files.h"
+#include "model/services.h"
 #include "model/strings.h"
 
 namespace plasmos {
@@ -38,7 +39,7 @@ constexpr DefaultName DefaultNames[] = {
 };
 
 [[noreturn]] void RaiseTooFewNames(int clan, int names) {
-    const auto where = game.Files != nullptr ? game.Files->PathOf(NamesFile) : std::string(NamesFile);
+    const auto where = services.Files != nullptr ? services.Files->PathOf(NamesFile) : std::string(NamesFile);
     throw RuntimeError(5, Concat("Invalid procedure call: ", where, " has ", names, " names for clan ", clan,
                                  " and must have ", game.MaxAmoeba));
 }
@@ -72,11 +73,11 @@ void NameFromDefaults() {
 }
 
 void NameFromFile() {
-    if (!game.Files->Exists(NamesFile)) {
+    if (!services.Files->Exists(NamesFile)) {
         WriteDefaultNames();
     }
     std::vector<std::string> namesOf[MaxClans + 1];
-    for (const auto& line : game.Files->ReadLines(NamesFile, MostLines)) {
+    for (const auto& line : services.Files->ReadLines(NamesFile, MostLines)) {
         const NameLine entry = ParseNameLine(line);
         if (const auto name = OneLine(entry.Name); !Trim(name).empty()) {
             namesOf[entry.Clan].emplace_back(Trim(name));
@@ -104,11 +105,11 @@ void WriteDefaultNames() {
     for (const DefaultName& entry : DefaultNames) {
         text += Concat(entry.Clan, " - ", entry.Name, "\n");
     }
-    game.Files->Rewrite(NamesFile, text);
+    services.Files->Rewrite(NamesFile, text);
 }
 
 void LoadAmoebaNames() {
-    if (game.Files != nullptr) {
+    if (services.Files != nullptr) {
         NameFromFile();
     } else {
         NameFromDefaults();

@@ -11,6 +11,7 @@
 #include "model/genes.h"
 #include "model/platform.h"
 #include "model/presentation.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "model/step.h"
 #include "model/strings.h"
@@ -38,7 +39,7 @@ void ChooseReplayNumber() {
         game.ReplayNo = static_cast<float>(SecondsSinceMidnight());
     }
     SeedRandom(game.ReplayNo);
-    if (game.Window != nullptr) {
+    if (services.Window != nullptr) {
         Board().ShowCaption(Concat("The Puddle  (", ReplayText(game.ReplayNo), ")"));
     }
 }
@@ -62,10 +63,10 @@ int GetPlayerCount() {
 
 std::string ClanName(int clan) {
     auto fallback = Concat("Player ", clan);
-    if (game.Settings == nullptr) {
+    if (services.Settings == nullptr) {
         return fallback;
     }
-    const auto name = FirstCharacters(game.Settings->Get("players", Concat("name", clan), {}), LongestName);
+    const auto name = FirstCharacters(services.Settings->Get("players", Concat("name", clan), {}), LongestName);
     return Trim(name).empty() ? fallback : name;
 }
 

@@ -14,6 +14,7 @@
 #include "model/observer.h"
 #include "model/platform.h"
 #include "model/presentation.h"
+#include "model/services.h"
 #include "model/trace.h"
 #include "rules/aggression.h"
 #include "rules/ask.h"
@@ -27,7 +28,7 @@ namespace plasmos {
 namespace {
 
 void WriteHeader() {
-    if (!TracesAreKept() && game.Window == nullptr) {
+    if (!TracesAreKept() && services.Window == nullptr) {
         return;
     }
     const auto header = Concat("Game: ", ReplayText(game.ReplayNo), " ", DateAndTime());
@@ -43,7 +44,7 @@ void TellInABox(const std::string& text) {
 
 /// Without its data folder no game begins.
 void RefuseGame(const std::string& fault) {
-    if (game.Window == nullptr) {
+    if (services.Window == nullptr) {
         std::fprintf(stderr, "%s\n", fault.c_str());
         throw ProgramEnd{1};
     }
@@ -54,7 +55,7 @@ void RefuseGame(const std::string& fault) {
 void EndBrokenGame(const RuntimeError& error) {
     const int clan = game.CurPlayer;
     AppendErrorRecord(error, clan, game.CurAmoeba);
-    if (game.Window == nullptr) {
+    if (services.Window == nullptr) {
         throw ProgramEnd{1};
     }
     const auto name = game.Players[clan].Name.String();
@@ -119,8 +120,8 @@ void PlayOneGame() {
     }
     LetMessageBeRead();
     AnnounceWinner();
-    if (game.Listener != nullptr) {
-        game.Listener->OnOver();
+    if (services.Listener != nullptr) {
+        services.Listener->OnOver();
     }
 }
 

@@ -6,16 +6,17 @@
 #include "model/board_size.h"
 #include "model/game_files.h"
 #include "model/game_state.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 
 namespace plasmos {
 
 std::string PrepareDataFolder() {
-    if (game.Files == nullptr) {
+    if (services.Files == nullptr) {
         return {};
     }
     try {
-        game.Files->MakeFolder();
+        services.Files->MakeFolder();
         return {};
     } catch (const RuntimeError& error) {
         return Concat("The data folder cannot be made.\n", std::string_view(error.what()));
@@ -35,7 +36,7 @@ BoardSize ReadBoardSettings(const SettingsStore& store) {
 }
 
 void LoadBoard() {
-    const BoardSize board = game.Settings != nullptr ? ReadBoardSettings(*game.Settings) : BoardSize{};
+    const BoardSize board = services.Settings != nullptr ? ReadBoardSettings(*services.Settings) : BoardSize{};
     SetBoard(board.Rows, board.Cols, BlocksText(board.Blocks));
 }
 

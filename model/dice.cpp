@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 
+#include "model/services.h"
 #include "model/strings.h"
 
 namespace plasmos {
@@ -37,15 +38,15 @@ void SeedRandom(float replayNo) {
 
 int RollDieHeard(int n) {
     int face = 1;
-    if (game.Tape != nullptr) {
-        face = game.Tape->Next(n);
+    if (services.Tape != nullptr) {
+        face = services.Tape->Next(n);
     } else {
         const std::uint64_t number = game.Generator.Next();
         face = n < 1 ? 1 : static_cast<int>((number * static_cast<std::uint64_t>(n)) >> 32U) + 1;
     }
     Sign(SignedEvent::Roll, n, face);
-    if (game.Listener != nullptr) {
-        game.Listener->OnRoll(n, face);
+    if (services.Listener != nullptr) {
+        services.Listener->OnRoll(n, face);
     }
     return face;
 }

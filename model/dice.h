@@ -6,6 +6,7 @@
 
 #include "model/game_state.h"
 #include "model/observer.h"
+#include "model/services.h"
 #include "model/signature.h"
 
 namespace plasmos {
@@ -35,7 +36,7 @@ int RollDieHeard(int n);
 /// One die with n faces, 1..n: the only source of chance in the rules. With n below 1 the result is
 /// 1, and a number is drawn all the same.
 inline int RollDie(int n) {
-    if (game.Tape != nullptr || game.Listener != nullptr) [[unlikely]] {
+    if (services.Tape != nullptr || services.Listener != nullptr) [[unlikely]] {
         return RollDieHeard(n);
     }
     const std::uint64_t number = game.Generator.Next();

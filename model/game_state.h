@@ -11,12 +11,6 @@
 
 namespace plasmos {
 
-class Presentation;
-class Observer;
-class GameFiles;
-class SettingsStore;
-class DiceTape;
-
 inline constexpr int MaxClans = 6;
 inline constexpr int MaxPieces = 7;
 inline constexpr int MaxSquares = 36;
@@ -77,7 +71,7 @@ struct MenuMarks {
     bool twoplayermen = false;  ///< clan 2 is a person's too
 };
 
-/// What a new game leaves as it is: the board, the switches, and whom the game talks to.
+/// What a new game leaves as it is: the board and the switches.
 struct GameSetup {
     int NumRows = 5;
     int NumCols = 5;
@@ -93,12 +87,6 @@ struct GameSetup {
     bool HasRequestedReplay = false;
     float RequestedReplay = 0;  ///< the replay number, when the one above is set
     MenuMarks Menu;
-
-    Presentation* Window = nullptr;     ///< nobody: nothing is shown and nobody can be asked
-    Observer* Listener = nullptr;       ///< hears rolls, steps and lines; may be nobody
-    GameFiles* Files = nullptr;         ///< nobody: no file is read or written
-    SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
-    DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none
 };
 
 /// What a new game starts afresh. Tables are dimensioned from 0 and leave index 0 unused.
@@ -152,7 +140,8 @@ struct GameTables {
     std::int64_t Decisions = 0;   ///< Move, Feed, Adapt, BuyGenes, Divide and Attack steps begun
 };
 
-/// The one game. Every rule reads and writes it by name.
+/// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it points
+/// outside but to texts of the program.
 struct GameState : GameSetup, GameTables {};
 
 static_assert(std::is_trivially_copyable_v<GameState>);

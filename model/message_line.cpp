@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "model/presentation.h"
+#include "model/services.h"
 
 namespace plasmos {
 
@@ -78,8 +79,8 @@ void LetMessageBeRead() {
 }
 
 void TakePause(int units) {
-    if (game.Window != nullptr) {
-        game.Window->Pause(units);
+    if (services.Window != nullptr) {
+        services.Window->Pause(units);
         game.PauseOwed = std::max(0, game.PauseOwed - units);
     }
 }

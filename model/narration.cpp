@@ -4,17 +4,18 @@
 #include "model/message_line.h"
 #include "model/observer.h"
 #include "model/presentation.h"
+#include "model/services.h"
 
 namespace plasmos {
 
 bool WordsAreWanted() {
-    return (game.Listener != nullptr && game.Listener->WantsText()) ||
-           (game.Window != nullptr && game.Window->WantsText());
+    return (services.Listener != nullptr && services.Listener->WantsText()) ||
+           (services.Window != nullptr && services.Window->WantsText());
 }
 
 void LogText(const std::string& line, int clan) {
-    if (game.Listener != nullptr) {
-        game.Listener->OnSay(line);
+    if (services.Listener != nullptr) {
+        services.Listener->OnSay(line);
     }
     Board().Log(line, clan);
 }

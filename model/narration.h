@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/game_state.h"
+#include "model/services.h"
 #include "model/text.h"
 
 namespace plasmos {
@@ -13,7 +14,7 @@ bool WordsAreWanted();
 
 /// Whether anybody reads the words of this game. Nothing is put into words when nobody does.
 inline bool SomebodyListens() {
-    return (game.Listener != nullptr || game.Window != nullptr) && WordsAreWanted();
+    return (services.Listener != nullptr || services.Window != nullptr) && WordsAreWanted();
 }
 
 /// Use Say, SayMore, Report and LogLine.

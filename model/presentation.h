@@ -7,6 +7,7 @@
 
 #include "model/game_state.h"
 #include "model/question.h"
+#include "model/services.h"
 
 namespace plasmos {
 
@@ -90,14 +91,14 @@ Presentation& SilentBoard();
 
 /// The current presentation; without one it is the silent board.
 inline Presentation& Board() {
-    return game.Window != nullptr ? *game.Window : SilentBoard();
+    return services.Window != nullptr ? *services.Window : SilentBoard();
 }
 
 /// Lets the current presentation show something, if there is one: Show(&Presentation::ShowBP, clan).
 template <class... Parameters, class... Arguments>
 void Show(void (Presentation::*what)(Parameters...), Arguments&&... arguments) {
-    if (game.Window != nullptr) {
-        (game.Window->*what)(std::forward<Arguments>(arguments)...);
+    if (services.Window != nullptr) {
+        (services.Window->*what)(std::forward<Arguments>(arguments)...);
     }
 }
 

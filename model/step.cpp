@@ -2,6 +2,7 @@
 #include "model/step.h"
 
 #include "model/consistency.h"
+#include "model/services.h"
 
 namespace plasmos {
 
@@ -29,8 +30,8 @@ std::string_view StepName(Step step) {
 
 void BeginStep(Step step, int clan, int amoeba) {
     game.Decisions += IsDecision(step) ? 1 : 0;
-    if (game.Listener != nullptr) {
-        game.Listener->OnBegin(step, clan, amoeba);
+    if (services.Listener != nullptr) {
+        services.Listener->OnBegin(step, clan, amoeba);
     }
 }
 
@@ -40,8 +41,8 @@ void EndStep(Step step, int clan, int amoeba) {
             throw RuntimeError(51, Concat("Internal error: after ", StepName(step), ": ", fault));
         }
     }
-    if (game.Listener != nullptr) {
-        game.Listener->OnEnd(step, clan, amoeba);
+    if (services.Listener != nullptr) {
+        services.Listener->OnEnd(step, clan, amoeba);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "model/dice.h"
 #include "model/game_files.h"
 #include "model/platform.h"
+#include "model/services.h"
 
 namespace plasmos {
 
@@ -18,7 +19,7 @@ constexpr int PauseBetweenTries = 50;
 /// Somebody may have deleted the folder since the game began.
 void MakeFolderAgain() {
     try {
-        game.Files->MakeFolder();
+        services.Files->MakeFolder();
     } catch (const RuntimeError&) {
         // The next try names what is wrong with the file itself.
     }
@@ -27,7 +28,7 @@ void MakeFolderAgain() {
 void AppendWithPatience(std::string_view file, const std::string& text) {
     for (int tried = 1;; ++tried) {
         try {
-            game.Files->Append(file, text);
+            services.Files->Append(file, text);
             return;
         } catch (const RuntimeError&) {
             if (tried == Tries) {
@@ -51,7 +52,7 @@ void WriteTrace(std::string_view text, std::string_view kind) {
 
 void EmptyMoveFile() {
     if (TracesAreKept()) {
-        game.Files->Rewrite(MoveFile, {});
+        services.Files->Rewrite(MoveFile, {});
     }
 }
 

@@ -6,12 +6,13 @@
 #include <string_view>
 
 #include "model/game_state.h"
+#include "model/services.h"
 
 namespace plasmos {
 
 /// Whether this game keeps files; without them no trace line needs to be built.
 inline bool TracesAreKept() {
-    return game.Files != nullptr;
+    return services.Files != nullptr;
 }
 
 /// Appends a text as one line: kind "rnd" or "rand" to the random-number file, "crt" nowhere, every

@@ -6,6 +6,7 @@
 #include "model/narration.h"
 #include "model/observer.h"
 #include "model/presentation.h"
+#include "model/services.h"
 
 namespace plasmos {
 
@@ -53,11 +54,11 @@ OpenQuestion::OpenQuestion(Question& question) : question_(question) {
     if (!IsAskedInMessageLine(question)) {
         LetMessageBeRead();
     }
-    if (game.Listener != nullptr) {
+    if (services.Listener != nullptr) {
         if (question.Kind == QuestionKind::Box) {
-            game.Listener->OnBox(question.Text);
+            services.Listener->OnBox(question.Text);
         } else {
-            game.Listener->OnAsk(question);
+            services.Listener->OnAsk(question);
         }
     }
     Board().Open(question_);
@@ -75,8 +76,8 @@ void OpenQuestion::Wait() {
 }
 
 void NoteAnswer(const Question& question, std::string_view value, bool accepted) {
-    if (game.Listener != nullptr) {
-        game.Listener->OnAnswer(question, value, accepted);
+    if (services.Listener != nullptr) {
+        services.Listener->OnAnswer(question, value, accepted);
     }
 }
 
@@ -151,7 +152,7 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
 }
 
 void ShowBox(int clan, const std::string& text) {
-    if (game.AutoPlay || game.Window == nullptr) {
+    if (game.AutoPlay || services.Window == nullptr) {
         LogBox(clan, text);
         return;
     }

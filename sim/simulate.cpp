@@ -8,6 +8,7 @@
 #include "flow/play_game.h"
 #include "model/consistency.h"
 #include "model/genes.h"
+#include "model/services.h"
 #include "model/step.h"
 #include "model/trace.h"
 #include "sim/journal.h"
@@ -108,7 +109,7 @@ void PrepareThread(const SimOptions& options, GameFiles* files) {
     game.RequestedClans = options.Clans;
     game.FastMode = true;
     game.HasRequestedReplay = true;
-    game.Files = files;
+    services.Files = files;
 }
 
 GameResult SimulateGame(const SimOptions& options, std::int64_t index) {
@@ -121,12 +122,12 @@ GameResult SimulateGame(const SimOptions& options, std::int64_t index) {
     std::optional<Robot> robot;
     if (options.Persons > 0) {
         robot.emplace(options.Robot, std::bit_cast<std::uint32_t>(result.Replay));
-        game.Window = &*robot;
+        services.Window = &*robot;
     }
-    game.Listener = options.Check || writes ? &journal : nullptr;
+    services.Listener = options.Check || writes ? &journal : nullptr;
     PlayCaught(options, result);
-    game.Listener = nullptr;
-    game.Window = nullptr;
+    services.Listener = nullptr;
+    services.Window = nullptr;
     result.Journal = journal.Text();
     return result;
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "model/game_state.h"
+#include "model/services.h"
 #include "sim/options.h"
 
 namespace plasmos {

@@ -9,6 +9,7 @@
 #include "model/game_state.h"
 #include "model/platform.h"
 #include "model/process.h"
+#include "model/services.h"
 #include "ui/end_signals.h"
 #include "ui/palette.h"
 #include "ui/qt_settings.h"
@@ -27,9 +28,9 @@ int main(int argc, char** argv) {
     PrepareApplication();
     DataFolder files(DataFolderPath());
     QtSettings settings;
-    game.Files = &files;
+    services.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
-    game.Settings = &settings;
+    services.Settings = &settings;
     settings.RemoveAbandonedDrafts();
     std::string fault = PrepareDataFolder();
     if (const auto refused = settings.Fault(); !refused.empty()) {

@@ -14,6 +14,7 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/process.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "ui/auto_person.h"
 #include "ui/palette.h"
@@ -210,8 +211,8 @@ int main(int argc, char** argv) {
     const QTemporaryDir folder;
     DataFolder files(folder.path().toStdString());
     MemorySettings settings;
-    game.Files = &files;
-    game.Settings = &settings;
+    services.Files = &files;
+    services.Settings = &settings;
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
     return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);

@@ -14,6 +14,7 @@
 #include "flow/start.h"
 #include "model/game_state.h"
 #include "model/runtime_error.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "model/text.h"
 #include "rules/ask.h"
@@ -70,7 +71,7 @@ UBoard::UBoard() {
     setPalette(LookPalette());
     setStyleSheet(LookSheet());
     setFont(LookFont(13));
-    game.Window = this;
+    services.Window = this;
     LoadBoard();
     setCentralWidget(new TableTop(this, track_, strip_));
     BuildMenus();
@@ -82,8 +83,8 @@ UBoard::UBoard() {
 }
 
 UBoard::~UBoard() {
-    if (game.Window == this) {
-        game.Window = nullptr;
+    if (services.Window == this) {
+        services.Window = nullptr;
     }
 }
 
@@ -200,11 +201,11 @@ void UBoard::LoadWindow() {
     const QSize least = LeastSize.boundedTo(most);
     setMinimumSize(least);
     QSize size = UsualSize.boundedTo(most);
-    if (game.Settings == nullptr) {
+    if (services.Settings == nullptr) {
         resize(size);
         return;
     }
-    const SettingsStore& store = *game.Settings;
+    const SettingsStore& store = *services.Settings;
     const int left = GetNumber(store, "board", "left", FarthestPixel, -FarthestPixel, FarthestPixel);
     const int top = GetNumber(store, "board", "top", FarthestPixel, -FarthestPixel, FarthestPixel);
     size.setWidth(GetNumber(store, "board", "width", size.width(), least.width(), most.width()));
@@ -258,7 +259,7 @@ void UBoard::KeepOnScreen() {
 }
 
 void UBoard::SaveWindow() {
-    if (game.Settings == nullptr || isMinimized()) {
+    if (services.Settings == nullptr || isMinimized()) {
         return;
     }
     QRect place(pos(), size());
@@ -269,8 +270,8 @@ void UBoard::SaveWindow() {
     const std::pair<const char*, int> values[] = {
         {"left", place.x()}, {"top", place.y()}, {"width", place.width()}, {"height", place.height()}};
     for (const auto& [key, value] : values) {
-        if (!game.Settings->Save("board", key, Concat(value))) {
-            qWarning("The window's position could not be saved in %s", game.Settings->Where().c_str());
+        if (!services.Settings->Save("board", key, Concat(value))) {
+            qWarning("The window's position could not be saved in %s", services.Settings->Where().c_str());
             return;
         }
     }

@@ -28,7 +28,7 @@ class ToolTips;
 /// window lives on inside Wait and Pause, nowhere else.
 ///
 /// It is the current game's window from its making to its end. Files and settings of the game are those
-/// that `game` points to when the window is made.
+/// that stand in `services` when the window is made.
 class UBoard : public QMainWindow, public Presentation {
     Q_OBJECT
 

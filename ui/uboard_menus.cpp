@@ -11,6 +11,7 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/platform.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "ui/environment_view.h"
 #include "ui/options_dialog.h"
@@ -84,7 +85,7 @@ void UBoard::BuildOptionsMenu() {
     twoplayermen_ = AddItem(options, "twoplayermen", QStringLiteral("T&wo Players"), true);
     options->addSeparator();
     pref_men_ = AddItem(options, "pref_men", QStringLiteral("&Preferences"), false);
-    game.FastMode = game.Settings != nullptr && game.Settings->Get("play", "fastmode", "0") == "1";
+    game.FastMode = services.Settings != nullptr && services.Settings->Get("play", "fastmode", "0") == "1";
     fast_men_->setChecked(game.FastMode);
     victorymen_->setChecked(game.Menu.victorymen);
     twoplayermen_->setChecked(game.Menu.twoplayermen);
@@ -98,8 +99,8 @@ void UBoard::BuildOptionsMenu() {
     connect(pref_men_, &QAction::triggered, this, [this] { pref_men_Click(); });
     connect(fast_men_, &QAction::triggered, this, [this](bool on) {
         game.FastMode = on;
-        if (game.Settings != nullptr && !game.Settings->Save("play", "fastmode", on ? "1" : "0")) {
-            Tell(QStringLiteral("The setting could not be saved in\n%1").arg(ToQt(game.Settings->Where())));
+        if (services.Settings != nullptr && !services.Settings->Save("play", "fastmode", on ? "1" : "0")) {
+            Tell(QStringLiteral("The setting could not be saved in\n%1").arg(ToQt(services.Settings->Where())));
         }
     });
 }
@@ -158,10 +159,10 @@ void UBoard::ToggleAutomatic(QAction& item, int column) {
 }
 
 void UBoard::pref_men_Click() {
-    if (playing_ || options_ != nullptr || game.Settings == nullptr || game.Files == nullptr) {
+    if (playing_ || options_ != nullptr || services.Settings == nullptr || services.Files == nullptr) {
         return;
     }
-    options_ = new OptionsDialog(this, *game.Settings, *game.Files);
+    options_ = new OptionsDialog(this, *services.Settings, *services.Files);
     options_->setAttribute(Qt::WA_DeleteOnClose);
     connect(options_, &QDialog::finished, this, [this, dialog = options_.data()] { OptionsClosed(dialog->SaveTried); });
     EnableStart();
@@ -171,7 +172,7 @@ void UBoard::pref_men_Click() {
 void UBoard::OptionsClosed(bool saveTried) {
     options_ = nullptr;
     EnableStart();
-    if (saveTried || (game.Files != nullptr && game.Files->Exists(OptionsFile))) {
+    if (saveTried || (services.Files != nullptr && services.Files->Exists(OptionsFile))) {
         const GameSetup before = game;
         LoadBoard();
         if (before.NumRows != game.NumRows || before.NumCols != game.NumCols || before.Blocked != game.Blocked) {

@@ -11,6 +11,7 @@
 #include "flow/play_game.h"
 #include "flow/start.h"
 #include "model/consistency.h"
+#include "model/services.h"
 #include "model/trace.h"
 #include "rules/ask.h"
 #include "rules/movement.h"
@@ -61,7 +62,7 @@ protected:
     /// What the person is told when a game of computer clans is played with the folder as it is; the
     /// winner is no news.
     std::vector<std::string> BoxesOfAGame() {
-        game.Files = &files;
+        services.Files = &files;
         board_.Boxes.clear();
         PlayUnattended();
         std::vector<std::string> boxes;
@@ -75,7 +76,7 @@ protected:
     /// Two pieces that drift to the right, one square each.
     void TwoDrift() {
         NewPosition(3);
-        game.Files = &files;
+        services.Files = &files;
         game.Turn = 2;
         game.Drift = 1;
         Put(1, 1, 7);
@@ -90,7 +91,7 @@ protected:
 TEST_F(DiskTrouble, AForbiddenPlaceForTheFolderIsNamedAndNoGameBegins) {
     fs::permissions(Home(), fs::perms(0555));
     const AsNobody nobody;
-    game.Files = &files;
+    services.Files = &files;
     EXPECT_THAT(PrepareDataFolder(), AllOf(HasSubstr("Permission denied"), HasSubstr(folder)));
     EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr("Permission denied"), HasSubstr(folder))));
     EXPECT_EQ(game.Turn, 0);

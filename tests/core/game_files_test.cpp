@@ -10,6 +10,7 @@
 
 #include "model/platform.h"
 #include "model/runtime_error.h"
+#include "model/services.h"
 #include "model/trace.h"
 #include "tests/support/on_disk.h"
 
@@ -111,7 +112,7 @@ TEST_F(OnDisk, ACutLineKeepsItsEncoding) {
 
 TEST_F(OnDisk, ATraceGoesToTheDisk) {
     files.MakeFolder();
-    game.Files = &files;
+    services.Files = &files;
     WriteTrace("\n\nGame: 42 2024-02-29 12:34:56\n", "");
     EXPECT_EQ(Bytes(MoveFile), "\r\n\r\nGame: 42 2024-02-29 12:34:56\r\n\r\n");
     EmptyMoveFile();

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "model/presentation.h"
+#include "model/services.h"
 #include "tests/support/game_fixture.h"
 
 namespace plasmos::testing {
@@ -189,8 +190,8 @@ TEST_F(BuyingGenes, ANewGameTakesEveryGeneBack) {
 /// Hears what is said and shown while genes change hands.
 class GeneEar : public Presentation {
 public:
-    GeneEar() { game.Window = this; }
-    ~GeneEar() override { game.Window = nullptr; }
+    GeneEar() { services.Window = this; }
+    ~GeneEar() override { services.Window = nullptr; }
     void ShowMessage(std::string_view text, int) override { Shown.emplace_back(text); }
     void Log(std::string_view line, int) override { Logged.emplace_back(line); }
     void ShowGenes(int clan) override { Steps.push_back(Concat("genes ", clan)); }

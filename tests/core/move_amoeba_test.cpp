@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/move_amoeba.h"
+#include "model/services.h"
 
 #include <gmock/gmock.h>
 
@@ -258,7 +259,7 @@ TEST_F(Moving, TheLinesReachTheMoveFileOfADataFolder) {
     const auto folder = std::filesystem::temp_directory_path() / Concat("plasmos_moves_", ::getpid());
     DataFolder data(folder.string());
     data.MakeFolder();
-    game.Files = &data;
+    services.Files = &data;
     {
         Script script({9});
         MoveAmoeba(1, 1, 14);

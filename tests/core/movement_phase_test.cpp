@@ -5,6 +5,7 @@
 
 #include "model/observer.h"
 #include "model/question.h"
+#include "model/services.h"
 #include "rules/movement.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/memory_files.h"
@@ -20,8 +21,8 @@ using ::testing::IsEmpty;
 /// Hears the steps: "Move 2,1", "Feed 2,1".
 class StepEar : public Observer {
 public:
-    StepEar() { game.Listener = this; }
-    ~StepEar() override { game.Listener = nullptr; }
+    StepEar() { services.Listener = this; }
+    ~StepEar() override { services.Listener = nullptr; }
     void OnRoll(int, int) override {}
     void OnBegin(Step step, int clan, int amoeba) override {
         Steps.push_back(Concat(StepName(step), " ", clan, ",", amoeba));

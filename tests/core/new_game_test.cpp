@@ -8,6 +8,7 @@
 
 #include "flow/names.h"
 #include "flow/personalities.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
@@ -234,13 +235,13 @@ TEST_F(NewGameTest, ClanNamesComeFromTheSettings) {
     settings.Save("players", "name1", "Blue ones");
     settings.Save("players", "name2", "   ");
     settings.Save("players", "name4", "Thirty characters are too much");
-    game.Settings = &settings;
+    services.Settings = &settings;
     Begin(1, 4);
     EXPECT_EQ(game.Players[1].Name, "Blue ones");
     EXPECT_EQ(game.Players[2].Name, "Player 2");
     EXPECT_EQ(game.Players[3].Name, "Player 3");
     EXPECT_EQ(game.Players[4].Name, "Thirty characters ar");
-    game.Settings = nullptr;
+    services.Settings = nullptr;
 }
 
 TEST_F(NewGameTest, NoTwoPiecesOfAClanShareAName) {

@@ -11,6 +11,7 @@
 #include <new>
 
 #include "model/file_draft.h"
+#include "model/services.h"
 #include "model/trace.h"
 #include "tests/support/most_bytes.h"
 #include "tests/support/on_disk.h"
@@ -234,18 +235,18 @@ protected:
 };
 
 TEST_F(ErrorRecordsOnDisk, AreWrittenInAFolderThatSomebodyDeleted) {
-    game.Files = &files;
+    services.Files = &files;
     EXPECT_EQ(Appended(), "");
     EXPECT_THAT(Bytes(ErrorFile), HasSubstr("Error #9: Subscript out of range"));
 }
 
 TEST_F(ErrorRecordsOnDisk, NeverFailWhateverTheFilesDo) {
     BrokenFiles broken;
-    game.Files = &broken;
+    services.Files = &broken;
     EXPECT_THAT(Appended(), AllOf(HasSubstr("errfile.txt"), HasSubstr("Error #9: Subscript out of range")));
     files.MakeFolder();
     LayPipe(files.PathOf(ErrorFile));
-    game.Files = &files;
+    services.Files = &files;
     EXPECT_THAT(Appended(), AllOf(HasSubstr(files.PathOf(ErrorFile)), HasSubstr("Error #9: Subscript out of range")));
 }
 

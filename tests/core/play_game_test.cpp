@@ -6,6 +6,7 @@
 #include "flow/scoring.h"
 #include "flow/start.h"
 #include "model/consistency.h"
+#include "model/services.h"
 #include "rules/aggression.h"
 #include "rules/ask.h"
 #include "rules/division.h"
@@ -66,9 +67,9 @@ TEST_F(PlayGameTest, TwoGamesWithTheSameAnswersGiveEqualMoveFilesToo) {
     std::vector<std::string> moves;
     for (int time = 0; time < 2; ++time) {
         Robot robot(7, 1);
-        game.Window = &robot;
+        services.Window = &robot;
         PlayGame();
-        game.Window = nullptr;
+        services.Window = nullptr;
         moves.push_back(WithoutDates(files_.Files["movefil.txt"]));
     }
     EXPECT_EQ(moves[0], moves[1]);
@@ -174,7 +175,7 @@ TEST_F(PlayGameTest, WithoutItsFolderAGameIsRefused) {
 
 TEST_F(PlayGameTest, ATraceLineIsTriedThreeTimes) {
     NewPosition(3);
-    game.Files = &files_;
+    services.Files = &files_;
     game.Turn = 2;
     game.Drift = 1;
     Put(1, 1, 7);
@@ -188,7 +189,7 @@ TEST_F(PlayGameTest, ATraceLineIsTriedThreeTimes) {
 
 TEST_F(PlayGameTest, ADiskThatIsFullInTheMiddleOfMovesLeavesEveryPieceWhereItIs) {
     NewPosition(3);
-    game.Files = &files_;
+    services.Files = &files_;
     game.Turn = 2;
     game.Drift = 1;
     Put(1, 1, 7);

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "flow/play_game.h"
+#include "model/services.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/line_reader.h"
 #include "tests/support/test_scale.h"
@@ -30,7 +31,7 @@ protected:
     static constexpr int Games = 20;
 
     static void PlayOne(LineReader& reader, int replay) {
-        game.Window = &reader;
+        services.Window = &reader;
         game.HasRequestedReplay = true;
         game.RequestedReplay = static_cast<float>(replay);
         game.RequestedClans = 3 + replay % 4;
@@ -41,7 +42,7 @@ protected:
             PlayGame();
         }
         reader.Finish();
-        game.Window = nullptr;
+        services.Window = nullptr;
     }
 
     void Count(const LineReader& reader) {

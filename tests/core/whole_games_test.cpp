@@ -7,6 +7,7 @@
 #include "model/consistency.h"
 #include "model/observer.h"
 #include "model/question.h"
+#include "model/services.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
 
@@ -16,8 +17,8 @@ namespace {
 /// Looks through the whole state after every step of a game.
 class StateWatcher : public Observer {
 public:
-    StateWatcher() { game.Listener = this; }
-    ~StateWatcher() override { game.Listener = nullptr; }
+    StateWatcher() { services.Listener = this; }
+    ~StateWatcher() override { services.Listener = nullptr; }
 
     void OnRoll(int n, int face) override {
         if (n >= 1 && (face < 1 || face > n)) {

@@ -3,6 +3,7 @@
 #include "model/consistency.h"
 #include "model/genes.h"
 #include "model/presentation.h"
+#include "model/services.h"
 #include "rules/ask.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
@@ -18,8 +19,8 @@ namespace {
 /// A person whose answers are the bytes; after their end it gives the plainest answer.
 class TypingPerson : public Presentation {
 public:
-    explicit TypingPerson(Bytes& bytes) : bytes_(bytes) { game.Window = this; }
-    ~TypingPerson() override { game.Window = nullptr; }
+    explicit TypingPerson(Bytes& bytes) : bytes_(bytes) { services.Window = this; }
+    ~TypingPerson() override { services.Window = nullptr; }
 
     bool WantsText() const override { return false; }
     void Open(Question& question) override { open_.push_back(&question); }

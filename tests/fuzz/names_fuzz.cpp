@@ -5,6 +5,7 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/line_collector.h"
+#include "model/services.h"
 #include "tests/fuzz/fuzz.h"
 
 namespace plasmos::fuzz {
@@ -36,7 +37,7 @@ void NamePieces(Bytes& bytes) {
     game.NumPlayers = 3 + bytes.Below(4);
     game.MaxAmoeba = game.NumPlayers >= 5 ? 6 : 7;
     OneFile files(bytes.Rest());
-    game.Files = &files;
+    services.Files = &files;
     try {
         LoadAmoebaNames();
         for (int clan = 1; clan <= game.NumPlayers; ++clan) {
@@ -48,7 +49,7 @@ void NamePieces(Bytes& bytes) {
     } catch (const RuntimeError& error) {
         Require(error.Number == 5, "too few names are error 5");
     }
-    game.Files = nullptr;
+    services.Files = nullptr;
 }
 
 }  // namespace

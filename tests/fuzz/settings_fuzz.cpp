@@ -7,6 +7,7 @@
 #include "model/encoding.h"
 #include "model/game_files.h"
 #include "model/game_state.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "tests/fuzz/fuzz.h"
 #include "ui/options_model.h"
@@ -38,7 +39,7 @@ void Act(OptionsModel& model, Bytes& bytes) {
 }
 
 void LoadAndPlay(MemorySettings& settings) {
-    game.Settings = &settings;
+    services.Settings = &settings;
     Require(BoardFault(ReadBoardSettings(settings)).empty(), "the saved board is inside the bounds");
     LoadBoard();
     game.AutoPlay = true;
@@ -48,7 +49,7 @@ void LoadAndPlay(MemorySettings& settings) {
     for (int clan = 1; clan <= 6; ++clan) {
         Require(!game.Players[clan].Name.Empty() && IsValidUtf8(game.Players[clan].Name), "every clan has a name");
     }
-    game.Settings = nullptr;
+    services.Settings = nullptr;
 }
 
 }  // namespace

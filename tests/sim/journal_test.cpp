@@ -7,6 +7,7 @@
 
 #include "flow/play_game.h"
 #include "model/dice.h"
+#include "model/services.h"
 #include "sim/journal.h"
 #include "sim/simulate.h"
 #include "tests/support/game_fixture.h"
@@ -121,10 +122,10 @@ TEST_F(JournalTest, ItsRollsPlayTheSameGameAgain) {
             }
         }
         DiceTape tape(rolls);
-        game.Tape = &tape;
+        services.Tape = &tape;
         EXPECT_EQ(JournalOf(replay), first);
         EXPECT_TRUE(tape.AtEnd());
-        game.Tape = nullptr;
+        services.Tape = nullptr;
     }
 }
 

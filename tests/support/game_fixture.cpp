@@ -92,6 +92,7 @@ std::string HeldGenes(int clan) {
 
 void ForgetGame() {
     static_cast<GameSetup&>(game) = GameSetup{};
+    services = Services{};
     SetBoard(DefaultSide, DefaultSide);
     ResetTables();
 }

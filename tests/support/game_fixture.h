@@ -11,6 +11,7 @@
 #include "model/dice.h"
 #include "model/game_state.h"
 #include "model/genes.h"
+#include "model/services.h"
 
 namespace plasmos::testing {
 
@@ -45,9 +46,11 @@ std::string HeldGenes(int clan);
 /// its end fail the test.
 class Script {
 public:
-    explicit Script(std::vector<int> rolls) : tape_(std::move(rolls)), before_(game.Tape) { game.Tape = &tape_; }
+    explicit Script(std::vector<int> rolls) : tape_(std::move(rolls)), before_(services.Tape) {
+        services.Tape = &tape_;
+    }
     ~Script() {
-        game.Tape = before_;
+        services.Tape = before_;
         if (!mayBeLeft_ && !tape_.AtEnd()) {
             ADD_FAILURE() << "not every roll of the script was rolled";
         }

@@ -8,11 +8,12 @@
 #include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/platform.h"
+#include "model/services.h"
 
 int main() {
     using namespace plasmos;
     DataFolder files(DataFolderPath());
-    game.Files = &files;
+    services.Files = &files;
     if (const auto fault = PrepareDataFolder(); !fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());
         return 1;

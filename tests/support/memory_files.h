@@ -10,6 +10,7 @@
 #include "model/game_state.h"
 #include "model/line_collector.h"
 #include "model/runtime_error.h"
+#include "model/services.h"
 #include "model/text.h"
 
 namespace plasmos::testing {
@@ -17,8 +18,8 @@ namespace plasmos::testing {
 /// The files of a game in memory, which fail when they are told to.
 class MemoryFiles : public GameFiles {
 public:
-    MemoryFiles() { game.Files = this; }
-    ~MemoryFiles() override { game.Files = nullptr; }
+    MemoryFiles() { services.Files = this; }
+    ~MemoryFiles() override { services.Files = nullptr; }
 
     std::string PathOf(std::string_view name) const override { return Concat("memory/", name); }
     void MakeFolder() override {

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "model/game_state.h"
+#include "model/services.h"
 #include "rules/ask.h"
 #include "rules/choice_forms.h"
 #include "rules/food_form.h"
@@ -80,12 +81,12 @@ Asked Remember(const Question& question) {
 }  // namespace
 
 ScriptedBoard::ScriptedBoard() {
-    game.Window = this;
+    services.Window = this;
 }
 
 ScriptedBoard::~ScriptedBoard() {
-    if (game.Window == this) {
-        game.Window = nullptr;
+    if (services.Window == this) {
+        services.Window = nullptr;
     }
     if (!failure_.empty()) {
         ADD_FAILURE() << failure_;

@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "model/game_files.h"
+#include "model/services.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
 #include "tests/ui/support/program.h"
@@ -99,8 +100,8 @@ int ClosingTest::Play(int clans, bool two, int at, Way way) {
     const QTemporaryDir folder(FolderTemplate());
     DataFolder files(folder.path().toStdString());
     QtSettings settings(folder.path() + QStringLiteral("/settings.ini"));
-    game.Files = &files;
-    game.Settings = &settings;
+    services.Files = &files;
+    services.Settings = &settings;
     game.HasRequestedReplay = true;
     game.RequestedReplay = static_cast<float>(clans);
     game.RequestedClans = clans;
@@ -290,8 +291,8 @@ int PlayOn(int argc, char** argv) {
     PrepareApplication();
     DataFolder files(qEnvironmentVariable("PLASMOS_DATA").toStdString());
     QtSettings settings;
-    game.Files = &files;
-    game.Settings = &settings;
+    services.Files = &files;
+    services.Settings = &settings;
     const bool fault = std::strcmp(argv[1], "--fault") == 0;
     const bool watch = fault || std::strcmp(argv[1], "--watch") == 0;
     ClosingBoard board;
@@ -301,7 +302,7 @@ int PlayOn(int argc, char** argv) {
         game.RequestedReplay = 5;
         game.RequestedClans = 4;
         board.At = 60;
-        board.OnAt = [&noMoreRolls] { game.Tape = &noMoreRolls; };
+        board.OnAt = [&noMoreRolls] { services.Tape = &noMoreRolls; };
     } else if (argc == 4) {
         board.How = Ways[std::atoi(argv[2])];
         board.At = std::atoi(argv[3]);

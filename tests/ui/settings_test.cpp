@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "flow/start.h"
+#include "model/services.h"
 #include "model/settings_store.h"
 #include "tests/ui/support/preferences.h"
 
@@ -189,7 +190,7 @@ void SettingsTest::cannotBeSaved() {
     Scene scene;
     ReadOnlySettings settings;
     settings.Values[{"board", "rows"}] = "4";
-    game.Settings = &settings;
+    services.Settings = &settings;
     scene.Reopen();
     scene.Menu(QStringLiteral("pref_men"));
     auto* dialog = scene.Board().findChild<OptionsDialog*>(QStringLiteral("frmOptions"));
@@ -204,7 +205,7 @@ void SettingsTest::cannotBeSaved() {
     QCOMPARE(dialog->findChild<QSpinBox*>(QStringLiteral("rowUD"))->value(), 5);
     QVERIFY(!scene.Files().Exists(OptionsFile));
     dialog->close();
-    game.Settings = nullptr;
+    services.Settings = nullptr;
 }
 
 void SettingsTest::theStoreIsInTheWay() {
@@ -244,7 +245,7 @@ void SettingsTest::theOptionsFileCannotBeWritten() {
 void SettingsTest::theFastModeCannotBeSaved() {
     Scene scene;
     ReadOnlySettings settings;
-    game.Settings = &settings;
+    services.Settings = &settings;
     scene.Menu(QStringLiteral("fast_men"));
     QCoreApplication::processEvents();
     QVERIFY2(game.FastMode, "it counts all the same, for this time");
@@ -252,7 +253,7 @@ void SettingsTest::theFastModeCannotBeSaved() {
     QVERIFY(box != nullptr && box->isVisible());
     QVERIFY(box->text().contains(QStringLiteral("/read/only")));
     box->close();
-    game.Settings = nullptr;
+    services.Settings = nullptr;
 }
 
 // Light or dark, letters stand out against what is behind them.
@@ -279,14 +280,14 @@ void SettingsTest::aDarkDesktop() {
         const QImage page = window.Dialog()->grab().toImage();
         QVERIFY(qGray(page.pixel(8, page.height() - 8)) > 200);
         window.Press("cmdCancel");
-        game.Settings = &settings;
+        services.Settings = &settings;
         window.Menu(QStringLiteral("fast_men"));
         auto* box = window.Board().findChild<QMessageBox*>();
         QVERIFY(box != nullptr);
         QVERIFY(legible(box));
         QVERIFY(qGray(box->grab().toImage().pixel(4, 4)) > 200);
         box->close();
-        game.Settings = &window.Settings();
+        services.Settings = &window.Settings();
     }
     QApplication::setPalette(before);
 }

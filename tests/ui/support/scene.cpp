@@ -19,6 +19,7 @@
 
 #include "model/presentation.h"
 #include "model/runtime_error.h"
+#include "model/services.h"
 #include "rules/ask.h"
 #include "tests/support/game_fixture.h"
 #include "ui/auto_person.h"
@@ -79,8 +80,8 @@ Scene::Scene(const std::vector<SavedValue>& saved) : folder_(FolderTemplate()) {
         settings_->Save(value.Section, value.Key, value.Value);
     }
     files_->MakeFolder();
-    game.Files = files_.get();
-    game.Settings = settings_.get();
+    services.Files = files_.get();
+    services.Settings = settings_.get();
     Open();
 }
 
@@ -103,7 +104,7 @@ void Scene::Open() {
 void Scene::Reopen() {
     board_->close();
     board_.reset();
-    game.Window = nullptr;
+    services.Window = nullptr;
     Open();
 }
 
@@ -175,7 +176,7 @@ int Scene::Asked() const {
 
 void Scene::Roll(std::vector<int> rolls) {
     tape_ = std::make_unique<DiceTape>(std::move(rolls));
-    game.Tape = tape_.get();
+    services.Tape = tape_.get();
 }
 
 void Scene::Answer(Question& question) {
@@ -232,7 +233,7 @@ void Scene::Run(const std::function<void()>& rule, const char* file, int line) {
     if (fault_.empty() && !AllRolled()) {
         fault_ = "not every roll was rolled";
     }
-    game.Tape = nullptr;
+    services.Tape = nullptr;
     tape_.reset();
     steps_.clear();
     next_ = 0;
