@@ -18,6 +18,7 @@ namespace {
 
 constexpr int Gap = 8;
 constexpr int QuestionHeight = 154;
+constexpr int LeastQuestion = 124;
 constexpr int LeastLog = 48;
 constexpr int PleasantLog = 130;
 
@@ -66,7 +67,10 @@ int SideStrip::ArrangeHead() {
     Environment->setVisible(shown);
     int top = shown ? environment + Gap : 0;
     if (playing_) {
-        const int question = panels_.empty() ? QuestionHeight : Question->HeightFor(width(), true);
+        // The card gives way as long as the clans find room below it.
+        const int left = height() - top - Gap - Clans->ShortHeight();
+        const int question =
+            panels_.empty() ? std::clamp(left, LeastQuestion, QuestionHeight) : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {

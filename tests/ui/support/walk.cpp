@@ -238,6 +238,18 @@ void Walk::SeeTheBoard(const Question& question) {
     if (const std::string why = WhyNotWhole(line); !why.empty()) {
         Fail(Concat("the message line: ", why));
     }
+    const auto* label = qobject_cast<QLabel*>(line);
+    if (question.Kind == QuestionKind::YesNo) {
+        const QRect needed =
+            label->fontMetrics().boundingRect(QRect(0, 0, line->width(), 10000), Qt::TextWordWrap, label->text());
+        if (needed.height() > line->height()) {
+            Fail(Concat("the question's text needs ", needed.height(), " of ", line->height(), " pixels"));
+        }
+    }
+    const bool dialog = question.Kind != QuestionKind::YesNo && question.Kind != QuestionKind::Square;
+    if (!dialog && !Sees(QStringLiteral("orderlab5"))) {
+        Fail("the clans' scores are hidden");
+    }
 }
 
 void Walk::TakePicture(std::string_view name) {
