@@ -5,7 +5,7 @@ namespace plasmos {
 
 /// Deals every computer clan its personality by die, no card twice ("Eater" is in the deck twice). With
 /// three clans the "Miser" is left out; with difficulty "Normal" Ray Protection becomes a favourite of
-/// all. Where no "Eater" was dealt, everybody's favourites are thinned out.
+/// all. Where no "Eater" was dealt, the computer clans' favourites are thinned out.
 void DealPersonalities();
 
 }  // namespace plasmos

@@ -21,7 +21,7 @@ constexpr int AmoebaPointsFew[8] = {0, 0, 0, 1, 2, 4, 5, 6};
 constexpr int AmoebaPointsMany[8] = {0, 0, 1, 2, 4, 5, 6, 7};
 constexpr int GenePoints[8] = {0, 0, 0, 1, 2, 3, 4, 4};
 
-/// The first clan in clan-number order that shares the clan's space; 0: none.
+/// Whether another clan's marker stands on the clan's space.
 bool SharesSpace(int clan) {
     for (int other = 1; other <= game.NumPlayers; ++other) {
         if (other != clan && game.Players[other].Score == game.Players[clan].Score) {

@@ -90,6 +90,7 @@ const DialogRow DialogRows[] = {
     {"struggle_without_a_victim_starves_at_once", {"sfs"}, 3, [] {}, false},
     {"struggle_among_its_own_clan_starves_at_once", {"sfs"}, 3, [] { Put(1, 2, 13); }, false},
     {"armour_protects_from_struggle", {"sfs"}, 3, [] { Neighbour(2, 3, "arm"); }, false},
+    {"hosts_in_armour_alone_are_not_thought_of", {"sfs", "par"}, 3, [] { Neighbour(2, 3, "arm"); }, false},
     {"armour_does_not_protect_from_aggression", {"agg"}, 3, [] { Neighbour(2, 3, "arm"); }, true, true},
     {"one_without_armour_is_enough", {"sfs"}, 3, [] { Neighbour(2, 3, "arm"); Neighbour(3, 3); }, true, true},
     {"who_can_eat_may_not_struggle", {"sfs"}, 3, [] { Neighbour(2, 3); Feed(13, {0, 1, 1, 1}); }, true, false, false,
