@@ -3,6 +3,7 @@
 // Answers at the board window: by the mouse, by keys, pressed twice, held, or where nobody asks.
 
 #include <QTimer>
+#include <QWindow>
 #include <cstring>
 
 #include "rules/ask.h"
@@ -115,8 +116,8 @@ void BoardAnswersTest::heldKeysAnswerNothing() {
 
 void BoardAnswersTest::keysAnswer() {
     PositionScene scene;
-    scene.Then(QuestionKind::YesNo, [&] { QTest::keyClick(&scene.Board(), Qt::Key_Y); });
-    scene.Then(QuestionKind::YesNo, [&] { QTest::keyClick(&scene.Board(), Qt::Key_N); });
+    scene.Then(QuestionKind::YesNo, [&] { QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Y); });
+    scene.Then(QuestionKind::YesNo, [&] { QTest::keyClick(scene.Board().windowHandle(), Qt::Key_N); });
     scene.Then(QuestionKind::YesNo, [&] {
         QCOMPARE(scene.Board().focusWidget(), scene.Find(QStringLiteral("yesb")));
         scene.Key(QStringLiteral("yesb"), Qt::Key_Return);
@@ -132,11 +133,11 @@ void BoardAnswersTest::squaresByTheKeyboard() {
         QCOMPARE(scene.Board().focusWidget(), &scene.Puddle());
         for (const Qt::Key key :
              {Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Up, Qt::Key_Left}) {
-            QTest::keyClick(&scene.Puddle(), key);
+            scene.Key(QStringLiteral("Picture1"), key);
         }
-        QTest::keyClick(&scene.Puddle(), Qt::Key_Return);
-        QTest::keyClick(&scene.Puddle(), Qt::Key_Right);
-        QTest::keyClick(&scene.Puddle(), Qt::Key_Space);
+        scene.Key(QStringLiteral("Picture1"), Qt::Key_Return);
+        scene.Key(QStringLiteral("Picture1"), Qt::Key_Right);
+        scene.Key(QStringLiteral("Picture1"), Qt::Key_Space);
     });
     PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 8}), 8));
 }

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QWindow>
 
 #include "model/runtime_error.h"
 #include "tests/ui/support/preferences.h"
@@ -86,7 +87,9 @@ void ControlsTest::theStart() {
         QCOMPARE(WhyNotWhole(scene.Find(QString::fromLatin1(name))), std::string());
     }
     scene.Press(scene.Find(QStringLiteral("txtReplay")));
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("12"));
+    for (const char digit : {'1', '2'}) {
+        QTest::keyClick(scene.Board().windowHandle(), digit);
+    }
     QCOMPARE(scene.Text(QStringLiteral("txtReplay")), QStringLiteral("12"));
     game.RequestedClans = 3;
     PLAY(scene, scene.Click(QStringLiteral("watchb")));

@@ -346,7 +346,7 @@ void DialogsAdaptTest::closingIsDone_data() {
 void DialogsAdaptTest::closingIsDone() {
     QFETCH(bool, key);
     const auto close = [key](Scene& scene) {
-        key ? scene.Key(QStringLiteral("gcheck5"), Qt::Key_Escape) : scene.Click(QStringLiteral("closeb"));
+        key ? scene.Key(QStringLiteral("doneb"), Qt::Key_Escape) : scene.Click(QStringLiteral("closeb"));
     };
     AdaptScene scene(3);
     scene.ThenGenes([&] { close(scene); });

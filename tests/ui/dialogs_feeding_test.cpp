@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 
 #include "model/consistency.h"
 #include "rules/feeding.h"
@@ -264,7 +265,7 @@ void DialogsFeedingTest::theTabKeyGoesThroughTheDialog() {
         const char* names[] = {"fdtxt1", "fdtxt2", "fdtxt4", "suggestb", "eatb"};
         for (const char* name : names) {
             QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(name));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Tab);
         }
         scene.Enter({1, 1, 0, 1});
         scene.Eat();

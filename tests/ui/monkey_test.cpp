@@ -10,6 +10,7 @@
 #include <QPalette>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include "model/consistency.h"
 #include "model/pcg32.h"
@@ -77,8 +78,7 @@ private:
         constexpr Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Space,  Qt::Key_Escape, Qt::Key_Tab,  Qt::Key_Left,
                                     Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Y,    Qt::Key_N,
                                     Qt::Key_F1,     Qt::Key_Delete, Qt::Key_9,      Qt::Key_Minus};
-        QWidget* focus = QApplication::focusWidget();
-        QTest::keyClick(focus != nullptr ? focus : &scene_.Board(), keys[Below(static_cast<int>(std::size(keys)))]);
+        QTest::keyClick(scene_.Board().windowHandle(), keys[Below(static_cast<int>(std::size(keys)))]);
     }
     void ChooseAnItem() {
         const char* items[] = {"autoeat_men", "autoten_men", "sqno_men", "lines_men", "fast_men",    "easymen",

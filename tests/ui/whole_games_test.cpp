@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTextEdit>
+#include <QWindow>
 #include <array>
 #include <cstring>
 
@@ -101,8 +102,8 @@ void Meddle(Scene& scene, const Question& question) {
                 scene.Click(QString::fromLatin1(name));
             }
         }
-        QTest::keyClick(&scene.Board(), Qt::Key_Y);
-        QTest::keyClick(&scene.Board(), Qt::Key_N);
+        QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Y);
+        QTest::keyClick(scene.Board().windowHandle(), Qt::Key_N);
     }
     scene.Board().gob_Click();
     scene.Board().watch_Click();

@@ -110,8 +110,9 @@ public:
     void Release(QWidget* control, Qt::MouseButton button);
     /// What the window system sends for a double click: press, release, double click, release.
     void DoubleClick(QWidget* widget, QPoint point = {-1, -1}, Qt::MouseButton button = Qt::LeftButton);
+    /// A key pressed while a control has the keyboard; one that cannot have it is a failure of the test.
     void Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Replaces the text of a field.
+    /// Replaces the text of a field, letter by letter.
     void Type(const QString& name, const QString& text);
     /// Replaces the text of a field at one stroke, as from the clipboard.
     void Paste(const QString& name, const QString& text);

@@ -77,7 +77,14 @@ void Scene::Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifier
         Fail("there is no " + name.toStdString() + " for a key");
         return;
     }
-    QTest::keyClick(widget, key, modifiers);
+    if (!widget->hasFocus() && widget->focusPolicy() != Qt::NoFocus) {
+        widget->setFocus(Qt::TabFocusReason);
+    }
+    if (!widget->hasFocus()) {
+        Fail(name.toStdString() + " has not got the keyboard");
+        return;
+    }
+    QTest::keyClick(widget->window()->windowHandle(), key, modifiers);
 }
 
 QLineEdit* Scene::FieldToFill(const QString& name) {
@@ -87,13 +94,23 @@ QLineEdit* Scene::FieldToFill(const QString& name) {
         return nullptr;
     }
     field->setFocus();
+    if (!field->hasFocus()) {
+        Fail(name.toStdString() + " has not got the keyboard");
+        return nullptr;
+    }
     field->selectAll();
     return field;
 }
 
 void Scene::Type(const QString& name, const QString& text) {
     if (QLineEdit* field = FieldToFill(name); field != nullptr) {
-        text.isEmpty() ? QTest::keyClick(field, Qt::Key_Delete) : QTest::keyClicks(field, text);
+        QWindow* window = field->window()->windowHandle();
+        if (text.isEmpty()) {
+            QTest::keyClick(window, Qt::Key_Delete);
+        }
+        for (const QChar letter : text) {
+            QTest::keyClick(window, letter.toLatin1());
+        }
     }
 }
 
