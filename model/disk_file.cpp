@@ -6,6 +6,7 @@
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <sys/file.h>
 #include <unistd.h>
 #endif
 
@@ -107,6 +108,32 @@ int LastReason() {
     return errno == 0 ? EIO : errno;
 }
 
+/// Keeps other games from a file while a line is written to it, or taken back. Who holds it for long is not
+/// waited for.
+class AloneWith {
+public:
+#ifdef _WIN32
+    explicit AloneWith(int) {}
+#else
+    explicit AloneWith(int number) : number_(number) {
+        constexpr int mostTries = 20;
+        for (int tries = 0; tries < mostTries && ::flock(number_, LOCK_EX | LOCK_NB) != 0; ++tries) {
+            ::usleep(1000);
+        }
+    }
+    ~AloneWith() {
+        ::flock(number_, LOCK_UN);
+    }
+#endif
+    AloneWith(const AloneWith&) = delete;
+    AloneWith& operator=(const AloneWith&) = delete;
+
+#ifndef _WIN32
+private:
+    int number_;
+#endif
+};
+
 }  // namespace
 
 std::string ReasonText(int reason) {
@@ -164,6 +191,7 @@ int DiskFile::Write(std::string_view bytes) const {
 }
 
 int DiskFile::Append(std::string_view bytes) const {
+    const AloneWith alone(number_);
     std::size_t written = 0;
     int reason = Write(bytes, written);
     if (reason == 0) {

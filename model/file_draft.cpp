@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view DraftEnd = ".new";
+constexpr std::string_view DraftEnd = ".plasmos-draft";
 
 /// How the names of a file's drafts begin; a long name leaves room for what comes behind.
 std::string DraftBegin(const fs::path& target) {
@@ -122,20 +122,36 @@ void FileDraft::Discard() {
 #endif
 }
 
-// The draft stays claimed until it has its place.
+// A file that its folder does not let go of, such as one that is mounted there, takes the draft's content.
+int FileDraft::TakePlace() {
+    std::error_code error;
+    fs::rename(draft_, target_, error);
+    if (!error) {
+        return 0;
+    }
+    const int reason = error.value();
+    if (!fs::copy_file(draft_, target_, fs::copy_options::overwrite_existing, error)) {
+        return reason;
+    }
+    fs::remove(draft_, error);
+    return 0;
+}
+
+// The draft stays claimed until it has its place. What stands there now counts, not what stood there first.
 int FileDraft::Commit() {
     int reason = file_.Settle();
+    if (reason == 0) {
+        reason = WhyNotWritable(target_);
+    }
     if (reason == 0) {
         std::error_code error;
         if (const auto old = fs::status(target_, error); old.type() == fs::file_type::regular) {
             fs::permissions(draft_, old.permissions(), error);
         }
-        error.clear();
 #ifdef _WIN32
         file_.Close();
 #endif
-        fs::rename(draft_, target_, error);
-        reason = error ? error.value() : 0;
+        reason = TakePlace();
     }
     if (reason != 0) {
         Discard();

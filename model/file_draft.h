@@ -29,6 +29,7 @@ public:
 
 private:
     int OpenUnderFreeName();
+    int TakePlace();
     void Discard();
 
     std::string target_;

@@ -16,6 +16,7 @@
 #endif
 
 #include "model/dice.h"
+#include "model/file_place.h"
 #include "model/game_files.h"
 #include "model/signature.h"
 #include "sim/options.h"
@@ -141,7 +142,20 @@ int RunBench(const SimOptions& options) {
     return ExitCode(faulty);
 }
 
+/// The same place for both is refused before anything waits for somebody who reads there.
+void RefuseOnePlaceForBoth(const SimOptions& options) {
+    const bool same = !options.Journal.empty() && !options.Output.empty() &&
+                      (WithoutLinks(options.Journal) == WithoutLinks(options.Output)
+                           ? !IdentityOf(options.Journal).KeepsNothing
+                           : IdentityOf(options.Journal).IsSameAs(IdentityOf(options.Output)));
+    if (same) {
+        throw UsageError(Concat("--journal: ", options.Journal,
+                                " is where the results go; the journal must have a place of its own"));
+    }
+}
+
 int RunGames(const SimOptions& options) {
+    RefuseOnePlaceForBoth(options);
     Output output(options.Output, Interrupted);
     std::optional<Output> journal;
     if (!options.Journal.empty()) {

@@ -56,7 +56,15 @@ void FitLabel::SetText(const QString& text) {
 }
 
 int FitLabel::HeightAt(int width) const {
-    const QFontMetrics metrics(LookFont(largest_, font().bold()));
+    return HeightWith(largest_, width);
+}
+
+int FitLabel::LeastHeightAt(int width) const {
+    return HeightWith(smallest_, width);
+}
+
+int FitLabel::HeightWith(int pixels, int width) const {
+    const QFontMetrics metrics(LookFont(pixels, font().bold()));
     return metrics.boundingRect(QRect(0, 0, std::max(width, 10), 10000), Qt::TextWordWrap, text()).height() + 2;
 }
 

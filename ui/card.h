@@ -42,11 +42,14 @@ public:
     void SetText(const QString& text);
     /// Height the text takes with the largest letter at a width.
     int HeightAt(int width) const;
+    /// The same with the smallest letter.
+    int LeastHeightAt(int width) const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int HeightWith(int pixels, int width) const;
     void Fit();
 
     int largest_;

@@ -13,6 +13,7 @@ EndSignals::~EndSignals() = default;
 #include <unistd.h>
 
 #include <QSocketNotifier>
+#include <cerrno>
 #include <csignal>
 #include <utility>
 
@@ -26,9 +27,11 @@ namespace {
 volatile std::sig_atomic_t writingEnd = -1;
 
 void OnSignal(int) {
+    const int reason = errno;
     const char byte = 1;
     const auto written = ::write(static_cast<int>(writingEnd), &byte, 1);
     static_cast<void>(written);
+    errno = reason;
 }
 
 }  // namespace

@@ -61,7 +61,8 @@ std::string QtSettings::Fault() const {
     return small ? std::string() : Concat("The settings are not used: ", Where(), " (larger than settings can be)");
 }
 
-// Whoever saves has the lock; drafts that lie there while nobody has it are nobody's.
+// Whoever saves has the lock; drafts that lie there while nobody has it are nobody's. They end in six letters at
+// random, large and small; a name that somebody has given, such as "backup" or "Sample", is left alone.
 void QtSettings::RemoveAbandonedDrafts() const {
     if (file_.isEmpty() || !Fault().empty()) {
         return;
@@ -69,7 +70,7 @@ void QtSettings::RemoveAbandonedDrafts() const {
     const QFileInfo store(file_);
     QDir folder = store.dir();
     const QString drafts = store.fileName() + QStringLiteral(".??????");
-    const QRegularExpression letters(QStringLiteral("\\.[A-Za-z]{6}$"));
+    const QRegularExpression letters(QStringLiteral("\\.(?=.*[a-z])(?=[A-Za-z]+[A-Z])[A-Za-z]{6}$"));
     const QStringList found = folder.entryList({drafts}, QDir::Files).filter(letters);
     QLockFile lock(file_ + QStringLiteral(".lock"));
     if (found.isEmpty() || !lock.tryLock(0)) {

@@ -104,6 +104,10 @@ int QuestionCard::HeightFor(int width, bool tight) const {
     return tight ? HeadHeight + text + 16 : std::max(HeadHeight + text + ButtonHeight + 26, 148);
 }
 
+int QuestionCard::LeastHeight(int width) const {
+    return msglab->LeastHeightAt(width - 2 * Pad) + HeadHeight + ButtonHeight + 28;
+}
+
 void QuestionCard::resizeEvent(QResizeEvent*) {
     Arrange();
 }

@@ -30,6 +30,8 @@ public:
     void ShowHint(const QString& hint);
 
     int HeightFor(int width, bool tight) const;
+    /// Height at which the whole question is read, in the smallest letters, above its buttons.
+    int LeastHeight(int width) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "model/presentation.h"
@@ -168,6 +169,11 @@ void QuestionPanel::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
+    if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp) {
+        scroll_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageDown ? QScrollBar::SliderPageStepAdd
+                                                                                     : QScrollBar::SliderPageStepSub);
+        return;
+    }
     if (arrows_->Move(event->key())) {
         return;
     }
@@ -190,13 +196,15 @@ void QuestionPanel::TakeControls() {
     }
 }
 
-// What the keyboard gets to is scrolled into sight. What is pressed with the mouse stays under it until the
-// button is released.
+// What the keyboard gets to is scrolled into sight. Whatever else gives a control the focus, a press of the
+// mouse or the window coming back, leaves everything where it is.
 bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
     auto* control = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::FocusIn && scroll_->Content()->isAncestorOf(control) &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) {
-        scroll_->ensureWidgetVisible(control, 0, 4);
+    if (event->type() == QEvent::FocusIn && scroll_->Content()->isAncestorOf(control)) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+            scroll_->ensureWidgetVisible(control, 0, 4);
+        }
     }
     return Card::eventFilter(watched, event);
 }

@@ -58,19 +58,36 @@ bool SideStrip::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+// Every arrangement decides it once: what is shown and hidden in turn asks for another arrangement.
+bool SideStrip::ShowsEnvironment() const {
+    const int environment = Environment->sizeHint().height() + Gap;
+    if (!playing_) {
+        // After a game the final scores are worth more than the last light.
+        const int scores = Start->HeightFor(width()) + Clans->ShortHeight() + Gap;
+        return game.NumPlayers > 0 && height() >= environment + scores;
+    }
+    if (panels_.empty()) {
+        return true;
+    }
+    // The levels stay in sight as long as the dialog is of use below them.
+    const QuestionPanel& top = *panels_.back();
+    const int question = Question->HeightFor(width(), true) + Gap;
+    return environment + question + top.HeightWith(false, width()) <= height() ||
+           environment + top.LeastHeight(width()) <= height();
+}
+
 int SideStrip::ArrangeHead() {
     const int environment = Environment->sizeHint().height();
-    // After a game the final scores are worth more than the last light.
-    const bool room = height() >= environment + Start->HeightFor(width()) + Clans->ShortHeight() + 2 * Gap;
-    const bool shown = playing_ || (game.NumPlayers > 0 && room);
+    const bool shown = ShowsEnvironment();
     Environment->setGeometry(0, 0, width(), environment);
     Environment->setVisible(shown);
     int top = shown ? environment + Gap : 0;
     if (playing_) {
         // The card gives way as long as the clans find room below it.
         const int left = height() - top - Gap - Clans->ShortHeight();
+        const int least = std::min(std::max(LeastQuestion, Question->LeastHeight(width())), QuestionHeight);
         const int question =
-            panels_.empty() ? std::clamp(left, LeastQuestion, QuestionHeight) : Question->HeightFor(width(), true);
+            panels_.empty() ? std::clamp(left, least, QuestionHeight) : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {
@@ -90,10 +107,7 @@ int SideStrip::ArrangePanels(int top) {
         const bool fits = top + wanted <= height();
         const bool alone = first && !fits && playing_;
         if (alone) {
-            // The levels stay in sight as long as the dialog is of use below them.
-            top = Environment->height() + Gap;
-            Environment->setVisible(top + (*panel)->LeastHeight(width()) <= height());
-            top = Environment->isVisibleTo(this) ? top : 0;
+            top = ShowsEnvironment() ? Environment->height() + Gap : 0;
             wanted = (*panel)->HeightWith(true, width());
         }
         if (first) {

@@ -36,6 +36,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    bool ShowsEnvironment() const;
     int ArrangeHead();
     int ArrangePanels(int top);
 

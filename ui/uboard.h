@@ -126,7 +126,8 @@ private:
     void GiveBack();
 
     // uboard_questions.cpp: what is asked
-    void ActivateTop();
+    /// The topmost question takes the keyboard; one that has just opened brings its first control into sight.
+    void ActivateTop(Qt::FocusReason reason);
     void AnnounceTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);

@@ -71,7 +71,7 @@ void UBoard::Open(Question& question) {
         };
     }
     asked_.push_back({&question, std::move(panel)});
-    ActivateTop();
+    ActivateTop(Qt::TabFocusReason);
 }
 
 void UBoard::Refresh(Question& question) {
@@ -99,11 +99,11 @@ void UBoard::Close(Question& question) {
         gone = std::move(found->Panel);
         asked_.erase(found);
     }
-    ActivateTop();
+    ActivateTop(Qt::OtherFocusReason);
 }
 
 // Only the topmost question answers; those below stay in sight where there is room.
-void UBoard::ActivateTop() {
+void UBoard::ActivateTop(Qt::FocusReason reason) {
     std::vector<QuestionPanel*> panels;
     for (std::size_t i = 0; i < asked_.size(); ++i) {
         if (asked_[i].Panel) {
@@ -122,7 +122,7 @@ void UBoard::ActivateTop() {
     if (square) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {
-        asked_.back().Panel->FirstControl()->setFocus();
+        asked_.back().Panel->FirstControl()->setFocus(reason);
     }
     AnnounceTop();
 }

@@ -72,7 +72,7 @@ VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
         figures_.push_back(figure);
     }
     Body()->addWidget(picture);
-    Foot()->addWidget(vfamlab_);
+    Body()->addWidget(vfamlab_);
     Foot()->addWidget(doneb_, 0, Qt::AlignRight);
     connect(doneb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.doneb_Click(); }); });
     std::vector<QWidget*> controls(figures_.begin(), figures_.end());

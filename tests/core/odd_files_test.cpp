@@ -201,14 +201,15 @@ TEST_F(OnDisk, DraftsOfAKilledProgramGoAndThoseOfALivingOneStay) {
     FileDraft living;
     EXPECT_EQ(living.Open(files.PathOf(MoveFile)), 0);
     EXPECT_EQ(living.Write("whole"), 0);
-    for (const auto* mine : {"Opts.txt.new", "movefil.txt.1.new", "movefil.txt.1-x.new", "zynames.txt.1-2.new.txt"}) {
+    for (const auto* mine :
+         {"Opts.txt.new", "movefil.txt.2026-07.new", "movefil.txt.1-x.new", "zynames.txt.1-2.new.txt"}) {
         std::ofstream(folder + "/" + mine) << "mine";
     }
     EXPECT_EQ(NamesIn(folder).size(), 8U);
     files.MakeFolder();
     EXPECT_EQ(NamesIn(folder).size(), 5U);
     EXPECT_EQ(living.Commit(), 0);
-    EXPECT_THAT(NamesIn(folder), UnorderedElementsAre("movefil.txt", "Opts.txt.new", "movefil.txt.1.new",
+    EXPECT_THAT(NamesIn(folder), UnorderedElementsAre("movefil.txt", "Opts.txt.new", "movefil.txt.2026-07.new",
                                                       "movefil.txt.1-x.new", "zynames.txt.1-2.new.txt"));
     EXPECT_EQ(Bytes(MoveFile), "whole");
 }

@@ -129,7 +129,7 @@ void SettingsTroubleTest::draftsOfAKilledProgram() {
         QFile file(ini + QString::fromLatin1(end));
         QVERIFY(file.open(QIODevice::WriteOnly));
     };
-    for (const char* end : {"", ".aBcDeF", ".backup", ".QwErTy", ".123456", ".new", ".bak"}) {
+    for (const char* end : {"", ".aBcDeF", ".backup", ".Sample", ".README", ".QwErTy", ".123456", ".new", ".bak"}) {
         lay(end);
     }
     const QtSettings store(ini);
@@ -140,7 +140,8 @@ void SettingsTroubleTest::draftsOfAKilledProgram() {
     lock.unlock();
     store.RemoveAbandonedDrafts();
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files, QDir::Name).join(QLatin1Char(' ')),
-             QStringLiteral("settings.ini settings.ini.123456 settings.ini.bak settings.ini.new"));
+             QStringLiteral("settings.ini settings.ini.123456 settings.ini.README settings.ini.Sample "
+                            "settings.ini.backup settings.ini.bak settings.ini.new"));
 }
 
 void SettingsTroubleTest::noFile_data() {

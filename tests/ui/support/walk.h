@@ -44,6 +44,8 @@ private:
     /// What a press has changed finds its place before a hand gets to the next control.
     static void Settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); }
     QWidget* PartOf(const Question& question);
+    /// Nothing arranges itself again and again while a question is open.
+    void SeeThatItRests();
     /// The board is there with squares that can be hit, and the question stands whole beside it.
     void SeeTheBoard(const Question& question);
     /// With PLASMOS_PICTURES=folder what was walked over can be looked at.
