@@ -91,8 +91,8 @@ QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QS
 }
 
 int QuestionPanel::HeightFor(int width) const {
-    const int around = std::max(layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0,
-                                layout()->totalSizeHint().height());
+    const int around =
+        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : layout()->totalSizeHint().height();
     return around - scroll_->sizeHint().height() + scroll_->HeightAt(width - 2 * SideMargin);
 }
 
