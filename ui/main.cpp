@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
     DataFolder files(DataFolderPath());
     QtSettings settings;
     services.Files = &files;
-    // cppcheck-suppress danglingLifetime  // nothing of the game is used after main
+    // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
     services.Settings = &settings;
     settings.RemoveAbandonedDrafts();
     std::string fault = PrepareDataFolder();

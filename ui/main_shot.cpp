@@ -212,6 +212,7 @@ int main(int argc, char** argv) {
     DataFolder files(folder.path().toStdString());
     MemorySettings settings;
     services.Files = &files;
+    // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
     services.Settings = &settings;
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
