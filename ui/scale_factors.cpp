@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <algorithm>
 #include <cstdio>
 
 namespace plasmos {
@@ -34,12 +35,10 @@ bool IsUsable(const Variable& variable, const QByteArray& value) {
     if (!variable.List) {
         return IsScale(value, variable.Unit);
     }
-    for (const QByteArray& entry : value.split(';')) {
-        if (!entry.trimmed().isEmpty() && !IsScale(entry.mid(entry.lastIndexOf('=') + 1), variable.Unit)) {
-            return false;
-        }
-    }
-    return true;
+    const QList<QByteArray> entries = value.split(';');
+    return std::all_of(entries.begin(), entries.end(), [&variable](const QByteArray& entry) {
+        return entry.trimmed().isEmpty() || IsScale(entry.mid(entry.lastIndexOf('=') + 1), variable.Unit);
+    });
 }
 
 }  // namespace
