@@ -20,7 +20,6 @@ namespace plasmos {
 namespace {
 
 constexpr int LongestName = 20;
-constexpr QSize UsualFrame(12, 40);
 
 }  // namespace
 
@@ -194,7 +193,7 @@ void OptionsDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (const QScreen* where = screen()) {
         const QRect space = where->availableGeometry();
-        resize(size().boundedTo(space.size() - UsualFrame));
+        resize(size().boundedTo(space.size() - look::UsualFrame));
         move(space.center() - QPoint(width() / 2, height() / 2));
     }
 }

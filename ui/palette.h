@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPainterPath>
 #include <QPalette>
+#include <QSize>
 #include <QString>
 #include <cstdint>
 #include <string_view>
@@ -49,6 +50,8 @@ inline constexpr QRgb Faint = 0xFF7A7669;
 inline constexpr QRgb Teal = 0xFF2C6E78;
 inline constexpr QRgb Amber = 0xFFFFAE00;
 inline constexpr QRgb Alarm = 0xFFC8231E;
+/// What a desktop lays around a window, as long as the true frame is not known.
+inline constexpr QSize UsualFrame(12, 40);
 }  // namespace look
 
 /// A font of the program in pixels.

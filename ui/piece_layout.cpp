@@ -86,6 +86,10 @@ QPointF SquareCorner(int square) {
     return QPointF(column, row) * SquareUnits;
 }
 
+QPointF SquareMiddle(int square) {
+    return SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
+}
+
 QPointF SpotCentre(int spot, int square, double radius) {
     const int column = (spot - 1) % SpotsAcross;
     const int row = (spot - 1) / SpotsAcross;

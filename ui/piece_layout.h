@@ -11,6 +11,8 @@ namespace plasmos {
 
 /// Left top corner of a square.
 QPointF SquareCorner(int square);
+/// Middle of a square.
+QPointF SquareMiddle(int square);
 
 /// A piece's marker: the rectangle around its blob. Empty for a piece that is off the board or not drawn.
 QRectF MarkerOf(int clan, int amoeba);

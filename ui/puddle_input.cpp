@@ -66,9 +66,8 @@ void PuddleView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
         case Qt::Key_Space:
             if (cursor_ > 0 && !event->isAutoRepeat() && OnSquarePoint) {
-                const QPointF corner = SquareCorner(cursor_);
-                OnSquarePoint(static_cast<int>(corner.x()) + SquareUnits / 2,
-                              static_cast<int>(corner.y()) + SquareUnits / 2);
+                const QPoint middle = SquareMiddle(cursor_).toPoint();
+                OnSquarePoint(middle.x(), middle.y());
             }
             return;
         default: QWidget::keyPressEvent(event);

@@ -37,7 +37,6 @@ namespace {
 
 constexpr QSize UsualSize(1320, 860);
 constexpr QSize LeastSize(720, 400);
-constexpr QSize UsualFrame(12, 40);
 constexpr int FrameKnown = 300;
 constexpr int Margin = 10;
 constexpr int FarthestPixel = 100000;
@@ -197,7 +196,7 @@ void UBoard::Tell(const QString& text) {
 void UBoard::LoadWindow() {
     QScreen* screen = QGuiApplication::primaryScreen();
     const QRect space = screen != nullptr ? screen->availableGeometry() : QRect(QPoint(0, 0), UsualSize);
-    const QSize most = space.size() - UsualFrame;
+    const QSize most = space.size() - look::UsualFrame;
     const QSize least = LeastSize.boundedTo(most);
     setMinimumSize(least);
     QSize size = UsualSize.boundedTo(most);

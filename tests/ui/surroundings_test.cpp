@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The program as a process of its own in surroundings that nobody has prepared for it.
+// The program in surroundings that nobody has prepared for it, as a process of its own but in mid-game.
+
+#include <sys/stat.h>
 
 #include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "tests/ui/support/program.h"
 #include "tests/ui/support/scene.h"
+#include "ui/auto_person.h"
+#include "ui/uboard.h"
 
 namespace plasmos::testing {
 
@@ -16,6 +20,8 @@ class SurroundingsTest : public QObject {
 private slots:
     void theProgramStartsAndEnds_data();
     void theProgramStartsAndEnds();
+    void aTildeIsTheHomeFolder();
+    void aPipeForTheMovesInMidGame();
     void aTerminalThatGoes();
     void aTerminalThatMayGo();
     void closedStreams();
@@ -70,6 +76,40 @@ void SurroundingsTest::theProgramStartsAndEnds() {
     } else {
         program.Ends(0);
     }
+}
+
+void SurroundingsTest::aTildeIsTheHomeFolder() {
+    const QTemporaryDir home(FolderTemplate());
+    Program program(home.path());
+    StartIn(program, home.path(), QStringLiteral("export HOME=$home PLASMOS_DATA='~/mine'; $run"));
+    program.Terminate();
+    QVERIFY(QFileInfo(home.path() + QStringLiteral("/mine")).isDir());
+}
+
+// The lines of the moves go nowhere any more, and say so; nobody waits for a reader of the pipe.
+void SurroundingsTest::aPipeForTheMovesInMidGame() {
+    Scene scene;
+    game.RequestedClans = 4;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = 7;
+    const QString moves = scene.Folder() + QStringLiteral("/data/movefil.txt");
+    bool laid = false;
+    scene.AnswerBy([&](Question& question) {
+        if (laid && !scene.Log().filter(QStringLiteral(" stays in ")).isEmpty()) {
+            scene.Menu(QStringLiteral("leavemen"));
+            return;
+        }
+        if (!laid && game.Turn == 1) {
+            laid = QFile::remove(moves) && ::mkfifo(moves.toLocal8Bit().constData(), 0600) == 0;
+            QVERIFY(laid);
+        }
+        scene.Player().Answer(question);
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    const QStringList stays = scene.Log().filter(QStringLiteral(" stays in "));
+    QVERIFY(!stays.isEmpty());
+    QVERIFY2(stays.first().contains(QStringLiteral("Path/File access error")), qPrintable(stays.first()));
+    QVERIFY(!scene.WasEnded() && scene.Enabled(QStringLiteral("gob")));
 }
 
 void SurroundingsTest::aTerminalThatGoes() {

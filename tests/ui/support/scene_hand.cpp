@@ -121,8 +121,7 @@ void Scene::Paste(const QString& name, const QString& text) {
 }
 
 void Scene::ClickSquare(int square, Qt::MouseButton button) {
-    const QPointF middle = SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
-    Press(&Puddle(), button, Puddle().PointAt(middle).toPoint());
+    Press(&Puddle(), button, Puddle().PointAt(SquareMiddle(square)).toPoint());
 }
 
 QAction* Scene::Item(const QString& name) {
