@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ai/computer_adapt.h"
+#include "rules/computer_clan.h"
 
 #include <utility>
 
@@ -7,7 +7,7 @@
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
 
 namespace plasmos {
 

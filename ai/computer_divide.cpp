@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ai/computer_divide.h"
+#include "rules/computer_clan.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ai/computer_feed.h"
+#include "rules/computer_clan.h"
 
-#include "ai/fight.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "rules/feeding.h"
+#include "rules/fight.h"
 #include "rules/menus.h"
 
 namespace plasmos {

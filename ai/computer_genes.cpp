@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ai/computer_genes.h"
+#include "rules/computer_clan.h"
 
 #include <bit>
 

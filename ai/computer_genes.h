@@ -3,10 +3,6 @@
 
 namespace plasmos {
 
-/// What the current computer clan buys: the favourites of its personality, a fallback upgrade, genes
-/// drawn by die while it can afford them, "int" from turn 6 on, and in turn 10 whatever it can.
-void ComputerBuyGenes();
-
 /// Whether a gene is one of the clan's favourites.
 bool IsFavourite(int clan, int gene);
 

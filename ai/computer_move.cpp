@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ai/computer_move.h"
+#include "rules/computer_clan.h"
 
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/message_line.h"
 #include "model/narration.h"
 #include "model/presentation.h"
+#include "rules/directions.h"
 #include "rules/feeding.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"

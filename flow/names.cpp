@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "files/encoding.h"
+#include "files/game_files.h"
+#include "files/strings.h"
 #include "model/dice.h"
-#include "model/encoding.h"
-#include "model/game_files.h"
 #include "model/services.h"
-#include "model/strings.h"
 
 namespace plasmos {
 

@@ -3,21 +3,21 @@
 
 #include <utility>
 
+#include "files/encoding.h"
+#include "files/platform.h"
+#include "files/settings_store.h"
+#include "files/strings.h"
 #include "flow/names.h"
 #include "flow/personalities.h"
 #include "flow/scoring.h"
 #include "model/dice.h"
-#include "model/encoding.h"
 #include "model/genes.h"
-#include "model/platform.h"
 #include "model/presentation.h"
 #include "model/services.h"
-#include "model/settings_store.h"
 #include "model/step.h"
-#include "model/strings.h"
 #include "model/trace.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
 #include "rules/directions.h"
 #include "rules/division.h"
 

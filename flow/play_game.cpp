@@ -4,20 +4,20 @@
 #include <cstdio>
 #include <exception>
 
+#include "files/game_files.h"
+#include "files/platform.h"
 #include "flow/new_game.h"
 #include "flow/scoring.h"
 #include "flow/start.h"
 #include "model/dice.h"
-#include "model/game_files.h"
 #include "model/message_line.h"
 #include "model/narration.h"
 #include "model/observer.h"
-#include "model/platform.h"
 #include "model/presentation.h"
 #include "model/services.h"
 #include "model/trace.h"
+#include "questions/ask.h"
 #include "rules/aggression.h"
-#include "rules/ask.h"
 #include "rules/division.h"
 #include "rules/environment.h"
 #include "rules/movement.h"

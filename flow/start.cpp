@@ -3,11 +3,11 @@
 
 #include <algorithm>
 
+#include "files/game_files.h"
+#include "files/settings_store.h"
 #include "model/board_size.h"
-#include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/services.h"
-#include "model/settings_store.h"
 
 namespace plasmos {
 

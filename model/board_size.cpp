@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "model/text.h"
+#include "files/text.h"
 
 namespace plasmos {
 

@@ -4,8 +4,8 @@
 #include <bit>
 #include <cmath>
 
+#include "files/strings.h"
 #include "model/services.h"
-#include "model/strings.h"
 
 namespace plasmos {
 

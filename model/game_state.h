@@ -5,9 +5,9 @@
 #include <string_view>
 #include <type_traits>
 
+#include "files/text.h"
 #include "model/pcg32.h"
 #include "model/table.h"
-#include "model/text.h"
 
 namespace plasmos {
 

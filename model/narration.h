@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "files/text.h"
 #include "model/game_state.h"
 #include "model/services.h"
-#include "model/text.h"
 
 namespace plasmos {
 

@@ -21,11 +21,6 @@ public:
 
 }  // namespace
 
-std::string_view QuestionKindName(QuestionKind kind) {
-    constexpr std::string_view names[] = {"yesno", "square", "number", "amoeba", "food", "victim", "genes", "box"};
-    return names[static_cast<std::size_t>(kind)];
-}
-
 Presentation& SilentBoard() {
     static SilentPresentation board;
     return board;

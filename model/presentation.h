@@ -6,10 +6,11 @@
 #include <utility>
 
 #include "model/game_state.h"
-#include "model/question.h"
 #include "model/services.h"
 
 namespace plasmos {
+
+class Question;
 
 /// What the rules need of whoever shows the game: the window, the simulator's robot, a test's script.
 /// Everything but the questions may be left out. The shown values are read from the current game.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/runtime_error.h"
+#include "files/runtime_error.h"
 
 namespace plasmos {
 

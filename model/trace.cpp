@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <new>
 
+#include "files/game_files.h"
+#include "files/platform.h"
 #include "model/dice.h"
-#include "model/game_files.h"
-#include "model/platform.h"
 #include "model/services.h"
 
 namespace plasmos {

@@ -3,16 +3,16 @@
 
 #include <vector>
 
-#include "ai/computer_attack.h"
-#include "ai/fight.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/signature.h"
 #include "model/step.h"
 #include "model/trace.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "rules/computer_clan.h"
 #include "rules/feeding.h"
+#include "rules/fight.h"
 
 namespace plasmos {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
-#include "ai/computer_escape.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
+#include "questions/ask.h"
 #include "rules/aggression.h"
-#include "rules/ask.h"
+#include "rules/computer_clan.h"
 #include "rules/move_amoeba.h"
 #include "rules/movement.h"
 

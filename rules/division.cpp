@@ -3,14 +3,14 @@
 
 #include <algorithm>
 
-#include "ai/computer_divide.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "rules/computer_clan.h"
 #include "rules/move_amoeba.h"
 
 namespace plasmos {
@@ -113,7 +113,7 @@ void Complete(int clan, int amoeba, int square) {
 
 int AskHowMany(int clan, int affordable) {
     AmNumfrm form(clan, "Amoeba-number form", "How many amoebas would you like to create?", -1, 0);
-    form.Activate();
+    form.Activate(DivisionPrice(clan));
     form.LimitTo(affordable);
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);

@@ -7,7 +7,7 @@
 #include "model/narration.h"
 #include "model/presentation.h"
 #include "model/signature.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
 #include "rules/menus.h"
 
 namespace plasmos {

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ai/fight.h"
+#include <algorithm>
+#include "rules/fight.h"
+
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
+#include "questions/food_form.h"
+#include "questions/victim_form.h"
 #include "rules/feeding.h"
-#include "rules/food_form.h"
 #include "rules/menus.h"
-#include "rules/victim_form.h"
 
 namespace plasmos {
 
@@ -21,6 +23,32 @@ int CountHosts(int clan, int square) {
     return hosts;
 }
 
+/// The menu that the person has typed: fills the menu work lists from the fields, own colour left out,
+/// lent pieces as 1 of colour 0, and sorts them.
+int MakeEatStr(const FoodForm& form) {
+    game.MenuAmounts = {};
+    game.MenuColours = {};
+    int place = 0;
+    const auto add = [&](int amount, int colour) {
+        ++place;
+        game.MenuAmounts[place] = amount;
+        game.MenuColours[place] = colour;
+    };
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        const int amount = form.Amount(colour);
+        if (colour != form.Clan && amount >= 1) {
+            add(std::min(amount, 10), colour);
+        }
+    }
+    if (form.fdtxt[0].Visible) {
+        add(1, 0);
+    }
+    if (form.fdtxt[7].Visible) {
+        add(1, 0);
+    }
+    return SortMenuDigits(game.MenuAmounts, game.MenuColours);
+}
+
 bool CanParasitize(int clan, int square) {
     return FindParasiteMeal(square, clan).Menu != 0;
 }
@@ -28,6 +56,8 @@ bool CanParasitize(int clan, int square) {
 void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     const int clan = form.Clan;
     const int square = form.Square;
+    LegalEat(0);
+    form.LegalMenuLabel = Concat("Legal menu(s): ", game.LegalMenus);
     form.SuggestedMenu = menu;
     form.SuggestedAmounts = SuggestedAmounts(square, clan);
     form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;

@@ -10,9 +10,9 @@
 #include "model/presentation.h"
 #include "model/signature.h"
 #include "model/trace.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
+#include "questions/victim_form.h"
 #include "rules/menus.h"
-#include "rules/victim_form.h"
 
 namespace plasmos {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/movement.h"
 
-#include "ai/computer_feed.h"
-#include "ai/computer_move.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
+#include "rules/computer_clan.h"
 #include "rules/feeding.h"
 
 namespace plasmos {

@@ -4,7 +4,7 @@
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/presentation.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
 #include "rules/environment.h"
 #include "rules/move_amoeba.h"
 #include "rules/movement.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/new_genes.h"
 
-#include "ai/computer_genes.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
-#include "rules/ask.h"
-#include "rules/gene_form.h"
+#include "questions/ask.h"
+#include "questions/gene_form.h"
+#include "rules/computer_clan.h"
 
 namespace plasmos {
 

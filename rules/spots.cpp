@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/dice.h"
 #include "model/presentation.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
 #include "rules/move_amoeba.h"
 
 namespace plasmos {

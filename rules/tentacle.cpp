@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/genes.h"
 #include "model/presentation.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
-#include "rules/food_form.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "model/process.h"
+#include "files/process.h"
 #include "sim/run.h"
 
 namespace {

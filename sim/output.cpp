@@ -4,7 +4,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "model/text.h"
+#include "files/text.h"
 
 namespace plasmos {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "model/disk_stream.h"
-#include "model/file_draft.h"
-#include "model/file_place.h"
+#include "files/disk_stream.h"
+#include "files/file_draft.h"
+#include "files/file_place.h"
 
 namespace plasmos {
 

@@ -3,11 +3,11 @@
 
 #include <algorithm>
 
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
-#include "rules/food_form.h"
-#include "rules/gene_form.h"
-#include "rules/victim_form.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
 
 namespace plasmos {
 

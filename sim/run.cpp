@@ -15,9 +15,9 @@
 #include <unistd.h>
 #endif
 
+#include "files/file_place.h"
+#include "files/game_files.h"
 #include "model/dice.h"
-#include "model/file_place.h"
-#include "model/game_files.h"
 #include "model/signature.h"
 #include "sim/options.h"
 #include "sim/output.h"

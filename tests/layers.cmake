@@ -1,37 +1,64 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Checks that includes point one way: model <- rules, ai <- flow <- ui, sim; and that what lies below
-# the window includes no header of Qt. What the rules show in the message line, and their pauses, go
-# through its unit. Run with -D SOURCES=<folder of the sources>.
+# Checks that includes point one way, between the rooms of the core and between those of the window; and
+# that what lies below the window includes no header of Qt. What the rules show in the message line, and
+# their pauses, go through its unit. Run with -D SOURCES=<folder of the sources>.
 
 cmake_minimum_required(VERSION 3.25)
 
-set(allowed_model model)
-set(allowed_rules model rules ai)
-set(allowed_ai model rules ai)
-set(allowed_flow model rules ai flow)
-set(allowed_sim model rules ai flow sim)
-set(allowed_ui model rules ai flow ui)
+# Every room, lower ones first, and the rooms that it may look into. No room is looked into by one above
+# which it stands: what is added here must keep that order.
+set(rooms files model questions rules ai flow sim ui/look ui/board ui/dialogs ui/strip ui/options ui/window ui/app)
+set(sees_files files)
+set(sees_model model ${sees_files})
+set(sees_questions questions ${sees_model})
+set(sees_rules rules ${sees_questions})
+set(sees_ai ai ${sees_rules})
+set(sees_flow flow ${sees_rules})
+set(sees_sim sim flow ${sees_rules})
+set(sees_ui/look ui/look ${sees_model})
+set(sees_ui/board ui/board ui/look ${sees_rules})
+set(sees_ui/dialogs ui/dialogs ui/look ${sees_questions})
+set(sees_ui/strip ui/strip ui/dialogs ui/look ${sees_rules})
+set(sees_ui/options ui/options ui/look flow ${sees_model})
+set(sees_ui/window ui/window ui/options ui/strip ui/dialogs ui/board ui/look flow ${sees_rules})
+set(sees_ui/app ui/app ${sees_ui/window})
 
 set(faults 0)
-foreach(layer model rules ai flow sim ui)
+foreach(room IN LISTS rooms)
+    list(FIND rooms ${room} place)
+    foreach(seen IN LISTS sees_${room})
+        list(FIND rooms ${seen} below)
+        if(below LESS 0 OR below GREATER place)
+            message("${room} may not be allowed to look into ${seen}, which is above it")
+            math(EXPR faults "${faults} + 1")
+        endif()
+    endforeach()
+endforeach()
+# A source that lies in no room would not be read.
+file(GLOB strays ${SOURCES}/ui/*.h ${SOURCES}/ui/*.cpp)
+foreach(stray IN LISTS strays)
+    message("${stray} lies in no room")
+    math(EXPR faults "${faults} + 1")
+endforeach()
+foreach(layer IN LISTS rooms)
     file(GLOB files ${SOURCES}/${layer}/*.h ${SOURCES}/${layer}/*.cpp)
     foreach(file IN LISTS files)
         file(RELATIVE_PATH shown ${SOURCES} ${file})
         file(STRINGS ${file} lines REGEX "^#include ")
         foreach(line IN LISTS lines)
-            if(line MATCHES "\"([a-z]+)/" AND NOT CMAKE_MATCH_1 IN_LIST allowed_${layer})
-                message("${shown}: ${layer} may not look at ${CMAKE_MATCH_1}: ${line}")
+            if(line MATCHES "\"((ui/)?[a-z]+)/[a-z_0-9]+\\.h\"" AND NOT CMAKE_MATCH_1 IN_LIST sees_${layer})
+                message("${shown}: ${layer} may not look into ${CMAKE_MATCH_1}: ${line}")
                 math(EXPR faults "${faults} + 1")
             endif()
-            if(NOT layer STREQUAL "ui" AND line MATCHES "[<\"/]Q[A-Z]|<q[a-z]+\\.h>|Qt[A-Z]")
+            if(NOT layer MATCHES "^ui/" AND line MATCHES "[<\"/]Q[A-Z]|<q[a-z]+\\.h>|Qt[A-Z]")
                 message("${shown}: there is no Qt below the window: ${line}")
                 math(EXPR faults "${faults} + 1")
             endif()
         endforeach()
     endforeach()
 endforeach()
-foreach(layer rules ai flow)
+foreach(layer questions rules ai flow)
     file(GLOB files ${SOURCES}/${layer}/*.h ${SOURCES}/${layer}/*.cpp)
     foreach(file IN LISTS files)
         file(RELATIVE_PATH shown ${SOURCES} ${file})

@@ -13,6 +13,7 @@
 #include "flow/play_game.h"
 #include "model/dice.h"
 #include "model/genes.h"
+#include "rules/computer_clan.h"
 #include "rules/menus.h"
 
 namespace {

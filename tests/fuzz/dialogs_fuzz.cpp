@@ -4,13 +4,13 @@
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/services.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
-#include "rules/food_form.h"
-#include "rules/gene_form.h"
 #include "rules/new_genes.h"
-#include "rules/victim_form.h"
 #include "tests/fuzz/fuzz.h"
 
 namespace plasmos::fuzz {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The names file: whatever its bytes are, the pieces are named, or one error says what is missing.
+#include "files/encoding.h"
+#include "files/game_files.h"
+#include "files/line_collector.h"
 #include "flow/names.h"
-#include "model/encoding.h"
-#include "model/game_files.h"
 #include "model/game_state.h"
-#include "model/line_collector.h"
 #include "model/services.h"
 #include "tests/fuzz/fuzz.h"
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saved settings and the options dialog behind its controls: whatever is saved, whatever is clicked,
 // the board stays inside its bounds and loads back equal.
+#include "files/encoding.h"
+#include "files/game_files.h"
+#include "files/settings_store.h"
 #include "flow/new_game.h"
 #include "flow/start.h"
 #include "model/board_size.h"
-#include "model/encoding.h"
-#include "model/game_files.h"
 #include "model/game_state.h"
 #include "model/services.h"
-#include "model/settings_store.h"
 #include "tests/fuzz/fuzz.h"
-#include "ui/options_model.h"
+#include "ui/options/options_model.h"
 
 namespace plasmos::fuzz {
 namespace {

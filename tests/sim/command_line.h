@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "model/text.h"
+#include "files/text.h"
 
 namespace plasmos::testing {
 

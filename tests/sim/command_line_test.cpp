@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "model/text.h"
+#include "files/text.h"
 #include "tests/sim/command_line.h"
 
 namespace plasmos::testing {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/game_state.h"
 #include "model/genes.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
-#include "rules/food_form.h"
-#include "rules/gene_form.h"
-#include "rules/victim_form.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
 #include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {

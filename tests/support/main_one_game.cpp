@@ -3,11 +3,11 @@
 // at what lies on the disk.
 #include <cstdio>
 
+#include "files/game_files.h"
+#include "files/platform.h"
 #include "flow/play_game.h"
 #include "flow/start.h"
-#include "model/game_files.h"
 #include "model/game_state.h"
-#include "model/platform.h"
 #include "model/services.h"
 
 int main() {

@@ -6,12 +6,12 @@
 #include <string_view>
 #include <vector>
 
-#include "model/game_files.h"
+#include "files/game_files.h"
+#include "files/line_collector.h"
+#include "files/runtime_error.h"
+#include "files/text.h"
 #include "model/game_state.h"
-#include "model/line_collector.h"
-#include "model/runtime_error.h"
 #include "model/services.h"
-#include "model/text.h"
 
 namespace plasmos::testing {
 

@@ -3,7 +3,7 @@
 
 #include <sys/resource.h>
 
-#include "model/process.h"
+#include "files/process.h"
 
 namespace plasmos::testing {
 

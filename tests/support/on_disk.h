@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "model/game_files.h"
-#include "model/runtime_error.h"
+#include "files/game_files.h"
+#include "files/runtime_error.h"
 #include "tests/support/game_fixture.h"
 
 namespace plasmos::testing {

@@ -7,11 +7,11 @@
 
 #include "model/game_state.h"
 #include "model/services.h"
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
-#include "rules/food_form.h"
-#include "rules/gene_form.h"
-#include "rules/victim_form.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
 
 namespace plasmos::testing {
 

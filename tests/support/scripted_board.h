@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "model/presentation.h"
-#include "model/question.h"
+#include "questions/question.h"
 
 namespace plasmos::testing {
 

@@ -7,15 +7,15 @@
 #include <QLineEdit>
 #include <QScrollArea>
 
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
 #include "rules/environment.h"
-#include "rules/food_form.h"
-#include "rules/gene_form.h"
-#include "rules/victim_form.h"
 #include "tests/ui/support/scene.h"
-#include "ui/puddle_view.h"
-#include "ui/uboard.h"
+#include "ui/board/puddle_view.h"
+#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 

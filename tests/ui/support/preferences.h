@@ -9,8 +9,8 @@
 
 #include "model/board_size.h"
 #include "tests/ui/support/scene.h"
-#include "ui/options_dialog.h"
-#include "ui/uboard.h"
+#include "ui/options/options_dialog.h"
+#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 

@@ -17,15 +17,15 @@
 #include <QWindow>
 #include <numeric>
 
+#include "files/runtime_error.h"
 #include "model/presentation.h"
-#include "model/runtime_error.h"
 #include "model/services.h"
-#include "rules/ask.h"
+#include "questions/ask.h"
 #include "tests/support/game_fixture.h"
-#include "ui/auto_person.h"
-#include "ui/piece_layout.h"
-#include "ui/puddle_view.h"
-#include "ui/uboard.h"
+#include "ui/app/auto_person.h"
+#include "ui/board/puddle_view.h"
+#include "ui/look/piece_layout.h"
+#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 

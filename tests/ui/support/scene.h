@@ -11,14 +11,14 @@
 #include <string_view>
 #include <vector>
 
+#include "files/game_files.h"
 #include "model/dice.h"
-#include "model/game_files.h"
 #include "model/game_state.h"
-#include "model/question.h"
 #include "model/step.h"
-#include "ui/hand.h"
-#include "ui/palette.h"
-#include "ui/qt_settings.h"
+#include "questions/question.h"
+#include "ui/app/hand.h"
+#include "ui/app/qt_settings.h"
+#include "ui/look/palette.h"
 
 class QAction;
 class QLineEdit;

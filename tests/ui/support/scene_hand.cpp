@@ -9,9 +9,9 @@
 #include <QWindow>
 
 #include "tests/ui/support/scene.h"
-#include "ui/piece_layout.h"
-#include "ui/puddle_view.h"
-#include "ui/uboard.h"
+#include "ui/board/puddle_view.h"
+#include "ui/look/piece_layout.h"
+#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 

@@ -9,18 +9,18 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "rules/ask.h"
-#include "rules/choice_forms.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/victim_form.h"
 #include "rules/division.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
 #include "rules/move_amoeba.h"
 #include "rules/new_genes.h"
-#include "rules/victim_form.h"
-#include "ui/auto_person.h"
-#include "ui/puddle_view.h"
-#include "ui/question_panel.h"
-#include "ui/uboard.h"
+#include "ui/app/auto_person.h"
+#include "ui/board/puddle_view.h"
+#include "ui/dialogs/question_panel.h"
+#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 

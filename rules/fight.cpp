@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/fight.h"
+
+#include "model/genes.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "model/signature.h"
+#include "questions/ask.h"
+#include "questions/victim_form.h"
+#include "rules/aggression.h"
+#include "rules/feeding.h"
+#include "rules/move_amoeba.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int EatenPause = 15;
+constexpr int FoodOfTheEaten = 1;
+constexpr int FoodOfTheTorn = 2;
+
+const Piece& Attacker() {
+    return game.Amoeba[game.CurAmoeba][game.CurPlayer];
+}
+
+/// The clan's piece in a square with the lowest (or highest) damage; the lowest number on a tie.
+int PickByDamage(int clan, int square, bool highest) {
+    int picked = 0;
+    for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+        const Piece& piece = game.Amoeba[amoeba][clan];
+        if (piece.Square != square) {
+            continue;
+        }
+        const int best = picked == 0 ? 0 : game.Amoeba[picked][clan].Damage;
+        if (picked == 0 || (highest ? piece.Damage > best : piece.Damage < best)) {
+            picked = amoeba;
+        }
+    }
+    return picked;
+}
+
+/// The victim's clan answers by its genes: escape first, then defence. True: the victim got away.
+bool GetsAway(int clan, int amoeba) {
+    if (HasGene(clan, "esc") && EscapeAmoeba(clan, amoeba)) {
+        return true;
+    }
+    return HasGene(clan, "def") && DefendAmoeba(clan, amoeba);
+}
+
+struct Victim {
+    int Clan = 0;
+    int Amoeba = 0;
+};
+
+/// What a person whose amoeba is attacked reads above the questions that follow; it is for the window
+/// alone.
+template <class... Pieces>
+void TellVictim(int clan, const Pieces&... pieces) {
+    if (game.Players[clan].IsComputer || !SomebodyListens()) {
+        return;
+    }
+    const std::string text = Concat(pieces...);
+    AddStatement(text, game.CurPlayer);
+    Concern(clan);
+    Board().Log(text, game.CurPlayer);
+}
+
+/// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
+Victim PickByPerson(int attacker, int square) {
+    VictimForm form(attacker, "AGGRESS", "Choose the Attack-victim:", square);
+    for (const VictimFigure& figure : form.Figures) {
+        if (IsVictim(attacker, figure.Clan, square)) {
+            form.Allow(figure.Clan, figure.Amoeba);
+        }
+    }
+    ShowQuestionText(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
+    const auto picked = AskVictims(form);
+    game.DialogMode = "";
+    if (picked.empty()) {
+        return {};
+    }
+    --game.BP[attacker];
+    Show(&Presentation::ShowBP, attacker);
+    return {picked.front().Clan, picked.front().Amoeba};
+}
+
+void Outcome(const Victim& victim, int square) {
+    if (HasGene(victim.Clan, "arm")) {
+        ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
+        Show(&Presentation::DrawPiece, victim.Clan, victim.Amoeba);
+        return;
+    }
+    AddFoodOfAllColours(square, FoodOfTheTorn);
+    SayMore(game.Amoeba[victim.Amoeba][victim.Clan].Name, " torn viciously to pieces!!!");
+    TakePause(EatenPause);
+    RemoveAmoeba(victim.Clan, victim.Amoeba);
+    TakePause(EatenPause);
+}
+
+/// Whom the second attack goes against: the same clan if it still has a piece in the square, else the
+/// lowest-numbered clan that is a victim there; 0: nobody.
+int SecondVictimClan(int clan, int square) {
+    if (!HasVictim(game.CurPlayer, square)) {
+        return 0;
+    }
+    if (game.Occupancy[square][clan] > 0) {
+        return clan;
+    }
+    for (int other = 1; other <= game.NumPlayers; ++other) {
+        if (IsVictim(game.CurPlayer, other, square)) {
+            return other;
+        }
+    }
+    return 0;
+}
+
+/// One attack against a victim that is known. True: the victim got away.
+bool Resolve(const Victim& victim, int square) {
+    const int attacker = game.CurPlayer;
+    MoveBeside(attacker, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
+    Sign(SignedEvent::Attack, attacker, victim.Clan, victim.Amoeba);
+    Say(Attacker().Name, " picking a fight with ", game.Amoeba[victim.Amoeba][victim.Clan].Name, " in ", square);
+    Concern(victim.Clan);
+    TellVictim(victim.Clan, Attacker().Name, " belongs to ", game.Players[attacker].Name, ".");
+    const bool gotAway = GetsAway(victim.Clan, victim.Amoeba);
+    if (!gotAway) {
+        Outcome(victim, square);
+    }
+    Show(&Presentation::DrawSquare, square);
+    return gotAway;
+}
+
+}  // namespace
+
+void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, int victimAmoeba) {
+    stillHungry = true;
+    if (!game.Players[victimClan].IsComputer) {
+        ShowBox(victimClan, Concat(game.Players[victimClan].Name, ": You are being attacked!"));
+    }
+    const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(victimClan, square, false);
+    MoveBeside(victimClan, amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
+    Sign(SignedEvent::Attack, attacker, victimClan, amoeba);
+    TellVictim(victimClan, Attacker().Name, " of ", game.Players[attacker].Name, " attacks ",
+               game.Amoeba[amoeba][victimClan].Name, " in ", square, " to eat it.");
+    if (GetsAway(victimClan, amoeba)) {
+        return;
+    }
+    stillHungry = false;
+    AddFoodOfAllColours(square, FoodOfTheEaten);
+    Say(game.Amoeba[amoeba][victimClan].Name, " Eaten!");
+    TakePause(EatenPause);
+    RemoveAmoeba(victimClan, amoeba);
+}
+
+void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
+    const int attacker = game.CurPlayer;
+    Victim victim{victimClan, victimAmoeba};
+    for (int attack = 1; attack <= 2; ++attack) {
+        if (!game.Players[attacker].IsComputer) {
+            if (game.BP[attacker] < 1) {
+                return;
+            }
+            victim = PickByPerson(attacker, square);
+        } else if (victim.Amoeba == 0) {
+            victim.Amoeba = PickByDamage(victim.Clan, square, HasGene(victim.Clan, "arm"));
+        }
+        if (victim.Amoeba == 0) {
+            return;
+        }
+        const bool gotAway = Resolve(victim, square);
+        if (!gotAway || !HasGene(attacker, "per")) {
+            return;
+        }
+        victim = {SecondVictimClan(victim.Clan, square), 0};
+        if (victim.Clan == 0) {
+            return;
+        }
+    }
+}
+
+}  // namespace plasmos

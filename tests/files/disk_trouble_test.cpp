@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A real disk that is full, forbidden, gone or full of somebody else's things.
+#include <gmock/gmock.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <thread>
+#include <vector>
+
+#include "flow/play_game.h"
+#include "flow/start.h"
+#include "model/consistency.h"
+#include "model/services.h"
+#include "model/trace.h"
+#include "questions/ask.h"
+#include "rules/movement.h"
+#include "tests/support/most_bytes.h"
+#include "tests/support/on_disk.h"
+#include "tests/support/scripted_board.h"
+
+namespace plasmos::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr uid_t Nobody = 65534;
+
+/// Whom permissions stop: another user while it lives, where the tests are run by one they do not stop.
+class AsNobody {
+public:
+    AsNobody() : was_(geteuid()) {
+        if (was_ == 0 && seteuid(Nobody) != 0) {
+            ADD_FAILURE() << "cannot become another user";
+        }
+    }
+    ~AsNobody() {
+        if (geteuid() != was_ && seteuid(was_) != 0) {
+            ADD_FAILURE() << "cannot become the old user again";
+        }
+    }
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
+
+private:
+    uid_t was_;
+};
+
+class DiskTrouble : public OnDisk {
+protected:
+    DiskTrouble() {
+        fs::permissions(Home(), fs::perms(0755));
+        game.RequestedClans = 3;
+        game.FastMode = true;
+        board_.AnswerBy([](Question& question) { static_cast<BoxQuestion&>(question).ok_Click(); });
+    }
+
+    /// What the person is told when a game of computer clans is played with the folder as it is; the
+    /// winner is no news.
+    std::vector<std::string> BoxesOfAGame() {
+        services.Files = &files;
+        board_.Boxes.clear();
+        PlayUnattended();
+        std::vector<std::string> boxes;
+        for (const auto& box : board_.Boxes) {
+            if (box.find(" wins!") == std::string::npos) {
+                boxes.push_back(box);
+            }
+        }
+        return boxes;
+    }
+    /// Two pieces that drift to the right, one square each.
+    void TwoDrift() {
+        NewPosition(3);
+        services.Files = &files;
+        game.Turn = 2;
+        game.Drift = 1;
+        Put(1, 1, 7);
+        Put(2, 1, 9);
+        MovementPhase();
+        EXPECT_EQ(CheckConsistency(), "");
+    }
+
+    ScriptedBoard board_;
+};
+
+TEST_F(DiskTrouble, AForbiddenPlaceForTheFolderIsNamedAndNoGameBegins) {
+    fs::permissions(Home(), fs::perms(0555));
+    const AsNobody nobody;
+    services.Files = &files;
+    EXPECT_THAT(PrepareDataFolder(), AllOf(HasSubstr("Permission denied"), HasSubstr(folder)));
+    EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr("Permission denied"), HasSubstr(folder))));
+    EXPECT_EQ(game.Turn, 0);
+}
+
+TEST_F(DiskTrouble, AReadOnlyFolderIsNamedAndTheNextGameWorks) {
+    files.MakeFolder();
+    fs::permissions(folder, fs::perms(0555));
+    {
+        const AsNobody nobody;
+        EXPECT_THAT(BoxesOfAGame(),
+                    ElementsAre(HasSubstr("Error #70: Permission denied: " + files.PathOf(MoveFile) + " (")));
+    }
+    fs::permissions(folder, fs::perms(0755));
+    EXPECT_THAT(BoxesOfAGame(), IsEmpty());
+    EXPECT_EQ(game.Turn, LastTurn + 1);
+}
+
+TEST_F(DiskTrouble, AFolderDeletedInTheMiddleOfAGameIsMadeAgain) {
+    files.MakeFolder();
+    fs::remove_all(Home() + "/QX");
+    TwoDrift();
+    EXPECT_EQ(game.Amoeba[1][1].Square, 8);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 10);
+    EXPECT_THAT(Bytes(MoveFile), AllOf(HasSubstr("Amoeba 1, 1 moving to square 8"), HasSubstr("moving to square 10")));
+    EXPECT_FALSE(files.Exists(ErrorFile));
+}
+
+TEST_F(DiskTrouble, AFolderThatCannotBeMadeAgainLeavesThePiecesWhereTheyAre) {
+    files.MakeFolder();
+    fs::remove_all(Home() + "/QX");
+    fs::permissions(Home(), fs::perms(0555));
+    const AsNobody nobody;
+    TwoDrift();
+    EXPECT_EQ(game.Amoeba[1][1].Square, 7);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 9);
+    EXPECT_THAT(board_.LogLines,
+                ::testing::Contains(AllOf(HasSubstr("A1 stays in 7: "), HasSubstr(files.PathOf(MoveFile)))));
+}
+
+TEST_F(DiskTrouble, AFolderInTheMoveFilesPlaceIsNamedEvenWhereTheErrorFileIsOneToo) {
+    files.MakeFolder();
+    fs::create_directory(files.PathOf(ErrorFile));
+    fs::create_directory(files.PathOf(MoveFile));
+    EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr("Error #75"), HasSubstr(files.PathOf(MoveFile)))));
+    fs::remove(files.PathOf(MoveFile));
+    EXPECT_THAT(BoxesOfAGame(), IsEmpty());
+}
+
+TEST_F(DiskTrouble, AMoveFileThatMayNotGrowLeavesThePiecesWhereTheyAre) {
+    files.MakeFolder();
+    Lay(MoveFile, "as it was\r\n");
+    {
+        const MostBytes most(20);
+        TwoDrift();
+    }
+    EXPECT_EQ(game.Amoeba[1][1].Square, 7);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 9);
+    EXPECT_EQ(Bytes(MoveFile), "as it was\r\n");
+    EXPECT_THAT(board_.LogLines, ::testing::Contains(HasSubstr("A1 stays in 7: Disk full: ")));
+}
+
+TEST_F(DiskTrouble, AMoveFileThatTurnsIntoAPipeIsNotWaitedFor) {
+    files.MakeFolder();
+    ASSERT_EQ(mkfifo(files.PathOf(MoveFile).c_str(), 0666), 0);
+    TwoDrift();
+    EXPECT_EQ(game.Amoeba[1][1].Square, 7);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 9);
+    EXPECT_THAT(Bytes(ErrorFile), AllOf(HasSubstr("Player: 1 (Player 1)  Moeba: 1\r\n"),
+                                        HasSubstr("Error #75: Path/File access error: " + files.PathOf(MoveFile))));
+}
+
+/// A disk of 64 KiB, where the tests may make one.
+class SmallDisk : public DiskTrouble {
+protected:
+    void SetUp() override {
+        files.MakeFolder();
+        mounted_ = mount("none", folder.c_str(), "tmpfs", 0, "size=64k,mode=755") == 0;
+        if (!mounted_) {
+            GTEST_SKIP() << "a disk cannot be mounted here";
+        }
+    }
+    ~SmallDisk() override {
+        if (mounted_) {
+            EXPECT_EQ(umount(folder.c_str()), 0);
+        }
+    }
+    /// Leaves so many bytes free, up to a block of 4096.
+    void FillUpTo(int bytes) {
+        std::ofstream rest(folder + "/rest", std::ios::binary);
+        while (rest << std::string(1024, 'x') << std::flush) {
+        }
+        fs::resize_file(folder + "/rest", fs::file_size(folder + "/rest") - static_cast<unsigned>(bytes));
+    }
+
+private:
+    bool mounted_ = false;
+};
+
+TEST_F(SmallDisk, AGameThatCannotBeginSaysWhatIsFullAndLeavesNoHalfFile) {
+    FillUpTo(0);
+    EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr("Error #61: Disk full"), HasSubstr(folder))));
+    std::vector<std::string> left;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        left.push_back(entry.path().filename().string());
+    }
+    EXPECT_THAT(left, ::testing::UnorderedElementsAre("rest", "movefil.txt", "errfile.txt"));
+    fs::remove(folder + "/rest");
+    EXPECT_THAT(BoxesOfAGame(), IsEmpty());
+}
+
+TEST_F(SmallDisk, AFileThatDoesNotFitLeavesTheOldOne) {
+    files.Rewrite(OptionsFile, "old\n");
+    EXPECT_EQ(ErrorOf([&] { files.Rewrite(OptionsFile, std::string(100000, 'x')); }), 61);
+    EXPECT_EQ(Bytes(OptionsFile), "old\r\n");
+}
+
+TEST_F(SmallDisk, MovesGoOnWhenThereIsRoomAgain) {
+    FillUpTo(0);
+    TwoDrift();
+    EXPECT_EQ(game.Amoeba[1][1].Square, 7);
+    fs::remove(folder + "/rest");
+    MovementPhase();
+    EXPECT_EQ(game.Amoeba[1][1].Square, 8);
+    EXPECT_EQ(game.Amoeba[1][2].Square, 10);
+}
+
+/// Names files that nobody should have, and what the person is told.
+struct NamesRow {
+    std::string_view Name;
+    void (*Lay)(const std::string& path);
+    std::string_view Told;
+};
+void PrintTo(const NamesRow& row, std::ostream* out) {
+    *out << row.Name;
+}
+void Write(const std::string& path, std::string_view bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+class OddNames : public DiskTrouble, public ::testing::WithParamInterface<NamesRow> {};
+
+TEST_P(OddNames, AreToldAndNotRepaired) {
+    files.MakeFolder();
+    fs::permissions(folder, fs::perms(0777));
+    const auto path = files.PathOf(NamesFile);
+    GetParam().Lay(path);
+    std::error_code none;
+    const auto size = fs::file_size(path, none);
+    {
+        const AsNobody nobody;
+        EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr(path), HasSubstr(std::string(GetParam().Told)))));
+    }
+    EXPECT_EQ(fs::file_size(path, none), size);
+    fs::remove_all(path);
+    EXPECT_THAT(BoxesOfAGame(), IsEmpty());
+}
+
+constexpr std::uintmax_t Huge = 100U << 20U;
+
+const NamesRow NamesRows[] = {
+    {"a_pipe", [](const std::string& path) { ASSERT_EQ(mkfifo(path.c_str(), 0666), 0); },
+     "Error #75: Path/File access error"},
+    {"a_folder", [](const std::string& path) { fs::create_directory(path); }, "Error #75: Path/File access error"},
+    {"unreadable",
+     [](const std::string& path) {
+         Write(path, "1 - Otto\n");
+         fs::permissions(path, fs::perms(0));
+     },
+     "Error #70: Permission denied"},
+    {"empty", [](const std::string& path) { Write(path, ""); }, "has 0 names for clan 1 and must have 7"},
+    {"binary",
+     [](const std::string& path) {
+         Write(path, std::string("\x7f"
+                                 "ELF\0\1\2\xff\xfe\n\r\0",
+                                 12));
+     },
+     "has 0 names for clan 1"},
+    {"utf_16",
+     [](const std::string& path) {
+         Write(path, std::string("\xff\xfe"
+                                 "1\0 \0-\0 \0O\0\n\0",
+                                 14));
+     },
+     "has 0 names for clan 1"},
+    {"a_hundred_megabytes_without_an_end",
+     [](const std::string& path) {
+         Write(path, "1 - Otto\n1 - Olga\n");
+         fs::resize_file(path, Huge);
+     },
+     "has 2 names for clan 1"},
+    {"a_hundred_megabytes_of_lines",
+     [](const std::string& path) {
+         std::string lines;
+         while (lines.size() < 1U << 20U) {
+             lines += "6 - Ysak\n";
+         }
+         std::ofstream file(path, std::ios::binary);
+         for (int megabyte = 0; megabyte < 100; ++megabyte) {
+             file << lines;
+         }
+     },
+     "has 0 names for clan 1"},
+};
+INSTANTIATE_TEST_SUITE_P(Names, OddNames, ::testing::ValuesIn(NamesRows), RowName());
+
+TEST_F(DiskTrouble, TwoWritersDoNotGetInEachOthersWay) {
+    files.MakeFolder();
+    const auto write = [this](const char* text) {
+        DataFolder mine(folder);
+        for (int i = 0; i < 300; ++i) {
+            mine.Rewrite(MoveFile, text);
+            mine.Append(RandomFile, text);
+        }
+    };
+    std::thread other([&] { EXPECT_NO_THROW(write("other\n")); });
+    EXPECT_NO_THROW(write("mine\n"));
+    other.join();
+    EXPECT_THAT(Bytes(MoveFile), ::testing::AnyOf("mine\r\n", "other\r\n"));
+    EXPECT_EQ(fs::file_size(files.PathOf(RandomFile)), 300 * (6 + 7));
+}
+
+}  // namespace
+}  // namespace plasmos::testing

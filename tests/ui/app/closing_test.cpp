@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The window is closed in the middle of games: each one unwinds at once and the program ends with 0.
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+
+#include "files/game_files.h"
+#include "model/services.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/test_scale.h"
+#include "tests/ui/support/program.h"
+#include "tests/ui/support/scene.h"
+#include "ui/app/auto_person.h"
+#include "ui/app/end_signals.h"
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+/// How the end comes.
+enum class Way { Close, Quit, End, Signal, Application };
+constexpr Way Ways[] = {Way::Close, Way::Quit, Way::End, Way::Signal, Way::Application};
+
+/// Counts waits and pauses, and brings the end about at one of them.
+class ClosingBoard : public UBoard {
+public:
+    int At = 0;  ///< 0: never
+    Way How = Way::Close;
+    int Count = 0;
+    QElapsedTimer Since;
+    std::function<void()> OnAt;  ///< happens instead of an end
+
+    void Wait() override {
+        Next();
+        UBoard::Wait();
+    }
+    void Pause(int units) override {
+        Next();
+        UBoard::Pause(units);
+    }
+
+private:
+    void Next() {
+        if (++Count != At) {
+            return;
+        }
+        if (OnAt) {
+            OnAt();
+        } else {
+            SetSpeed(0.2);
+            QMetaObject::invokeMethod(
+                this, [this] { BringAbout(); }, Qt::QueuedConnection);
+        }
+    }
+    void BringAbout() {
+        Since.start();
+        switch (How) {
+            case Way::Close: close(); return;
+            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(); return;
+            case Way::End: EndProgram(); return;
+            case Way::Signal: std::raise(SIGTERM); return;
+            case Way::Application: QCoreApplication::quit(); return;
+        }
+    }
+};
+
+}  // namespace
+
+class ClosingTest : public QObject {
+    Q_OBJECT
+
+private:
+    /// Plays a game whose end comes at a wait or pause; the number of them.
+    int Play(int clans, bool two, int at, Way way);
+
+private slots:
+    void endsAtOnce_data();
+    void endsAtOnce();
+    void betweenGames();
+    void aSecondEndIsNoTrouble();
+    void theProgramIsTerminated();
+    void aProcessEnds_data();
+    void aProcessEnds();
+    void aFaultEndsTheProgram();
+    void twoProgramsShareTheirFolder();
+    void aGameIsTerminated_data();
+    void aGameIsTerminated();
+};
+
+int ClosingTest::Play(int clans, bool two, int at, Way way) {
+    ForgetGame();
+    const QTemporaryDir folder(FolderTemplate());
+    DataFolder files(folder.path().toStdString());
+    QtSettings settings(folder.path() + QStringLiteral("/settings.ini"));
+    services.Files = &files;
+    services.Settings = &settings;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = static_cast<float>(clans);
+    game.RequestedClans = clans;
+    game.Menu.twoplayermen = two;
+    int count = 0;
+    {
+        ClosingBoard board;
+        const EndSignals endSignals([&board] { board.close(); });
+        AutoPerson person(board);
+        int asked = 0;
+        board.OnQuestion = [&](Question& question) {
+            ++asked;
+            if (board.Count < at || at == 0) {
+                person.Answer(question);
+            }
+        };
+        board.At = at;
+        board.How = way;
+        board.SetSpeed(0);
+        board.setUpdatesEnabled(false);
+        board.show();
+        QTimer::singleShot(0, &board, [&board] {
+            board.gob_Click();
+            QCoreApplication::exit(board.At == 0 ? 77 : 0);
+        });
+        const int code = QApplication::exec();
+        [&] {
+            QCOMPARE(code, at == 0 ? 77 : 0);
+            QVERIFY(!board.Playing());
+            QVERIFY(board.TopQuestion() == nullptr);
+            QVERIFY(!files.Exists(ErrorFile));
+            if (at == 0) {
+                return;
+            }
+            QVERIFY2(board.Since.isValid() && board.Since.elapsed() < 1500, "it took too long");
+            QVERIFY(!board.isVisible());
+            QVERIFY(!settings.Get("board", "left", "").empty());
+            const GameState before = game;
+            const int askedBefore = asked;
+            QTest::qWait(2);
+            QCOMPARE(std::memcmp(&before, &game, sizeof before), 0);
+            QCOMPARE(asked, askedBefore);
+            for (const QTimer* timer : board.findChildren<QTimer*>()) {
+                QVERIFY2(!timer->isActive(), qPrintable(timer->objectName() + QLatin1String(" runs on in ") +
+                                                        QLatin1String(timer->parent()->metaObject()->className())));
+            }
+            board.gob_Click();
+            QVERIFY2(!board.Playing() && std::memcmp(&before, &game, sizeof before) == 0, "a game after the end");
+        }();
+        count = board.Count;
+    }
+    ForgetGame();
+    return count;
+}
+
+void ClosingTest::endsAtOnce_data() {
+    QTest::addColumn<int>("clans");
+    QTest::addColumn<bool>("two");
+    for (int clans = 3; clans <= 6; ++clans) {
+        for (const bool two : {false, true}) {
+            QTest::addRow("%d clans, %s", clans, two ? "two persons" : "one person") << clans << two;
+        }
+    }
+}
+
+void ClosingTest::endsAtOnce() {
+    QFETCH(int, clans);
+    QFETCH(bool, two);
+    const int all = Play(clans, two, 0, Way::Close);
+    QVERIFY(all > 30);
+    const bool every = Scaled(100) > 100;
+    const int samples = every ? all : std::min(all, 14);
+    for (int sample = 1; sample <= samples; ++sample) {
+        const int at = every ? sample : 1 + (all - 1) * (sample - 1) / std::max(samples - 1, 1);
+        Play(clans, two, at, Ways[(sample + clans) % 5]);
+        if (QTest::currentTestFailed()) {
+            qWarning("closed at wait %d of %d", at, all);
+            return;
+        }
+    }
+}
+
+void ClosingTest::betweenGames() {
+    Scene scene;
+    scene.Board().close();
+    QVERIFY(!scene.Board().isVisible());
+    scene.Board().gob_Click();
+    QVERIFY(!scene.Board().Playing());
+    QCOMPARE(game.NumPlayers, 0);
+}
+
+void ClosingTest::aSecondEndIsNoTrouble() {
+    Scene scene;
+    scene.Then(QuestionKind::Number, [&] {
+        scene.Board().close();
+        scene.Board().close();
+        scene.Board().EndProgram();
+        scene.Item(QStringLiteral("leavemen"))->trigger();
+        scene.Item(QStringLiteral("men_quit"))->trigger();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(!scene.Board().isVisible());
+}
+
+namespace {
+
+/// Starts a program and terminates it some time after it is ready.
+void TerminateAfter(const QString& name, const QStringList& arguments, int milliseconds) {
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.StartReady(name, arguments);
+    QTest::qWait(milliseconds);
+    program.Terminate();
+}
+
+}  // namespace
+
+void ClosingTest::theProgramIsTerminated() {
+    for (const int milliseconds : {0, 3, 150}) {
+        TerminateAfter(QStringLiteral(PLASMOS_PROGRAM), {}, milliseconds);
+    }
+}
+
+void ClosingTest::aProcessEnds_data() {
+    QTest::addColumn<int>("way");
+    QTest::addColumn<int>("at");
+    for (int sample = 0; sample < Scaled(15); ++sample) {
+        QTest::addRow("way %d at wait %d", sample % 5, 1 + sample * 37 % 200) << sample % 5 << 1 + sample * 37 % 200;
+    }
+}
+
+// Each end once more in a process of its own: whatever lived on would show in its exit code.
+void ClosingTest::aProcessEnds() {
+    QFETCH(int, way);
+    QFETCH(int, at);
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.Start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--end"), QString::number(way), QString::number(at)});
+    program.EndsWell();
+}
+
+// A phase that cannot go on: the record is written, and the exit code tells.
+void ClosingTest::aFaultEndsTheProgram() {
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.Start(QCoreApplication::applicationFilePath(), {QStringLiteral("--fault")});
+    program.Ends(1);
+    QFile errors(home.path() + QStringLiteral("/data/errfile.txt"));
+    QVERIFY(errors.open(QIODevice::ReadOnly));
+    const QByteArray records = errors.readAll();
+    QVERIFY(records.startsWith("ReplayNo: 5\r\n"));
+    QVERIFY(
+        records.endsWith("Error #5: Invalid procedure call: the tape has no roll for a die with 6 faces\r\n\r\n\r\n"));
+}
+
+// Both write the same trace files and the same settings.
+void ClosingTest::twoProgramsShareTheirFolder() {
+    const QTemporaryDir home;
+    Program first(home.path());
+    Program second(home.path());
+    first.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
+    second.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
+    QTest::qWait(600);
+    first.Terminate();
+    QTest::qWait(100);
+    second.Terminate();
+}
+
+void ClosingTest::aGameIsTerminated_data() {
+    QTest::addColumn<int>("milliseconds");
+    for (int sample = 0; sample < Scaled(5); ++sample) {
+        QTest::addRow("sample %d", sample) << 1 + sample * 97 % 500;
+    }
+}
+
+void ClosingTest::aGameIsTerminated() {
+    QFETCH(int, milliseconds);
+    TerminateAfter(QCoreApplication::applicationFilePath(),
+                   {milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")}, milliseconds);
+}
+
+/// A program that plays game after game until it is told to end, or does so itself in the first one:
+///   --play | --watch | --end WAY AT | --fault
+int PlayOn(int argc, char** argv) {
+    QApplication application(argc, argv);
+    PrepareApplication();
+    DataFolder files(qEnvironmentVariable("PLASMOS_DATA").toStdString());
+    QtSettings settings;
+    services.Files = &files;
+    services.Settings = &settings;
+    const bool fault = std::strcmp(argv[1], "--fault") == 0;
+    const bool watch = fault || std::strcmp(argv[1], "--watch") == 0;
+    ClosingBoard board;
+    DiceTape noMoreRolls({});
+    if (fault) {
+        game.HasRequestedReplay = true;
+        game.RequestedReplay = 5;
+        game.RequestedClans = 4;
+        board.At = 60;
+        board.OnAt = [&noMoreRolls] { services.Tape = &noMoreRolls; };
+    } else if (argc == 4) {
+        board.How = Ways[std::atoi(argv[2])];
+        board.At = std::atoi(argv[3]);
+    }
+    AutoPerson person(board);
+    board.SetSpeed(fault || argc == 4 ? 0 : watch ? 1 : 0.05);
+    board.OnQuestion = [&](Question& question) {
+        if (board.At == 0 || board.Count < board.At) {
+            person.Answer(question);
+        }
+    };
+    const EndSignals endSignals([&board] { board.close(); });
+    board.show();
+    QTimer again;
+    QObject::connect(&again, &QTimer::timeout, &board,
+                     [&board, watch] { watch ? board.watch_Click() : board.gob_Click(); });
+    again.start(0);
+    return QApplication::exec();
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    const bool child = argc >= 2 && (std::strcmp(argv[1], "--play") == 0 || std::strcmp(argv[1], "--watch") == 0 ||
+                                     std::strcmp(argv[1], "--fault") == 0 || std::strcmp(argv[1], "--end") == 0);
+    return child ? plasmos::testing::PlayOn(argc, argv)
+                 : plasmos::testing::RunWindowTests<plasmos::testing::ClosingTest>(argc, argv);
+}
+
+#include "closing_test.moc"

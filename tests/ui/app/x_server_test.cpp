@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Whole games played through the X server: one with its pointer alone, one with its keyboard alone.
+
+#include <QKeyEvent>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QWindow>
+
+#include "model/consistency.h"
+#include "tests/ui/support/scene.h"
+#include "ui/app/auto_person.h"
+#include "ui/board/puddle_view.h"
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+constexpr int Patience = 5000;
+constexpr int MostTabs = 80;
+
+/// Has the X server move its pointer and press its keys, and waits until what it sends has arrived.
+class XServer : public QObject {
+public:
+    XServer() { qApp->installEventFilter(this); }
+
+    /// Sends something that arrives as an event of this type.
+    bool Send(const QStringList& what, QEvent::Type awaited) {
+        const int before = arrived_;
+        awaited_ = awaited;
+        if (QProcess::execute(QStringLiteral("xdotool"), what) != 0) {
+            return false;
+        }
+        ++sent_;
+        return QTest::qWaitFor([&] { return arrived_ > before; }, Patience);
+    }
+    int Sent() const { return sent_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->spontaneous() && event->type() == awaited_ && watched->isWindowType()) {
+            ++arrived_;
+        }
+        return false;
+    }
+
+private:
+    QEvent::Type awaited_ = QEvent::None;
+    int arrived_ = 0;
+    int sent_ = 0;
+};
+
+class XPointer : public Hand {
+public:
+    explicit XPointer(XServer& server) : server_(server) {}
+    bool Lost() const { return lost_; }
+
+protected:
+    void PressWindow(QWindow& window, QPoint place, Qt::MouseButton button) override {
+        Send(window, place, button == Qt::RightButton ? "3" : "1", QEvent::MouseButtonRelease);
+    }
+    void TurnWheel(QWindow& window, QPoint place, bool up) override {
+        Send(window, place, up ? "4" : "5", QEvent::Wheel);
+    }
+
+private:
+    void Send(const QWindow& window, QPoint place, const char* button, QEvent::Type awaited) {
+        const QPoint point = window.mapToGlobal(place) * window.devicePixelRatio();
+        lost_ = !server_.Send({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
+                               QStringLiteral("click"), QString::fromLatin1(button)},
+                              awaited) ||
+                lost_;
+    }
+
+    XServer& server_;
+    bool lost_ = false;
+};
+
+}  // namespace
+
+class XServerTest : public QObject {
+    Q_OBJECT
+
+private:
+    /// Presses a key; what has the focus gets it.
+    void Key(XServer& server, Scene& scene, const char* key) {
+        if (!server.Send({QStringLiteral("key"), QString::fromLatin1(key)}, QEvent::KeyRelease)) {
+            scene.Fail(Concat("the key ", key, " did not arrive"));
+        }
+    }
+    /// Answers with keys what the automatic person would press.
+    void AnswerByKeys(XServer& server, Scene& scene, Question& question);
+    void Finish(Scene& scene, const std::function<void()>& go);
+
+private slots:
+    void initTestCase();
+    void withThePointer();
+    void withTheKeyboard();
+};
+
+void XServerTest::initTestCase() {
+    const bool there = QGuiApplication::platformName() == QStringLiteral("xcb") &&
+                       !QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty();
+    if (!there && qEnvironmentVariableIsSet("PLASMOS_NEEDS_X")) {
+        QFAIL("there is no X server, or no xdotool");
+    }
+    if (!there) {
+        QSKIP("there is no X server with xdotool here");
+    }
+}
+
+void XServerTest::Finish(Scene& scene, const std::function<void()>& go) {
+    game.RequestedClans = 4;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = 7;
+    scene.Patience = 240000;
+    QVERIFY(QTest::qWaitForWindowActive(&scene.Board()));
+    QTest::qWait(400);  // the window has found its place on the screen
+    PLAY(scene, go());
+    QVERIFY(!scene.WasEnded());
+    QCOMPARE(game.Turn, LastTurn + 1);
+    QCOMPARE(CheckConsistency(true), std::string());
+    QVERIFY(scene.Asked() > 50);
+}
+
+void XServerTest::withThePointer() {
+    // The second press of a double click answers nothing, and this person is quick.
+    QApplication::setDoubleClickInterval(1);
+    Scene scene;
+    XServer server;
+    XPointer pointer(server);
+    AutoPerson person(scene.Board(), pointer);
+    person.OnFault = [&scene](const std::string& why) { scene.Fail(why); };
+    scene.AnswerBy([&](Question& question) {
+        person.Answer(question);
+        if (pointer.Lost()) {
+            scene.Fail("a press did not arrive: " + question.Text);
+        }
+    });
+    Finish(scene, [&] { QCOMPARE(pointer.Press(*scene.Find(QStringLiteral("gob"))), std::string()); });
+    QVERIFY(server.Sent() > scene.Asked());
+}
+
+void XServerTest::AnswerByKeys(XServer& server, Scene& scene, Question& question) {
+    for (bool more = true; more;) {
+        const AutoPerson::Touch touch = scene.Player().Next(question);
+        more = !touch.Last;
+        if (question.Kind == QuestionKind::Square) {
+            Key(server, scene, "Right");  // the first of the glowing squares
+            Key(server, scene, "Return");
+        } else if (question.Kind == QuestionKind::YesNo) {
+            Key(server, scene, touch.Control->objectName() == QStringLiteral("yesb") ? "y" : "n");
+        } else if (touch.Control->focusPolicy() == Qt::NoFocus) {
+            Key(server, scene, "Escape");  // the cross of the dialog
+        } else {
+            for (int tabs = 0; QApplication::focusWidget() != touch.Control && tabs < MostTabs; ++tabs) {
+                Key(server, scene, "Tab");
+            }
+            if (QApplication::focusWidget() != touch.Control) {
+                scene.Fail("the keyboard does not get to " + touch.Control->objectName().toStdString());
+                return;
+            }
+            Key(server, scene, "space");
+        }
+    }
+}
+
+void XServerTest::withTheKeyboard() {
+    Scene scene;
+    XServer server;
+    scene.AnswerBy([&](Question& question) { AnswerByKeys(server, scene, question); });
+    Finish(scene, [&] { Key(server, scene, "Return"); });
+    QVERIFY(server.Sent() > scene.Asked());
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::XServerTest>(argc, argv);
+}
+
+#include "x_server_test.moc"

@@ -1,0 +1,395 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The gene dialog while a person adapts to the UV level.
+
+#include <QLabel>
+
+#include "model/consistency.h"
+#include "rules/environment.h"
+#include "rules/new_genes.h"
+#include "tests/ui/support/position.h"
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+const std::string Changed =
+    "The environment has changed.\nYou must pay the difference in BP between your amoebas' mutation-point value and "
+    "the environmental UV-level, and/or discard genes until the difference is reduced to 0 or below.";
+const std::string Refused =
+    "You must make up the difference between the current environmental UV-level and the sum mutation-point value of "
+    "your amoebas' genes by discarding genes and/or spending BP until the difference (\"UV cost\") is 0";
+const std::string Offer = "Clan Player 3, you have %1 BP.\nWould you like to buy new Genes?";
+
+QString Box(const char* code) {
+    return QStringLiteral("gcheck%1").arg(GeneNumber(code));
+}
+
+std::string OfferWith(int bp) {
+    return QString::fromStdString(Offer).arg(bp).toStdString();
+}
+
+bool IsBlue(Scene& scene) {
+    return scene.Find(QStringLiteral("UVdiff"))->palette().color(QPalette::WindowText) == QColor(0, 0, 255);
+}
+
+}  // namespace
+
+/// A clan with "def", "esc" and "sub", 12 points, under a UV level of 8.
+class AdaptScene : public PositionScene {
+public:
+    explicit AdaptScene(int bp) {
+        Give(3, {"def", "esc", "sub"});
+        game.BP[3] = bp;
+        game.EnvDeck[1] = {8, 1};
+    }
+    QString Cost() { return Text(QStringLiteral("UVdiff")); }
+    void ThenGenes(std::function<void()> act) { Then(QuestionKind::Genes, std::move(act)); }
+};
+
+class DialogsAdaptTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theDialogOpens();
+    void genesAndBpTogether();
+    void doneTwiceIsPaidOnce();
+    void aLowWindowStillSaysWhatHappened();
+    void typedBpAreNotCountedWhenABoxIsClicked();
+    void rayProtectionCountsFour();
+    void withoutBp();
+    void atTheLevelNothingHappens();
+    void doneIsRefused();
+    void theTextForBp_data();
+    void theTextForBp();
+    void theResetButton();
+    void closingIsDone_data();
+    void closingIsDone();
+    void twoPersonsOneAfterTheOther();
+};
+
+void DialogsAdaptTest::theDialogOpens() {
+    AdaptScene scene(3);
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Text(QStringLiteral("msglab")).toStdString(), Changed);
+        QCOMPARE(scene.Text(QStringLiteral("playerlab")), QStringLiteral("Player 3"));
+        QCOMPARE(scene.Text(QStringLiteral("driftlab")), QStringLiteral("Right"));
+        QCOMPARE(scene.Text(QStringLiteral("UVlab")), QStringLiteral("8"));
+        QCOMPARE(scene.Cost(), QStringLiteral("4"));
+        QCOMPARE(scene.Text(QStringLiteral("UVdiffLab")), QStringLiteral("UV cost"));
+        QVERIFY(!IsBlue(scene));
+        QCOMPARE(scene.Text(QStringLiteral("ofLab")), QStringLiteral("of 3"));
+        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("0"));
+        QVERIFY(!scene.Sees(QStringLiteral("resetb")));
+        QVERIFY(!scene.Sees(QStringLiteral("BPlabel")));
+        for (int gene = 1; gene <= GeneCount; ++gene) {
+            const QString box = QStringLiteral("gcheck%1").arg(gene);
+            QCOMPARE(scene.Ticked(box), game.Genes[gene][3]);
+            QCOMPARE(scene.Enabled(box), game.Genes[gene][3]);
+            QCOMPARE(scene.Text(box), ToQt(GeneName(gene)));
+        }
+        scene.Click(Box("esc"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(HeldGenes(3), std::string("def sub"));
+    QCOMPARE(scene.Text(QStringLiteral("msglab")), QString());
+    QCOMPARE(std::string(game.DialogMode), std::string());
+    QVERIFY(!scene.Sees(QStringLiteral("doneb")));
+}
+
+void DialogsAdaptTest::genesAndBpTogether() {
+    AdaptScene scene(3);
+    game.EnvDeck[1].UV = 6;
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Cost(), QStringLiteral("6"));
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("2"));
+        QCOMPARE(scene.Cost(), QStringLiteral("4"));
+        QVERIFY(scene.Sees(QStringLiteral("resetb")));
+        scene.Click(Box("def"));
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("2"));
+        QCOMPARE(scene.Cost(), QStringLiteral("0"));
+        QVERIFY(IsBlue(scene));
+        QCOMPARE(game.BP[3], 3);
+        QCOMPARE(HeldGenes(3), std::string("def esc sub"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    const int supply = game.Catalogue[GeneNumber("def")].Supply;
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], 1);
+    QCOMPARE(scene.Text(QStringLiteral("bplab2")), QStringLiteral("1"));
+    QCOMPARE(HeldGenes(3), std::string("esc sub"));
+    QCOMPARE(game.Catalogue[GeneNumber("def")].Supply, supply + 1);
+    QCOMPARE(game.Players[3].MutationLevel, 8);
+    QCOMPARE(CheckConsistency(), std::string());
+}
+
+// Two presses that wait in the queue together.
+void DialogsAdaptTest::doneTwiceIsPaidOnce() {
+    AdaptScene scene(9);
+    scene.ThenGenes([&] {
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        scene.Click(QStringLiteral("doneb"));
+        scene.Click(QStringLiteral("doneb"));
+        scene.Click(QStringLiteral("closeb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], 5);
+}
+
+void DialogsAdaptTest::aLowWindowStillSaysWhatHappened() {
+    AdaptScene scene(9);
+    scene.Board().resize(940, 640);
+    scene.ThenGenes([&] {
+        QCoreApplication::processEvents();
+        const bool card = scene.Sees(QStringLiteral("msglab"));
+        QVERIFY2(card != scene.Sees(QStringLiteral("messagelab")), "the message is said once");
+        QCOMPARE(scene.Text(card ? QStringLiteral("msglab") : QStringLiteral("messagelab")).toStdString(), Changed);
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        QCoreApplication::processEvents();
+        for (const char* name : {"EnvBP", "UVdiff", "resetb", "doneb"}) {
+            const QWidget* control = scene.Find(QString::fromLatin1(name));
+            QVERIFY2(control->width() >= control->minimumSizeHint().width(), name);
+            QVERIFY2(control->mapTo(&scene.Board(), control->rect().bottomRight()).x() < scene.Board().width(), name);
+            QVERIFY2(control->mapTo(&scene.Board(), control->rect().bottomRight()).y() < scene.Board().height(), name);
+        }
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+}
+
+void DialogsAdaptTest::typedBpAreNotCountedWhenABoxIsClicked() {
+    AdaptScene scene(3);
+    scene.ThenGenes([&] {
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("3"));
+        QCOMPARE(scene.Cost(), QStringLiteral("1"));
+        scene.Click(Box("def"));
+        QCOMPARE(scene.Cost(), QStringLiteral("0"));
+        scene.Click(Box("def"));
+        QCOMPARE(scene.Cost(), QStringLiteral("4"));
+        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("3"));
+        scene.Click(Box("def"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], 0);
+    QCOMPARE(HeldGenes(3), std::string("esc sub"));
+}
+
+void DialogsAdaptTest::rayProtectionCountsFour() {
+    AdaptScene scene(0);
+    Give(3, "ray");
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Cost(), QStringLiteral("2"));
+        scene.Click(Box("ray"));
+        QCOMPARE(scene.Cost(), QStringLiteral("-2"));
+        scene.Click(Box("ray"));
+        QCOMPARE(scene.Cost(), QStringLiteral("2"));
+        scene.Click(Box("ray"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.Players[3].MutationLevel, 12);
+    QVERIFY(game.Players[3].MutationLevel > game.UVLevel);
+}
+
+void DialogsAdaptTest::withoutBp() {
+    AdaptScene scene(0);
+    scene.ThenGenes([&] {
+        QVERIFY(!scene.Sees(QStringLiteral("EnvBP")));
+        QVERIFY(!scene.Sees(QStringLiteral("ofLab")));
+        QVERIFY(!scene.Sees(QStringLiteral("payLab")));
+        scene.Click(Box("sub"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(HeldGenes(3), std::string("def esc"));
+}
+
+void DialogsAdaptTest::atTheLevelNothingHappens() {
+    AdaptScene scene(3);
+    game.EnvDeck[1].UV = 12;
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(scene.Asked(), 0);
+    QCOMPARE(game.BP[3], 3);
+    QCOMPARE(scene.Text(QStringLiteral("UVlab")), QStringLiteral("12"));
+}
+
+void DialogsAdaptTest::doneIsRefused() {
+    AdaptScene scene(3);
+    scene.ThenGenes([&] {
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("3"));
+        scene.Click(QStringLiteral("doneb"));
+        QCOMPARE(game.BP[3], 3);
+    });
+    scene.Then(QuestionKind::Box, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("boxlab")).toStdString(), Refused);
+        QVERIFY(!scene.Enabled(QStringLiteral("gcheck5")));
+        if (scene.Sees(Box("def"))) {
+            scene.Press(scene.Find(Box("def")));
+        }
+        scene.Click(QStringLiteral("okb"));
+    });
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Cost(), QStringLiteral("4"));
+        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("0"));
+        QVERIFY(!scene.Sees(QStringLiteral("resetb")));
+        QVERIFY(scene.Ticked(Box("def")) && scene.Ticked(Box("esc")) && scene.Ticked(Box("sub")));
+        scene.Click(Box("def"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], 3);
+    QCOMPARE(HeldGenes(3), std::string("esc sub"));
+}
+
+void DialogsAdaptTest::theTextForBp_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("becomes");
+    QTest::addColumn<QString>("cost");
+    QTest::addColumn<int>("left");
+    QTest::newRow("all of them") << "3"
+                                 << "3"
+                                 << "-3" << 0;
+    QTest::newRow("a plus") << "+2"
+                            << "+2"
+                            << "-2" << 1;
+    QTest::newRow("a fraction is cut off") << "2.9"
+                                           << "2.9"
+                                           << "-2" << 1;
+    QTest::newRow("blanks") << " 1 "
+                            << " 1 "
+                            << "-1" << 2;
+    QTest::newRow("negative: neither paid nor refunded") << "-2"
+                                                         << "-2"
+                                                         << "2" << 3;
+    QTest::newRow("letters") << "abc"
+                             << "0"
+                             << "0" << 3;
+    QTest::newRow("too large") << "4"
+                               << "0"
+                               << "0" << 3;
+    QTest::newRow("empty") << ""
+                           << "0"
+                           << "0" << 3;
+    QTest::newRow("forty digits") << "1111111111111111111111111111111111111111"
+                                  << "0"
+                                  << "0" << 3;
+    QTest::newRow("ten digits") << "0000000001"
+                                << "0"
+                                << "0" << 3;
+    QTest::newRow("a hexadecimal") << "0x2"
+                                   << "0"
+                                   << "0" << 3;
+    QTest::newRow("an exponent") << "1e0"
+                                 << "0"
+                                 << "0" << 3;
+    QTest::newRow("two signs") << "+-1"
+                               << "0"
+                               << "0" << 3;
+}
+
+void DialogsAdaptTest::theTextForBp() {
+    QFETCH(QString, text);
+    QFETCH(QString, becomes);
+    QFETCH(QString, cost);
+    QFETCH(int, left);
+    AdaptScene scene(3);
+    scene.ThenGenes([&] {
+        scene.Click(Box("def"));
+        if (text.isEmpty()) {
+            scene.Type(QStringLiteral("EnvBP"), text);
+        } else {
+            scene.Paste(QStringLiteral("EnvBP"), text);
+        }
+        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), becomes);
+        QCOMPARE(scene.Cost(), cost);
+        if (cost == QStringLiteral("2")) {
+            scene.Click(Box("esc"));
+            QCOMPARE(scene.Text(QStringLiteral("EnvBP")), becomes);
+        }
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(game.BP[3], left);
+}
+
+void DialogsAdaptTest::theResetButton() {
+    AdaptScene scene(3);
+    scene.ThenGenes([&] {
+        scene.Click(Box("def"));
+        scene.Click(Box("sub"));
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("1"));
+        QCOMPARE(scene.Cost(), QStringLiteral("-5"));
+        scene.Click(QStringLiteral("resetb"));
+        QCOMPARE(scene.Cost(), QStringLiteral("4"));
+        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("0"));
+        QVERIFY(scene.Ticked(Box("def")) && scene.Ticked(Box("sub")));
+        QVERIFY(!scene.Sees(QStringLiteral("resetb")));
+        scene.Click(Box("sub"));
+        QVERIFY(scene.Sees(QStringLiteral("resetb")));
+        QCOMPARE(scene.Cost(), QStringLiteral("0"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(HeldGenes(3), std::string("def esc"));
+    QCOMPARE(game.BP[3], 3);
+}
+
+void DialogsAdaptTest::closingIsDone_data() {
+    QTest::addColumn<bool>("key");
+    QTest::newRow("the cross") << false;
+    QTest::newRow("Escape") << true;
+}
+
+void DialogsAdaptTest::closingIsDone() {
+    QFETCH(bool, key);
+    const auto close = [key](Scene& scene) {
+        key ? scene.Key(QStringLiteral("doneb"), Qt::Key_Escape) : scene.Click(QStringLiteral("closeb"));
+    };
+    AdaptScene scene(3);
+    scene.ThenGenes([&] { close(scene); });
+    scene.ThenBox(Refused);
+    scene.ThenGenes([&] {
+        scene.Click(Box("sub"));
+        close(scene);
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(HeldGenes(3), std::string("def esc"));
+    game.BP[3] = 9;
+    scene.ThenYes(OfferWith(9));
+    scene.ThenGenes([&] { close(scene); });
+    PHASE(scene, NewGenesPhase());
+    QCOMPARE(game.BP[3], 9);
+}
+
+void DialogsAdaptTest::twoPersonsOneAfterTheOther() {
+    AdaptScene scene(3);
+    Person(2);
+    Give(2, {"lif", "ten"});
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Text(QStringLiteral("playerlab")), QStringLiteral("Player 2"));
+        QCOMPARE(scene.Cost(), QStringLiteral("1"));
+        QVERIFY(!scene.Sees(QStringLiteral("EnvBP")));
+        scene.Click(Box("ten"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    scene.ThenGenes([&] {
+        QCOMPARE(scene.Text(QStringLiteral("playerlab")), QStringLiteral("Player 3"));
+        QVERIFY(scene.Sees(QStringLiteral("EnvBP")));
+        scene.Click(Box("sub"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QCOMPARE(HeldGenes(2), std::string("lif"));
+    QCOMPARE(HeldGenes(3), std::string("def esc"));
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsAdaptTest>(argc, argv);
+}
+
+#include "dialogs_adapt_test.moc"

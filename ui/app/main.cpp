@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QMessageBox>
+#include <QSessionManager>
+#include <cstdio>
+
+#include "files/game_files.h"
+#include "files/platform.h"
+#include "files/process.h"
+#include "flow/start.h"
+#include "model/game_state.h"
+#include "model/services.h"
+#include "ui/app/end_signals.h"
+#include "ui/app/qt_settings.h"
+#include "ui/app/scale_factors.h"
+#include "ui/look/palette.h"
+#include "ui/window/uboard.h"
+
+int main(int argc, char** argv) {
+    using namespace plasmos;
+    PrepareProcess();
+    if (argc > 1) {
+        std::fputs("plasmos takes no arguments\n", stderr);
+        return 2;
+    }
+    CheckScaleFactors();
+    QApplication application(argc, argv);
+    PrepareApplication();
+    DataFolder files(DataFolderPath());
+    QtSettings settings;
+    services.Files = &files;
+    // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
+    services.Settings = &settings;
+    settings.RemoveAbandonedDrafts();
+    std::string fault = PrepareDataFolder();
+    if (const auto refused = settings.Fault(); !refused.empty()) {
+        fault += (fault.empty() ? "" : "\n\n") + refused;
+    }
+    UBoard board;
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
+        Qt::DirectConnection);
+    const EndSignals endSignals([&board] { board.close(); });
+    board.show();
+    QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
+    notice.setTextFormat(Qt::PlainText);
+    notice.setPalette(LookPalette());
+    if (!fault.empty()) {
+        notice.setModal(false);
+        notice.show();
+    }
+    return QApplication::exec();
+}

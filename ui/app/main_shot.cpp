@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "files/game_files.h"
+#include "files/process.h"
+#include "files/settings_store.h"
+#include "model/dice.h"
+#include "model/game_state.h"
+#include "model/services.h"
+#include "ui/app/auto_person.h"
+#include "ui/app/scale_factors.h"
+#include "ui/look/palette.h"
+#include "ui/window/uboard.h"
+
+namespace {
+
+using namespace plasmos;
+
+constexpr int TurnOfPicture = 4;
+constexpr int LastDemoTurn = LastTurn;
+
+struct Wish {
+    QString File;
+    QString Folder;
+    float Replay = 4711;
+    QSize Size{1320, 860};
+};
+
+/// The window as it is told to be: it prints the log, and takes pictures at the turns of a demonstration.
+class DemoBoard : public UBoard {
+public:
+    explicit DemoBoard(QString folder) : folder_(std::move(folder)) {}
+
+    void Log(std::string_view line, int clan) override {
+        UBoard::Log(line, clan);
+        std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
+    }
+
+    void ShowTurn() override {
+        UBoard::ShowTurn();
+        if (game.Turn == 1) {
+            Take(QStringLiteral("first.png"));
+        } else if (game.Turn == LastDemoTurn / 2 + 1) {
+            Take(QStringLiteral("middle.png"));
+        }
+    }
+
+    bool Take(const QString& name) {
+        const QString path = QDir(folder_).filePath(name);
+        const bool saved = grab().save(path);
+        if (saved) {
+            pictures_.push_back(path);
+        }
+        failed_ = failed_ || !saved;
+        return saved;
+    }
+
+    bool Failed() const { return failed_; }
+    const std::vector<QString>& Pictures() const { return pictures_; }
+
+private:
+    QString folder_;
+    std::vector<QString> pictures_;
+    bool failed_ = false;
+};
+
+int Refuse(const char* why) {
+    std::fprintf(stderr, "plasmos-shot: %s; usage: plasmos-shot FILE [--replay N] [--size WxH] | --demo FOLDER\n", why);
+    return 2;
+}
+
+bool ReadSize(const QString& text, QSize& size) {
+    const QStringList sides = text.split(QLatin1Char('x'));
+    bool width = false;
+    bool height = false;
+    if (sides.size() == 2) {
+        size = QSize(sides[0].toInt(&width), sides[1].toInt(&height));
+    }
+    return width && height && size.width() >= 300 && size.height() >= 200 && size.width() <= 8000 &&
+           size.height() <= 8000;
+}
+
+/// What is wanted; nothing where the arguments make no sense, with the reason in `why`.
+std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
+    Wish wish;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        const bool takesValue = argument == QLatin1String("--replay") || argument == QLatin1String("--size") ||
+                                argument == QLatin1String("--demo");
+        if (takesValue && i + 1 == arguments.size()) {
+            why = "a value is missing";
+            return std::nullopt;
+        }
+        if (argument == QLatin1String("--replay")) {
+            if (!ParseReplayNumber(arguments[++i].toStdString(), wish.Replay)) {
+                why = "the replay number is no number";
+                return std::nullopt;
+            }
+        } else if (argument == QLatin1String("--size")) {
+            if (!ReadSize(arguments[++i], wish.Size)) {
+                why = "the size is no size";
+                return std::nullopt;
+            }
+        } else if (argument == QLatin1String("--demo")) {
+            wish.Folder = arguments[++i];
+        } else if (argument.startsWith(QLatin1String("--")) || !wish.File.isEmpty()) {
+            why = "unknown argument";
+            return std::nullopt;
+        } else {
+            wish.File = argument;
+        }
+    }
+    if (wish.File.isEmpty() == wish.Folder.isEmpty()) {
+        why = "one file or one folder is wanted";
+        return std::nullopt;
+    }
+    return wish;
+}
+
+/// A game with a person who answers at once, until a question is open in the turn of the picture.
+int TakeShot(const Wish& wish) {
+    UBoard board;
+    board.SetSpeed(0);
+    board.resize(wish.Size);
+    board.show();
+    AutoPerson person(board);
+    bool saved = false;
+    bool taken = false;
+    board.OnQuestion = [&](Question& question) {
+        const bool late = game.Turn > TurnOfPicture;
+        if (!taken && game.Turn >= TurnOfPicture && (late || question.Kind == QuestionKind::YesNo)) {
+            taken = true;
+            saved = board.grab().save(wish.File);
+            board.EndProgram();
+            return;
+        }
+        person.Answer(question);
+    };
+    QTimer::singleShot(0, &board, [&board] {
+        board.gob_Click();
+        QCoreApplication::exit(0);
+    });
+    QApplication::exec();
+    if (!taken) {
+        saved = board.grab().save(wish.File);
+    }
+    if (!saved) {
+        std::fprintf(stderr, "plasmos-shot: %s cannot be written\n", qPrintable(wish.File));
+    }
+    return saved ? 0 : 1;
+}
+
+int PlayDemo(const Wish& wish) {
+    if (!QDir().mkpath(wish.Folder)) {
+        std::fprintf(stderr, "plasmos-shot: the folder %s cannot be made\n", qPrintable(wish.Folder));
+        return 1;
+    }
+    DemoBoard board(wish.Folder);
+    board.SetSpeed(0);
+    board.resize(wish.Size);
+    board.show();
+    QTimer::singleShot(0, &board, [&board] {
+        board.watch_Click();
+        QCoreApplication::exit(0);
+    });
+    QApplication::exec();
+    board.Take(QStringLiteral("last.png"));
+    for (const QString& path : board.Pictures()) {
+        std::printf("%s\n", qPrintable(path));
+    }
+    if (board.Failed()) {
+        std::fprintf(stderr, "plasmos-shot: a picture in %s cannot be written\n", qPrintable(wish.Folder));
+    }
+    const bool told = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+    if (!told) {
+        std::fputs("plasmos-shot: standard output cannot be written\n", stderr);
+    }
+    return board.Failed() || !told ? 1 : 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    PrepareProcess();
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    const char* why = "";
+    const auto wish = ReadWish(arguments, why);
+    if (!wish) {
+        return Refuse(why);
+    }
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    int count = 1;
+    CheckScaleFactors();
+    QApplication application(count, argv);
+    PrepareApplication();
+    const QTemporaryDir folder;
+    DataFolder files(folder.path().toStdString());
+    MemorySettings settings;
+    services.Files = &files;
+    // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
+    services.Settings = &settings;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = wish->Replay;
+    return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);
+}

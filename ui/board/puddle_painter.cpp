@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/board/puddle_painter.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+#include <algorithm>
+#include <cmath>
+
+#include "model/game_state.h"
+#include "ui/look/cube.h"
+#include "ui/look/palette.h"
+#include "ui/look/piece_layout.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr double Gap = 14;
+constexpr double Corner = 90;
+
+QRectF SquareRect(int square) {
+    return QRectF(SquareCorner(square), QSizeF(SquareUnits, SquareUnits)).adjusted(Gap, Gap, -Gap, -Gap);
+}
+
+/// How food is stacked: where a square is small on the screen, one bigger cube stands for its colour.
+struct Stacks {
+    double Cube = 122;
+    double Letters = 90;
+    int High = 3;
+};
+
+Stacks StacksOf(const QPainter& painter) {
+    constexpr double SmallSquare = 92;
+    const bool small = painter.worldTransform().m11() * SquareUnits < SmallSquare;
+    return small ? Stacks{146, 172, 1} : Stacks{};
+}
+
+/// Left foot of a colour's stack.
+QPointF StackFoot(const Stacks& stacks, int square, int clan) {
+    constexpr double Left = 62;
+    const double most = stacks.High > 1 ? 150 : 185;
+    const double room = (SquareUnits - 2 * Left - stacks.Cube) / std::max(game.NumPlayers - 1, 1);
+    return SquareCorner(square) + QPointF(Left + std::min(most, room) * (clan - 1), SquareUnits - 52);
+}
+
+}  // namespace
+
+void DrawWater(QPainter& painter, const QRectF& puddle) {
+    QRadialGradient water(puddle.left() + puddle.width() * 0.45, puddle.top() + puddle.height() * 0.38,
+                          std::max(puddle.width(), puddle.height()) * 0.8);
+    water.setColorAt(0, QColor(0xCFEFEA));
+    water.setColorAt(0.55, QColor(0x8FCFCB));
+    water.setColorAt(1, QColor(0x4C9AA3));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(water);
+    painter.drawRoundedRect(puddle, 130, 130);
+    painter.setBrush(Qt::NoBrush);
+    painter.save();
+    QPainterPath edge;
+    edge.addRoundedRect(puddle, 130, 130);
+    painter.setClipPath(edge);
+    const int waves = static_cast<int>(std::ceil((puddle.height() - 380) / 670));
+    for (int wave = 0; wave < waves; ++wave) {
+        const double y = puddle.top() + 380 + 670 * wave;
+        const double x = puddle.left() + 240 + (wave * 977) % 1400;
+        QPainterPath ripple(QPointF(x, y));
+        for (int i = 0; i < 3; ++i) {
+            const double from = x + 1000 * i;
+            const double bend = i % 2 == 0 ? -120 : 120;
+            ripple.quadTo(from + 500, y + bend, from + 1000, y);
+        }
+        painter.setPen(QPen(QColor(255, 255, 255, 44), 26, Qt::SolidLine, Qt::RoundCap));
+        painter.drawPath(ripple);
+    }
+    painter.restore();
+    painter.setPen(QPen(QColor(0x2F, 0x7E, 0x88, 120), 22));
+    painter.drawRoundedRect(puddle.adjusted(11, 11, -11, -11), 122, 122);
+}
+
+void DrawGlass(QPainter& painter, int square) {
+    QLinearGradient glass(SquareRect(square).topLeft(), SquareRect(square).bottomRight());
+    glass.setColorAt(0, QColor(255, 255, 255, 46));
+    glass.setColorAt(1, QColor(255, 255, 255, 20));
+    painter.setBrush(glass);
+    painter.setPen(QPen(QColor(255, 255, 255, 130), 10));
+    painter.drawRoundedRect(SquareRect(square), Corner, Corner);
+}
+
+void DrawStone(QPainter& painter, int square) {
+    const QPointF corner = SquareCorner(square);
+    QPainterPath stone(corner + QPointF(170, 260));
+    stone.cubicTo(corner + QPointF(330, 40), corner + QPointF(820, 60), corner + QPointF(1010, 190));
+    stone.cubicTo(corner + QPointF(1180, 420), corner + QPointF(1170, 820), corner + QPointF(1020, 960));
+    stone.cubicTo(corner + QPointF(800, 1130), corner + QPointF(420, 1120), corner + QPointF(220, 1000));
+    stone.cubicTo(corner + QPointF(40, 820), corner + QPointF(60, 440), corner + QPointF(170, 260));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(8, 59, 66, 40));
+    painter.drawPath(stone.translated(14, 34));
+    painter.drawPath(stone.translated(8, 18));
+    QLinearGradient grey(corner, corner + QPointF(760, 1200));
+    grey.setColorAt(0, QColor(0xCFC9BE));
+    grey.setColorAt(1, QColor(0x7E776B));
+    painter.setBrush(grey);
+    painter.setPen(QPen(QColor(0x6A6458), 14));
+    painter.drawPath(stone);
+    QPainterPath shine(corner + QPointF(270, 340));
+    shine.quadTo(corner + QPointF(430, 190), corner + QPointF(680, 220));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(255, 255, 255, 130), 34, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPath(shine);
+}
+
+void DrawSquareNumber(QPainter& painter, int square) {
+    painter.setFont(LookFont(100, true));
+    painter.setPen(QColor(0x1F, 0x55, 0x5E, 220));
+    const QRectF corner(SquareCorner(square) + QPointF(62, 46), QSizeF(300, 130));
+    painter.drawText(corner, Qt::AlignLeft | Qt::AlignTop, QString::number(square));
+}
+
+void DrawFood(QPainter& painter, int square) {
+    const Stacks stacks = StacksOf(painter);
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        const QPointF foot = StackFoot(stacks, square, clan);
+        const int shown = std::min(game.Food[square][clan], stacks.High);
+        if (shown == 0) {
+            painter.setPen(QPen(QColor(255, 255, 255, 70), 12, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(foot + QPointF(24, -8), foot + QPointF(stacks.Cube - 24, -8));
+        }
+        for (int i = 0; i < shown; ++i) {
+            const double top = foot.y() - stacks.Cube - (stacks.Cube + 6) * i;
+            DrawCube(painter, clan, QRectF(foot.x(), top, stacks.Cube, stacks.Cube));
+        }
+    }
+}
+
+void DrawFoodCounts(QPainter& painter, int square) {
+    const Stacks stacks = StacksOf(painter);
+    for (int clan = 1; clan <= game.NumPlayers && !game.Blocked[square]; ++clan) {
+        const int count = game.Food[square][clan];
+        if (count <= stacks.High) {
+            continue;
+        }
+        const bool tight = count > 9;
+        const QString text = (stacks.High > 1 && !tight ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
+        const double letters = stacks.Letters * (stacks.High == 1 && tight ? 0.72 : 1);
+        const double wide = letters * (0.75 * static_cast<double>(text.size())) + 8;
+        const QPointF foot = StackFoot(stacks, square, clan);
+        const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
+                         foot.y() - (stacks.Cube + 6) * stacks.High - letters - 4, wide, letters + 2);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0xE6, 0xF6, 0xF3, 205));
+        painter.drawRoundedRect(tag, letters * 0.4, letters * 0.4);
+        painter.setFont(LookFont(letters, true));
+        painter.setPen(QColor(0x0F, 0x3D, 0x45));
+        painter.drawText(tag, Qt::AlignCenter | Qt::TextDontClip, text);
+    }
+}
+
+void DrawOffer(QPainter& painter, int square, bool bright) {
+    const QRectF rect = SquareRect(square);
+    painter.setBrush(QColor(255, 248, 214, bright ? 150 : 92));
+    const double widths[] = {92, 66, 44};
+    for (const double width : widths) {
+        painter.setPen(QPen(QColor(255, 190, 40, bright ? 64 : 42), width));
+        painter.drawRoundedRect(rect, Corner, Corner);
+        painter.setBrush(Qt::NoBrush);
+    }
+    painter.setPen(QPen(QColor(look::Amber), bright ? 38 : 28));
+    painter.drawRoundedRect(rect, Corner, Corner);
+}
+
+void DrawSpokenOf(QPainter& painter, int square) {
+    const QRectF rect = SquareRect(square);
+    painter.setBrush(QColor(255, 255, 255, 60));
+    painter.setPen(QPen(QColor(255, 255, 255, 235), 34));
+    painter.drawRoundedRect(rect, Corner, Corner);
+    painter.setBrush(Qt::NoBrush);
+    QPen dashes(QColor(look::Teal), 20);
+    dashes.setCapStyle(Qt::FlatCap);
+    dashes.setDashPattern({4, 3});
+    painter.setPen(dashes);
+    painter.drawRoundedRect(rect, Corner, Corner);
+}
+
+void DrawHover(QPainter& painter, int square) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(255, 255, 255, 210), 16));
+    painter.drawRoundedRect(SquareRect(square), Corner, Corner);
+}
+
+}  // namespace plasmos

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+
+class QPainter;
+
+namespace plasmos {
+
+/// What the puddle looks like, drawn from the state in board units (SquareUnits to a square).
+
+/// The water under everything.
+void DrawWater(QPainter& painter, const QRectF& puddle);
+/// The glass of one square with its gridlines.
+void DrawGlass(QPainter& painter, int square);
+/// The stone that covers a blocked square.
+void DrawStone(QPainter& painter, int square);
+/// The square's number in its corner, small and bold.
+void DrawSquareNumber(QPainter& painter, int square);
+/// Cubes stacked by colour.
+void DrawFood(QPainter& painter, int square);
+/// The count above every stack that is higher than it shows.
+void DrawFoodCounts(QPainter& painter, int square);
+/// The amber glow of an offered square; brighter under the pointer or the arrow keys.
+void DrawOffer(QPainter& painter, int square, bool bright);
+/// Dashes around the square that a question speaks of.
+void DrawSpokenOf(QPainter& painter, int square);
+/// A thin frame for the square under the pointer.
+void DrawHover(QPainter& painter, int square);
+
+}  // namespace plasmos

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/board/score_track.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "model/game_state.h"
+#include "ui/board/puddle_view.h"
+#include "ui/look/palette.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Spaces = 60;
+
+/// Spaces along the top; as many along the bottom, the rest along the two sides.
+int SpacesAcross() {
+    const int half = Spaces / 2;
+    const int across =
+        static_cast<int>(std::lround(static_cast<double>(half) * game.NumCols / (game.NumCols + game.NumRows)));
+    return std::clamp(across, 4, half - 4);
+}
+
+int SpaceOf(int score) {
+    return score < 1 ? 1 : (score - 1) % Spaces + 1;
+}
+
+}  // namespace
+
+ScoreTrack::ScoreTrack(QWidget* parent) : QWidget(parent), puddle_(new PuddleView(this)) {
+    setObjectName(QStringLiteral("ScoreTrack"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ScoreTrack::BoardChanged() {
+    Arrange();
+    puddle_->update();
+    update();
+}
+
+void ScoreTrack::resizeEvent(QResizeEvent*) {
+    Arrange();
+}
+
+void ScoreTrack::Arrange() {
+    lane_ = std::clamp(std::min(width(), height()) / 30.0, 17.0, 34.0);
+    const double margin = 2 * (lane_ + 9);
+    const double square = std::floor(std::min((width() - margin) / game.NumCols, (height() - margin) / game.NumRows));
+    const QSizeF puddle(std::max(square, 8.0) * game.NumCols, std::max(square, 8.0) * game.NumRows);
+    const QPoint corner(static_cast<int>((width() - puddle.width()) / 2),
+                        static_cast<int>((height() - puddle.height()) / 2));
+    puddle_->setGeometry(QRect(corner, puddle.toSize()));
+    const double rim = lane_ + 8;
+    frame_ = QRectF(puddle_->geometry()).adjusted(-rim, -rim, rim, rim);
+}
+
+QRectF ScoreTrack::SpaceRect(int space) const {
+    const int across = SpacesAcross();
+    const int down = Spaces / 2 - across;
+    const QRectF inner = frame_.adjusted(lane_ + 3, lane_ + 3, -lane_ - 3, -lane_ - 3);
+    const double width = inner.width() / across;
+    const double height = inner.height() / down;
+    int place = std::clamp(space, 1, Spaces) - 1;
+    QRectF rect;
+    if (place < across) {
+        rect = QRectF(inner.left() + width * place, frame_.top() + 2, width, lane_);
+    } else if ((place -= across) < down) {
+        rect = QRectF(frame_.right() - lane_ - 2, inner.top() + height * place, lane_, height);
+    } else if ((place -= down) < across) {
+        rect = QRectF(inner.right() - width * (place + 1), frame_.bottom() - lane_ - 2, width, lane_);
+    } else {
+        place -= across;
+        rect = QRectF(frame_.left() + 2, inner.bottom() - height * (place + 1), lane_, height);
+    }
+    return rect.adjusted(1, 1, -1, -1);
+}
+
+void ScoreTrack::DrawSpaces(QPainter& painter) const {
+    for (int space = 1; space <= Spaces; ++space) {
+        const QRectF rect = SpaceRect(space);
+        const bool goal = space == VictoryScore;
+        painter.setPen(QPen(goal ? QColor(0xD9B100) : QColor(0xE3DCCB), 1));
+        painter.setBrush(goal ? QColor(0xFFF0A8) : space % 2 == 1 ? QColor(0xF7F3E8) : QColor(0xFFFDF8));
+        painter.drawRoundedRect(rect, 5, 5);
+        const double room = std::min(rect.width(), rect.height());
+        const bool named = goal || space % 5 == 0 || space == 1;
+        painter.setFont(LookFont(std::clamp(room * (named ? 0.44 : 0.5), 8.0, 14.0), goal));
+        painter.setPen(goal ? QColor(0x7A6200) : QColor(0x8A8270));
+        painter.drawText(rect, Qt::AlignCenter, named ? QString::number(space) : QStringLiteral("·"));
+    }
+}
+
+void ScoreTrack::DrawMarkers(QPainter& painter) const {
+    std::array<int, Spaces + 1> standing{};
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        const int score = game.Players[clan].Score;
+        if (score < 1) {
+            continue;
+        }
+        const int space = SpaceOf(score);
+        const QRectF rect = SpaceRect(space);
+        const double radius = std::clamp(std::min(rect.width(), rect.height()) * 0.46, 6.0, 14.0);
+        const double aside = radius * 0.8 * standing[static_cast<std::size_t>(space)]++;
+        const QPointF centre = rect.center() + QPointF(aside, aside * 0.3);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 45));
+        painter.drawEllipse(centre + QPointF(0, 1.8), radius + 0.6, radius + 0.6);
+        DrawClanBadge(painter, clan, centre, radius);
+        if (score > Spaces) {
+            const QRectF tag(centre.x() + radius * 0.25, centre.y() - radius * 1.3, radius * 1.9, radius * 0.95);
+            painter.setBrush(QColor(look::Ink));
+            painter.setPen(Qt::NoPen);
+            painter.drawRoundedRect(tag, 3, 3);
+            painter.setPen(Qt::white);
+            painter.setFont(LookFont(radius * 0.72, true));
+            painter.drawText(tag, Qt::AlignCenter, QStringLiteral("+%1").arg((score - 1) / Spaces * Spaces));
+        }
+    }
+}
+
+void ScoreTrack::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0xCFC8B8), 1));
+    painter.setBrush(QColor(0xFFFDF8));
+    painter.drawRoundedRect(frame_, 14, 14);
+    DrawSpaces(painter);
+    DrawMarkers(painter);
+}
+
+}  // namespace plasmos

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/board/ttip.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QTextDocument>
+
+#include "files/text.h"
+#include "model/game_state.h"
+#include "ui/board/puddle_view.h"
+#include "ui/look/palette.h"
+#include "ui/look/piece_layout.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int WaitingMilliseconds = 1500;
+constexpr int ShowingMilliseconds = 5;
+constexpr double Band = 40;
+constexpr QPoint Beside(20, -2);
+
+}  // namespace
+
+std::string TipTextAt(int x, int y) {
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+            const Piece& piece = game.Amoeba[amoeba][clan];
+            if (piece.Square == 0) {
+                continue;
+            }
+            const QRectF marker = MarkerOf(clan, amoeba);
+            const bool across = marker.left() < x && x <= marker.right();
+            const bool down = marker.top() + Band < y && y <= marker.bottom() + Band;
+            if (!marker.isEmpty() && across && down) {
+                return Concat(amoeba, "- ", piece.Name.View(), " (", piece.Damage, ")");
+            }
+        }
+    }
+    return {};
+}
+
+ToolTips::ToolTips(PuddleView* puddle)
+    : QObject(puddle),
+      puddle_(puddle),
+      TTwin_(new QLabel(puddle->window(), Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput)),
+      ttTimer_(new QTimer(this)) {
+    TTwin_->setObjectName(QStringLiteral("TTwin"));
+    TTwin_->setAttribute(Qt::WA_ShowWithoutActivating);
+    TTwin_->setTextFormat(Qt::PlainText);
+    TTwin_->setFont(LookFont(13, true));
+    TTwin_->setMargin(5);
+    TTwin_->setStyleSheet(QStringLiteral("background:#FFFBE6;color:#22272B;border:1px solid #BDB7A8"));
+    ttTimer_->setObjectName(QStringLiteral("ttTimer"));
+    connect(ttTimer_, &QTimer::timeout, this, [this] { ttTimer_Timer(); });
+    ttTimer_->start(WaitingMilliseconds);
+}
+
+ToolTips::~ToolTips() = default;
+
+void ToolTips::ttTimer_Timer() {
+    const QPoint cursor = QCursor::pos();
+    const QWidget* under = QApplication::widgetAt(cursor);
+    const bool over = puddle_->isVisible() && (under == puddle_ || under == TTwin_);
+    const QPoint units = puddle_->UnitsAt(puddle_->mapFromGlobal(QPointF(cursor)));
+    ShowTip(over ? TipTextAt(units.x(), units.y()) : std::string());
+}
+
+void ToolTips::Stop() {
+    ttTimer_->stop();
+    TTwin_->hide();
+}
+
+void ToolTips::ShowTip(const std::string& text) {
+    if (text.empty()) {
+        if (ttTimer_->interval() != WaitingMilliseconds) {
+            ttTimer_->start(WaitingMilliseconds);
+        }
+        TTwin_->hide();
+        return;
+    }
+    if (TTwin_->text() != ToQt(text)) {
+        TTwin_->setText(ToQt(text));
+        TTwin_->resize(TTwin_->sizeHint());
+    }
+    const QPoint place = QCursor::pos() + Beside;
+    if (TTwin_->pos() != place) {
+        TTwin_->move(place);
+    }
+    if (!TTwin_->isVisible()) {
+        TTwin_->show();
+    }
+    if (ttTimer_->interval() != ShowingMilliseconds) {
+        ttTimer_->start(ShowingMilliseconds);
+    }
+}
+
+}  // namespace plasmos

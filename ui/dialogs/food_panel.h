@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+#include <QRadioButton>
+#include <array>
+
+#include "questions/food_form.h"
+#include "ui/dialogs/question_panel.h"
+
+namespace plasmos {
+
+/// What to eat, or what a tentacle carries: an entry field for each colour in the square.
+class FoodPanel : public QuestionPanel {
+public:
+    FoodPanel(QWidget* parent, FoodForm& form);
+    void Reread() override;
+    void CloseAsked() override;
+    QWidget* FirstControl() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Row {
+        QWidget* Line = nullptr;
+        QLabel* Name = nullptr;
+        QLabel* Count = nullptr;
+        QLineEdit* Entry = nullptr;
+        QPushButton* Less = nullptr;
+        QPushButton* More = nullptr;
+    };
+
+    void MakeRow(int field);
+    void MakeAlternatives();
+    void RereadRow(int field);
+    void Step(int field, int by);
+
+    FoodForm& form_;
+    bool rereading_ = false;
+    std::array<Row, 8> rows_;
+    QPushButton* suggest_;
+    QLabel* hosts_;
+    QLabel* legal_;
+    QRadioButton* paropt_;
+    QRadioButton* sfsopt_;
+    QPushButton* eatb_;
+    QPushButton* victimb_;
+};
+
+}  // namespace plasmos

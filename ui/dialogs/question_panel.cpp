@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/dialogs/question_panel.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "model/presentation.h"
+#include "questions/ask.h"
+#include "questions/choice_forms.h"
+#include "questions/food_form.h"
+#include "questions/gene_form.h"
+#include "questions/victim_form.h"
+#include "ui/dialogs/choice_panels.h"
+#include "ui/dialogs/food_panel.h"
+#include "ui/dialogs/gene_panel.h"
+#include "ui/dialogs/victim_panel.h"
+#include "ui/look/arrow_keys.h"
+#include "ui/look/palette.h"
+#include "ui/look/scroll_body.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int HeadHeight = 38;
+constexpr int SideMargin = 14;
+constexpr int Spacing = 6;
+
+class RepeatFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonDblClick) {
+            return true;
+        }
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            const bool answers = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return ||
+                                 key->key() == Qt::Key_Enter || key->key() == Qt::Key_Escape;
+            return answers && key->isAutoRepeat();
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+void RefuseRepeats(QWidget* control) {
+    control->installEventFilter(new RepeatFilter(control));
+}
+
+QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QString& title)
+    : Card(parent),
+      question_(question),
+      clan_(question.Clan),
+      title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
+      close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
+      message_(MakeText(this, "messagelab", 13)),
+      scroll_(new ScrollBody(this)),
+      body_(new QVBoxLayout(scroll_->Content())),
+      foot_(new QVBoxLayout),
+      arrows_(new ArrowKeys(this)) {
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(SideMargin, 6, SideMargin, 12);
+    outer->setSpacing(Spacing);
+    message_->hide();
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
+    title_->setText(title);
+    title_->setWordWrap(true);
+    head->addWidget(title_, 1);
+    close_->setToolTip(QStringLiteral("Close (Esc)"));
+    close_->setFocusPolicy(Qt::NoFocus);
+    close_->setStyleSheet(
+        QStringLiteral("QPushButton{border:none;background:transparent;color:#7A7669;font-size:18px;"
+                       "padding:0;min-height:24px;min-width:24px;max-width:24px}"
+                       "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
+    head->addWidget(close_, 0, Qt::AlignTop);
+    outer->addLayout(head);
+    outer->addWidget(message_);
+    body_->setContentsMargins(0, 0, 0, 0);
+    body_->setSpacing(Spacing);
+    outer->addWidget(scroll_, 1);
+    foot_->setSpacing(Spacing);
+    outer->addLayout(foot_);
+    connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
+    SetColours(QColor(look::Card), clan_ > 0 ? ShadesOf(clan_).Dark : QColor(look::Teal));
+}
+
+int QuestionPanel::HeightFor(int width) const {
+    const int around =
+        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : layout()->totalSizeHint().height();
+    return around - scroll_->sizeHint().height() + scroll_->HeightAt(width - 2 * SideMargin);
+}
+
+int QuestionPanel::LeastHeight(int width) const {
+    const int inner = width - 2 * SideMargin;
+    return HeightWith(true, width) - scroll_->HeightAt(inner) + scroll_->LeastHeightAt(inner);
+}
+
+int QuestionPanel::HeightWith(bool message, int width) const {
+    const bool shown = !message_->isHidden();
+    const int line = message_->heightForWidth(width - 2 * SideMargin) + Spacing;
+    return HeightFor(width) + (message == shown ? 0 : message ? line : -line);
+}
+
+void QuestionPanel::ShowMessage(bool on) {
+    const QString text = ToQt(Board().Message());
+    if (message_->text() != text) {
+        message_->setText(text);
+    }
+    if (message_->isHidden() == on) {
+        message_->setVisible(on);
+    }
+}
+
+void QuestionPanel::Handle(const std::function<void()>& handler) {
+    if (retired_ || question_.Answered()) {
+        return;
+    }
+    try {
+        handler();
+        Reread();
+    } catch (const std::exception&) {
+        if (OnFault) {
+            OnFault(std::current_exception());
+        }
+        return;
+    }
+    if (OnHandled) {
+        OnHandled();
+    }
+}
+
+QPushButton* QuestionPanel::MakeButton(const QString& name, const QString& caption, bool main) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setProperty("main", main);
+    button->setAutoDefault(true);
+    RefuseRepeats(button);
+    return button;
+}
+
+void QuestionPanel::OrderTabs(const std::vector<QWidget*>& controls) {
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        setTabOrder(controls[i - 1], controls[i]);
+    }
+}
+
+void QuestionPanel::paintEvent(QPaintEvent* event) {
+    Card::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(clan_ > 0 ? ShadesOf(clan_).Body : QColor(look::Teal));
+    painter.drawRoundedRect(QRectF(1.5, 1.5, width() - 3, 5), 2.5, 2.5);
+    if (clan_ > 0) {
+        DrawClanBadge(painter, clan_, QPointF(26, HeadHeight / 2.0 + 1), 10);
+    }
+}
+
+void QuestionPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        if (!event->isAutoRepeat()) {
+            CloseAsked();
+        }
+        return;
+    }
+    if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp) {
+        scroll_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageDown ? QScrollBar::SliderPageStepAdd
+                                                                                     : QScrollBar::SliderPageStepSub);
+        return;
+    }
+    if (arrows_->Move(event->key())) {
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* button = qobject_cast<QPushButton*>(focusWidget());
+        if (button != nullptr && button->isEnabled() && !event->isAutoRepeat()) {
+            button->click();
+        }
+        return;
+    }
+    Card::keyPressEvent(event);
+}
+
+void QuestionPanel::TakeControls() {
+    arrows_->Take();
+    for (QWidget* control : scroll_->Content()->findChildren<QWidget*>()) {
+        if (control->focusPolicy() != Qt::NoFocus) {
+            control->installEventFilter(this);
+        }
+    }
+}
+
+// What the keyboard gets to is scrolled into sight. Whatever else gives a control the focus, a press of the
+// mouse or the window coming back, leaves everything where it is.
+bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
+    auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::FocusIn && scroll_->Content()->isAncestorOf(control)) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+            scroll_->ensureWidgetVisible(control, 0, 4);
+        }
+    }
+    return Card::eventFilter(watched, event);
+}
+
+namespace {
+
+std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
+    switch (question.Kind) {
+        case QuestionKind::Number: return std::make_unique<NumberPanel>(parent, static_cast<AmNumfrm&>(question));
+        case QuestionKind::Amoeba: return std::make_unique<AmoebaPanel>(parent, static_cast<AmChoicefrm&>(question));
+        case QuestionKind::Food: return std::make_unique<FoodPanel>(parent, static_cast<FoodForm&>(question));
+        case QuestionKind::Victim: return std::make_unique<VictimPanel>(parent, static_cast<VictimForm&>(question));
+        case QuestionKind::Genes: return std::make_unique<GenePanel>(parent, static_cast<GeneForm&>(question));
+        case QuestionKind::Box: return std::make_unique<BoxPanel>(parent, static_cast<BoxQuestion&>(question));
+        case QuestionKind::YesNo:
+        case QuestionKind::Square: break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
+    auto panel = PanelFor(parent, question);
+    if (panel) {
+        panel->TakeControls();
+    }
+    return panel;
+}
+
+}  // namespace plasmos

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/options/options_dialog.h"
+
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <utility>
+
+#include "files/game_files.h"
+#include "files/runtime_error.h"
+#include "files/settings_store.h"
+#include "ui/look/card.h"
+#include "ui/look/palette.h"
+#include "ui/look/scroll_body.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int LongestName = 20;
+
+}  // namespace
+
+OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files)
+    : QDialog(parent), settings_(settings), files_(files), model_(settings), tbsOptions_(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("frmOptions"));
+    setWindowTitle(QStringLiteral("Preferences"));
+    setPalette(LookPalette());
+    tbsOptions_->setObjectName(QStringLiteral("tbsOptions"));
+    auto* outer = new QVBoxLayout(this);
+    outer->addWidget(tbsOptions_);
+    tbsOptions_->addTab(MakeBoardPage(), QStringLiteral("&Board"));
+    tbsOptions_->addTab(MakeNamesPage(), QStringLiteral("&Names"));
+    fault_ = MakeLabel(this, QStringLiteral("faultlab"), 12, true, look::Alarm);
+    fault_->setWordWrap(true);
+    fault_->hide();
+    outer->addWidget(fault_);
+    MakeButtons(outer);
+    auto* next = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
+    connect(next, &QShortcut::activated, this, [this] { NextTab(); });
+    try {
+        files_.MakeFolder();
+    } catch (const RuntimeError& error) {
+        fault_->setText(QString::fromUtf8(error.what()));
+        fault_->show();
+    }
+    Follow();
+}
+
+QSpinBox* OptionsDialog::MakeUpDown(QWidget* page, const char* name, void (OptionsModel::*set)(int)) {
+    auto* control = new QSpinBox(page);
+    control->setObjectName(QString::fromLatin1(name));
+    control->setKeyboardTracking(false);
+    control->setMinimumHeight(28);
+    connect(control, &QSpinBox::valueChanged, this, [this, set](int value) {
+        if (!following_) {
+            (model_.*set)(value);
+            Follow();
+        }
+    });
+    return control;
+}
+
+QWidget* OptionsDialog::MakeBoardPage() {
+    auto* scroll = new ScrollBody(this);
+    scroll->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    QWidget* page = scroll->Content();
+    auto* line = new QHBoxLayout(page);
+    auto* left = new QVBoxLayout;
+    auto* form = fields_ = new QFormLayout;
+    rowUD_ = MakeUpDown(page, "rowUD", &OptionsModel::SetRows);
+    colsUD_ = MakeUpDown(page, "colsUD", &OptionsModel::SetCols);
+    blockUD_ = MakeUpDown(page, "blockUD", &OptionsModel::SetBlocks);
+    form->addRow(QStringLiteral("&Rows"), rowUD_);
+    form->addRow(QStringLiteral("&Columns"), colsUD_);
+    form->addRow(QStringLiteral("B&locks"), blockUD_);
+    left->addLayout(form);
+    bounds_ = MakeLabel(page, QStringLiteral("boundslab"), 12, false, look::Faint);
+    bounds_->setWordWrap(true);
+    bounds_->setMinimumSize(190, 68);
+    bounds_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    left->addWidget(bounds_);
+    diagnosis_ = MakeLabel(page, QStringLiteral("diaglab"), 11, false, look::Faint);
+    diagnosis_->setMinimumHeight(80);
+    left->addWidget(diagnosis_);
+    left->addStretch(1);
+    line->addLayout(left);
+    auto* frame = new QWidget(page);
+    frame->setFixedSize(MaxSide * ZyPicture::SquarePixels + 8, MaxSide * ZyPicture::SquarePixels + 8);
+    optZyPict_ = new ZyPicture(frame, model_);
+    optZyPict_->move(4, 4);
+    optZyPict_->OnClick = [this](int x, int y, int button) {
+        TakeTyped();
+        button == 2 ? model_.RightClick(x, y) : model_.LeftClick(x, y);
+        diagnosis_->setText(ToQt(model_.Diagnosis(x, y, button)));
+        Follow();
+    };
+    line->addWidget(frame);
+    return scroll;
+}
+
+QWidget* OptionsDialog::MakeNamesPage() {
+    auto* page = new QWidget(this);
+    auto* form = new QFormLayout(page);
+    for (int clan = 1; clan <= 6; ++clan) {
+        const auto index = static_cast<std::size_t>(clan);
+        auto* name = new QLineEdit(ToQt(model_.Names[index]), page);
+        name->setObjectName(QStringLiteral("pname%1").arg(clan));
+        name->setMaxLength(LongestName);
+        connect(name, &QLineEdit::textChanged, this,
+                [this, index](const QString& text) { model_.Names[index] = text.toStdString(); });
+        pname_[index] = name;
+        form->addRow(QStringLiteral("%1 Clan %2").arg(SignCharacter(clan)).arg(clan), name);
+    }
+    return page;
+}
+
+void OptionsDialog::MakeButtons(QVBoxLayout* outer) {
+    auto* line = new QHBoxLayout;
+    line->addStretch(1);
+    const auto add = [this, line](const char* name, const char* caption, void (OptionsDialog::*click)()) {
+        auto* button = new QPushButton(QString::fromLatin1(caption), this);
+        button->setObjectName(QString::fromLatin1(name));
+        connect(button, &QPushButton::clicked, this, click);
+        line->addWidget(button);
+        return button;
+    };
+    QPushButton* ok = add("cmdOK", "OK", &OptionsDialog::cmdOK_Click);
+    ok->setProperty("main", true);
+    ok->setDefault(true);
+    add("cmdCancel", "Cancel", &OptionsDialog::cmdCancel_Click);
+    add("cmdApply", "&Apply", &OptionsDialog::cmdApply_Click);
+    outer->addLayout(line);
+}
+
+void OptionsDialog::Follow() {
+    following_ = true;
+    rowUD_->setRange(model_.LeastRows(), model_.MostRows());
+    rowUD_->setValue(model_.Rows());
+    colsUD_->setRange(model_.LeastCols(), model_.MostCols());
+    colsUD_->setValue(model_.Cols());
+    blockUD_->setRange(0, model_.MostBlocks());
+    blockUD_->setValue(model_.Blocks());
+    for (const auto& [control, caption] : {std::pair{rowUD_, "&Rows"}, {colsUD_, "&Columns"}, {blockUD_, "B&locks"}}) {
+        static_cast<QLabel*>(fields_->labelForField(control))
+            ->setText(QStringLiteral("%1, %2 to %3")
+                          .arg(QLatin1String(caption))
+                          .arg(control->minimum())
+                          .arg(control->maximum()));
+    }
+    bounds_->setText(ToQt(model_.Bounds()));
+    optZyPict_->Follow();
+    following_ = false;
+}
+
+void OptionsDialog::NextTab() {
+    tbsOptions_->setCurrentIndex((tbsOptions_->currentIndex() + 1) % tbsOptions_->count());
+}
+
+// What is typed counts, also before it is left.
+void OptionsDialog::TakeTyped() {
+    for (QSpinBox* control : {rowUD_, colsUD_, blockUD_}) {
+        control->interpretText();
+    }
+}
+
+bool OptionsDialog::Save() {
+    TakeTyped();
+    SaveTried = true;
+    const std::string fault = model_.Save(settings_, files_);
+    fault_->setText(ToQt(fault));
+    fault_->setVisible(!fault.empty());
+    return fault.empty();
+}
+
+void OptionsDialog::cmdApply_Click() {
+    Save();
+}
+
+void OptionsDialog::cmdOK_Click() {
+    if (Save()) {
+        accept();
+    }
+}
+
+void OptionsDialog::cmdCancel_Click() {
+    reject();
+}
+
+void OptionsDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (const QScreen* where = screen()) {
+        const QRect space = where->availableGeometry();
+        resize(size().boundedTo(space.size() - look::UsualFrame));
+        move(space.center() - QPoint(width() / 2, height() / 2));
+    }
+}
+
+}  // namespace plasmos

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/strip/clan_panel.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "model/game_state.h"
+#include "ui/look/card.h"
+#include "ui/look/palette.h"
+#include "ui/strip/gene_chips.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr double Gap = 6;
+constexpr double FullCard = 76;
+constexpr double LeastCard = 45;
+constexpr double LineHeight = 24;
+constexpr double LineHeads = 14;
+
+QString Kind(int clan) {
+    if (!game.Players[clan].IsComputer) {
+        return QStringLiteral("you");
+    }
+    return ToQt(game.Players[clan].PersonalityName);
+}
+
+}  // namespace
+
+ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
+    for (int i = 0; i < MaxClans; ++i) {
+        const auto index = static_cast<std::size_t>(i);
+        GeneLists[index] = new GeneChips(this, i + 1);
+        GeneLists[index]->setObjectName(QStringLiteral("genelist%1").arg(i));
+        bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
+        orderlab[index] = new PillLabel(this);
+        orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
+        orderlab[index]->setFont(LookFont(15, true));
+        bplab[index]->setToolTip(QStringLiteral("Bio-points"));
+        orderlab[index]->setToolTip(QStringLiteral("Score"));
+    }
+    ShowAll(true);
+}
+
+bool ClanPanel::Shown() const {
+    return game.NumPlayers >= 1 && game.NumPlayers <= MaxClans && ClanAtPlace(game.NumPlayers) >= 1;
+}
+
+int ClanPanel::FullHeight() const {
+    return static_cast<int>((FullCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
+}
+
+int ClanPanel::LeastHeight() const {
+    return static_cast<int>((LeastCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
+}
+
+int ClanPanel::ShortHeight() const {
+    return static_cast<int>(game.NumPlayers > 0 ? LineHeads + LineHeight * game.NumPlayers : 0);
+}
+
+bool ClanPanel::InLines() const {
+    return height() < LeastHeight();
+}
+
+double ClanPanel::CardHeight() const {
+    return std::min(FullCard, (height() - Gap * (game.NumPlayers - 1)) / std::max(game.NumPlayers, 1));
+}
+
+QRectF ClanPanel::CardRect(int place) const {
+    if (InLines()) {
+        return {0, LineHeads + LineHeight * (place - 1), static_cast<double>(width()), LineHeight};
+    }
+    return {0, (CardHeight() + Gap) * (place - 1), static_cast<double>(width()), CardHeight()};
+}
+
+ClanPanel::Columns ClanPanel::ColumnsOf() const {
+    const double column = std::clamp(width() * 0.135, 44.0, 66.0);
+    const double first = width() - 4 * column - 6;
+    return {first, first + column, first + 2 * column, first + 3 * column, column};
+}
+
+void ClanPanel::ShowBP(int clan) {
+    bplab[static_cast<std::size_t>(clan - 1)]->setText(QString::number(game.BP[clan]));
+    update();
+}
+
+void ClanPanel::ShowOrder() {
+    if (!Shown()) {
+        return;
+    }
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        const int clan = ClanAtPlace(place);
+        QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
+        label->setText(QString::number(game.Players[clan].Score));
+        QPalette palette = label->palette();
+        palette.setColor(QPalette::Window, LabelBackground(clan));
+        palette.setColor(QPalette::WindowText, LabelText(clan));
+        label->setPalette(palette);
+    }
+    Arrange();
+    update();
+}
+
+void ClanPanel::ShowGenes(int clan) {
+    GeneLists[static_cast<std::size_t>(clan - 1)]->Follow();
+    update();
+}
+
+void ClanPanel::ShowCurrentClan(int clan) {
+    current_ = clan;
+    update();
+}
+
+void ClanPanel::ShowAll(bool forget) {
+    for (int clan = 1; clan <= MaxClans; ++clan) {
+        GeneChips* chips = GeneLists[static_cast<std::size_t>(clan - 1)];
+        forget ? chips->Forget() : chips->Follow();
+        if (clan <= game.NumPlayers) {
+            ShowBP(clan);
+        }
+    }
+    ShowOrder();
+    Arrange();
+    update();
+}
+
+void ClanPanel::resizeEvent(QResizeEvent*) {
+    Arrange();
+}
+
+void ClanPanel::Arrange() {
+    const Columns at = ColumnsOf();
+    for (int place = 1; place <= MaxClans; ++place) {
+        const bool used = Shown() && place <= game.NumPlayers;
+        orderlab[static_cast<std::size_t>(place - 1)]->setVisible(used);
+        bplab[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
+        GeneLists[static_cast<std::size_t>(place - 1)]->setVisible(used && !InLines());
+        if (!used) {
+            continue;
+        }
+        const auto clan = static_cast<std::size_t>(ClanAtPlace(place) - 1);
+        const QRectF card = CardRect(place);
+        const double figures = card.top() + (InLines() ? 0 : Roomy() ? 22 : 19);
+        orderlab[static_cast<std::size_t>(place - 1)]->setGeometry(
+            QRectF(at.Score, figures + 1, std::min(at.Width - 12, 40.0), 22).toRect());
+        bplab[clan]->setGeometry(QRectF(at.BP, figures, at.Width - 4, 24).toRect());
+        const double left = Roomy() ? 20 : 44;
+        const double right = Roomy() ? width() - 10 : at.Score - 6;
+        const double top = card.top() + (Roomy() ? 50 : 25);
+        GeneLists[clan]->setGeometry(QRectF(left, top, right - left, card.bottom() - top - 2).toRect());
+    }
+}
+
+void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double top) const {
+    const Columns at = ColumnsOf();
+    painter.setFont(LookFont(10));
+    painter.setPen(QColor(look::Faint));
+    painter.drawText(QPointF(at.Score, heads), QStringLiteral("score"));
+    painter.drawText(QPointF(at.BP, heads), QStringLiteral("BP"));
+    painter.drawText(QPointF(at.Amoebas, heads), QStringLiteral("amoebas"));
+    painter.drawText(QPointF(at.Mutation, heads), QStringLiteral("mutation"));
+    painter.setFont(LookFont(16, true));
+    painter.setPen(QColor(look::Ink));
+    painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("%1/%2").arg(game.AmoebaCount[clan]).arg(game.MaxAmoeba));
+    const int level = game.Players[clan].MutationLevel;
+    painter.setPen(level > game.UVLevel ? QColor(look::Alarm) : QColor(look::Ink));
+    painter.drawText(QRectF(at.Mutation, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("%1%2").arg(level).arg(level > game.UVLevel ? QStringLiteral("!") : QString()));
+}
+
+void ClanPanel::DrawCard(QPainter& painter, int place) const {
+    const int clan = ClanAtPlace(place);
+    const ClanShades& shades = ShadesOf(clan);
+    const QRectF card = CardRect(place).adjusted(1, 1, -1, -1);
+    const bool acting = clan == current_;
+    painter.setPen(acting ? QPen(shades.Body, 2.6) : QPen(QColor(look::CardEdge), 1.2));
+    painter.setBrush(QColor(look::Card));
+    painter.drawRoundedRect(card, 8, 8);
+    QPainterPath edge;
+    edge.addRoundedRect(card, 8, 8);
+    painter.save();
+    painter.setClipPath(edge);
+    painter.fillRect(QRectF(card.left(), card.top(), 9, card.height()), shades.Body);
+    painter.restore();
+    DrawClanBadge(painter, clan, QPointF(card.left() + 26, card.top() + (Roomy() ? 25 : 20)), Roomy() ? 13 : 11);
+    const double left = card.left() + (Roomy() ? 47 : 43);
+    const double wide = ColumnsOf().Score - left - 6;
+    const QFont nameFont = LookFont(Roomy() ? 14 : 12, true);
+    painter.setFont(nameFont);
+    painter.setPen(QColor(look::Ink));
+    const QString name = QFontMetricsF(nameFont).elidedText(ToQt(game.Players[clan].Name.View()), Qt::ElideRight, wide);
+    painter.drawText(QPointF(left, card.top() + (Roomy() ? 22 : 17)), name);
+    painter.setFont(LookFont(Roomy() ? 11.5 : 10));
+    painter.setPen(QColor(look::Faint));
+    if (Roomy()) {
+        painter.drawText(QPointF(left, card.top() + 39), Kind(clan));
+    } else {
+        const double after = QFontMetricsF(nameFont).horizontalAdvance(name) + 6;
+        painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                         Kind(clan));
+    }
+    const double top = CardRect(place).top();
+    DrawFigures(painter, clan, top + (Roomy() ? 17 : 15), top + (Roomy() ? 22 : 19));
+}
+
+void ClanPanel::DrawLine(QPainter& painter, int place) const {
+    const int clan = ClanAtPlace(place);
+    const QRectF line = CardRect(place);
+    if (clan == current_) {
+        painter.setPen(QPen(ShadesOf(clan).Body, 2));
+        painter.setBrush(QColor(look::Card));
+        painter.drawRoundedRect(line.adjusted(1, 1, -1, -1), 6, 6);
+    }
+    DrawClanBadge(painter, clan, QPointF(line.left() + 15, line.center().y()), 9);
+    const QFont font = LookFont(13, true);
+    const double wide = ColumnsOf().Score - 34;
+    painter.setFont(font);
+    painter.setPen(QColor(look::Ink));
+    painter.drawText(QRectF(line.left() + 30, line.top(), wide, line.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetricsF(font).elidedText(ToQt(game.Players[clan].Name.View()), Qt::ElideRight, wide));
+    DrawFigures(painter, clan, LineHeads - 3, line.top());
+}
+
+void ClanPanel::paintEvent(QPaintEvent*) {
+    if (!Shown()) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int place = 1; place <= game.NumPlayers; ++place) {
+        InLines() ? DrawLine(painter, place) : DrawCard(painter, place);
+    }
+}
+
+}  // namespace plasmos

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/strip/environment_view.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "model/dice.h"
+#include "model/game_state.h"
+#include "rules/environment.h"
+#include "ui/look/palette.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Pad = 14;
+constexpr double LowestLevel = 0;
+constexpr double HighestLevel = 20;
+
+constexpr double MarkRadius = 5.2;
+
+double OnBar(const QRectF& bar, double level) {
+    return bar.left() + bar.width() * (std::clamp(level, LowestLevel, HighestLevel) - LowestLevel) / HighestLevel;
+}
+
+/// The first place near a point where a mark covers no other: three below each other, then aside, first
+/// towards the middle.
+QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middle) {
+    constexpr double step = 10;
+    const double inward = point.x() > middle ? -step : step;
+    for (const double aside : {0.0, inward, -inward, 2 * inward}) {
+        for (const double below : {0.0, step, 2 * step}) {
+            const QPointF place = point + QPointF(aside, below);
+            const bool covered = std::any_of(taken.begin(), taken.end(), [place](QPointF other) {
+                return std::hypot(place.x() - other.x(), place.y() - other.y()) < step - 0.5;
+            });
+            if (!covered) {
+                return place;
+            }
+        }
+    }
+    return point;
+}
+
+FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
+    auto* label = new FitLabel(parent, pixels, 8);
+    label->setObjectName(name);
+    label->setFont(LookFont(pixels, true));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    SetLabelColour(label, QColor(look::Ink));
+    return label;
+}
+
+void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degrees) {
+    painter.save();
+    painter.translate(centre);
+    painter.rotate(degrees);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(look::Teal), radius * 0.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawLine(QPointF(-radius, 0), QPointF(radius * 0.9, 0));
+    QPainterPath head(QPointF(radius * 0.15, -radius * 0.68));
+    head.lineTo(radius, 0);
+    head.lineTo(radius * 0.15, radius * 0.68);
+    painter.drawPath(head);
+    painter.restore();
+}
+
+}  // namespace
+
+std::vector<QPointF> LevelMarks(const QRectF& bar) {
+    std::vector<QPointF> marks;
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        const double level = OnBar(bar, game.Players[clan].MutationLevel);
+        marks.push_back(FreePlace(marks, QPointF(level, bar.bottom() + 2 + MarkRadius), bar.center().x()));
+    }
+    return marks;
+}
+
+void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius) {
+    if (drift == 0) {
+        painter.setBrush(QColor(look::Teal));
+        painter.setPen(Qt::NoPen);
+        painter.drawEllipse(centre, radius * 0.42, radius * 0.42);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(look::Teal), radius * 0.18));
+        painter.drawEllipse(centre, radius * 0.85, radius * 0.85);
+    } else if (drift == WhereItWants) {
+        for (const double degrees : {0.0, 90.0, 180.0, 270.0}) {
+            const double turn = degrees * 3.14159265 / 180;
+            const QPointF out(std::cos(turn), std::sin(turn));
+            DrawOneArrow(painter, centre + out * radius * 0.55, radius * 0.42, degrees);
+        }
+    } else {
+        const double degrees = drift == 1 ? 0 : drift == -1 ? 180 : drift > 0 ? 90 : 270;
+        DrawOneArrow(painter, centre, radius, degrees);
+    }
+}
+
+EnvironmentView::EnvironmentView(QWidget* parent)
+    : Card(parent),
+      turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, look::Ink)),
+      driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
+      UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)) {
+    driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
+    UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));
+    driftlab->setContextMenuPolicy(Qt::PreventContextMenu);
+    UVlab->setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+void EnvironmentView::ShowPhase(const QString& phase) {
+    phase_ = phase;
+    update();
+}
+
+void EnvironmentView::Clear() {
+    turnlab->clear();
+    phase_.clear();
+    driftlab->clear();
+    UVlab->clear();
+    update();
+}
+
+void EnvironmentView::ShowDrift() {
+    driftlab->SetText(ToQt(DirectionText(game.Drift)));
+    update();
+}
+
+void EnvironmentView::ShowUV() {
+    UVlab->SetText(QString::number(game.UVLevel));
+    update();
+}
+
+void EnvironmentView::resizeEvent(QResizeEvent*) {
+    const int left = Pad + 2;
+    turnlab->setGeometry(left, 8, static_cast<int>(DriftLeft()) - left - 4, 28);
+    const int drift = static_cast<int>(DriftLeft()) + 42;
+    driftlab->setGeometry(drift, 28, static_cast<int>(UvLeft()) - drift - 4, 46);
+    UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 36, 30);
+}
+
+void EnvironmentView::DrawTurns(QPainter& painter) const {
+    const double step = std::min(16.5, (DriftLeft() - Pad - 14) / LastTurn);
+    for (int turn = 1; turn <= LastTurn; ++turn) {
+        const QPointF centre(Pad + 8 + step * (turn - 1), 48);
+        painter.setPen(QPen(QColor(look::Teal), 1.4));
+        painter.setBrush(turn <= game.Turn ? QColor(look::Teal) : QColor(Qt::white));
+        painter.drawEllipse(centre, step * 0.36, step * 0.36);
+    }
+    if (game.NumPlayers > 0) {
+        painter.setFont(LookFont(11));
+        painter.setPen(QColor(look::Faint));
+        QStringList words;
+        if (!phase_.isEmpty()) {
+            words << phase_;
+        }
+        words << QStringLiteral("replay %1").arg(ToQt(ReplayText(game.ReplayNo)));
+        painter.drawText(QPointF(Pad + 3, 76), words.join(QStringLiteral(" · ")));
+    }
+}
+
+void EnvironmentView::DrawArrow(QPainter& painter) const {
+    painter.setFont(LookFont(11));
+    painter.setPen(QColor(look::Faint));
+    painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
+    painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
+    if (!driftlab->text().isEmpty()) {
+        DrawDriftArrow(painter, game.Drift, QPointF(DriftLeft() + 17, 51), 14);
+    }
+}
+
+void EnvironmentView::DrawLevels(QPainter& painter) const {
+    const QRectF bar(UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11);
+    QLinearGradient levels(bar.topLeft(), bar.topRight());
+    levels.setColorAt(0, QColor(0x8FD3FF));
+    levels.setColorAt(0.5, QColor(0xFFD65A));
+    levels.setColorAt(1, QColor(0xFF5A4A));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(levels);
+    painter.drawRoundedRect(bar, 5, 5);
+    if (game.NumPlayers == 0) {
+        return;
+    }
+    const double uv = OnBar(bar, game.UVLevel);
+    QPainterPath pointer(QPointF(uv, bar.top() - 1));
+    pointer.lineTo(uv - 6, bar.top() - 10);
+    pointer.lineTo(uv + 6, bar.top() - 10);
+    pointer.closeSubpath();
+    painter.setBrush(QColor(look::Ink));
+    painter.drawPath(pointer);
+    painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
+    const std::vector<QPointF> marks = LevelMarks(bar);
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
+    }
+}
+
+void EnvironmentView::paintEvent(QPaintEvent* event) {
+    Card::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    DrawTurns(painter);
+    DrawArrow(painter);
+    DrawLevels(painter);
+}
+
+}  // namespace plasmos

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/strip/gene_chips.h"
+
+#include <QFontMetricsF>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+
+#include "model/genes.h"
+#include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr double ChipHeight = 17;
+constexpr int FullNames = 0;
+constexpr int Codes = 1;
+constexpr int TinyCodes = 2;
+
+QString ChipText(int gene, int form) {
+    return form == FullNames ? ToQt(GeneName(gene)) : ToQt(GeneCodes[gene]);
+}
+
+QFont ChipFont(int form) {
+    return LookFont(form == TinyCodes ? 9 : 10.5);
+}
+
+}  // namespace
+
+GeneChips::GeneChips(QWidget* parent, int clan) : QWidget(parent), clan_(clan) {
+    setObjectName(QStringLiteral("genelist%1").arg(clan - 1));
+}
+
+void GeneChips::Follow() {
+    std::erase_if(genes_, [this](int gene) { return !game.Genes[gene][clan_]; });
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (game.Genes[gene][clan_] && std::find(genes_.begin(), genes_.end(), gene) == genes_.end()) {
+            genes_.push_back(gene);
+        }
+    }
+    setToolTip(ToQt(MutationTip(clan_)));
+    setAccessibleDescription(Names());
+    update();
+}
+
+QString GeneChips::Names() const {
+    QStringList names;
+    for (const int gene : genes_) {
+        names << ToQt(GeneName(gene));
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+void GeneChips::Forget() {
+    genes_.clear();
+    Follow();
+}
+
+// False: the chips of this form do not fit.
+bool GeneChips::Arrange(int form, std::vector<Chip>& chips) const {
+    chips.clear();
+    const QFontMetricsF metrics(ChipFont(form));
+    const double padding = form == TinyCodes ? 3.5 : 7;
+    const double gap = form == TinyCodes ? 2 : 4;
+    double x = 0;
+    double y = 0;
+    for (const int gene : genes_) {
+        const QString text = ChipText(gene, form);
+        const double wide = metrics.horizontalAdvance(text) + 2 * padding;
+        if (x > 0 && x + wide > width()) {
+            x = 0;
+            y += ChipHeight + 2;
+        }
+        chips.push_back({gene, QRectF(x, y, wide, ChipHeight), text, form});
+        x += wide + gap;
+    }
+    return y + ChipHeight <= height() + 1;
+}
+
+std::vector<GeneChips::Chip> GeneChips::Chips() const {
+    std::vector<Chip> chips;
+    for (const int form : {FullNames, Codes, TinyCodes}) {
+        if (Arrange(form, chips)) {
+            return chips;
+        }
+    }
+    CutToFit(chips);
+    return chips;
+}
+
+// The last one in sight tells how many more there are.
+void GeneChips::CutToFit(std::vector<Chip>& chips) const {
+    const auto hidden = [this](const Chip& chip) { return chip.Rect.bottom() > height() + 1; };
+    const auto cut = std::find_if(chips.begin(), chips.end(), hidden);
+    if (cut == chips.begin() || cut == chips.end()) {
+        return;
+    }
+    const auto more = chips.end() - cut + 1;
+    chips.erase(cut, chips.end());
+    chips.back().Gene = 0;
+    chips.back().Text = QStringLiteral("+%1").arg(more);
+}
+
+void GeneChips::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const Chip& chip : Chips()) {
+        painter.setPen(QPen(QColor(0xDDD7C8), 1));
+        painter.setBrush(QColor(0xF3EFE4));
+        painter.drawRoundedRect(chip.Rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+        painter.setFont(ChipFont(chip.Form));
+        painter.setPen(QColor(0x3C3A33));
+        painter.drawText(chip.Rect, Qt::AlignCenter, chip.Text);
+    }
+}
+
+bool GeneChips::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        QString tip = toolTip();
+        for (const Chip& chip : Chips()) {
+            if (chip.Rect.contains(QPointF(help->pos()))) {
+                tip += QLatin1Char('\n') + (chip.Gene > 0 ? ChipText(chip.Gene, FullNames) : Names());
+            }
+        }
+        QToolTip::showText(help->globalPos(), PlainTip(tip), this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+}  // namespace plasmos

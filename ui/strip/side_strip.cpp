@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/strip/side_strip.h"
+
+#include <QEvent>
+#include <algorithm>
+
+#include "model/game_state.h"
+#include "ui/dialogs/question_panel.h"
+#include "ui/strip/clan_panel.h"
+#include "ui/strip/environment_view.h"
+#include "ui/strip/log_view.h"
+#include "ui/strip/question_card.h"
+#include "ui/strip/start_card.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Gap = 8;
+constexpr int QuestionHeight = 154;
+constexpr int LeastQuestion = 124;
+constexpr int LeastLog = 48;
+constexpr int PleasantLog = 130;
+
+}  // namespace
+
+SideStrip::SideStrip(QWidget* parent)
+    : QWidget(parent),
+      Environment(new EnvironmentView(this)),
+      Start(new StartCard(this)),
+      Question(new QuestionCard(this)),
+      Clans(new ClanPanel(this)),
+      Log(new LogView(this)) {
+    SetPlaying(false);
+}
+
+void SideStrip::SetPlaying(bool playing) {
+    playing_ = playing;
+    Start->setVisible(!playing);
+    Question->setVisible(playing);
+    Arrange();
+}
+
+void SideStrip::SetPanels(const std::vector<QuestionPanel*>& panels) {
+    panels_ = panels;
+    Arrange();
+}
+
+void SideStrip::resizeEvent(QResizeEvent*) {
+    Arrange();
+}
+
+// A dialog wants another height: somebody was marked, a line came or went.
+bool SideStrip::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        Arrange();
+    }
+    return QWidget::event(event);
+}
+
+// Every arrangement decides it once: what is shown and hidden in turn asks for another arrangement.
+bool SideStrip::ShowsEnvironment() const {
+    const int environment = Environment->sizeHint().height() + Gap;
+    if (!playing_) {
+        // After a game the final scores are worth more than the last light.
+        const int scores = Start->HeightFor(width()) + Clans->ShortHeight() + Gap;
+        return game.NumPlayers > 0 && height() >= environment + scores;
+    }
+    if (panels_.empty()) {
+        return true;
+    }
+    // The levels stay in sight as long as the dialog is of use below them.
+    const QuestionPanel& top = *panels_.back();
+    const int question = Question->HeightFor(width(), true) + Gap;
+    return environment + question + top.HeightWith(false, width()) <= height() ||
+           environment + top.LeastHeight(width()) <= height();
+}
+
+int SideStrip::ArrangeHead() {
+    const int environment = Environment->sizeHint().height();
+    const bool shown = ShowsEnvironment();
+    Environment->setGeometry(0, 0, width(), environment);
+    Environment->setVisible(shown);
+    int top = shown ? environment + Gap : 0;
+    if (playing_) {
+        // The card gives way as long as the clans find room below it.
+        const int left = height() - top - Gap - Clans->ShortHeight();
+        const int least = std::min(std::max(LeastQuestion, Question->LeastHeight(width())), QuestionHeight);
+        const int question =
+            panels_.empty() ? std::clamp(left, least, QuestionHeight) : Question->HeightFor(width(), true);
+        Question->setGeometry(0, top, width(), question);
+        top += question + Gap;
+    } else {
+        const int start = Start->HeightFor(width());
+        Start->setGeometry(0, top, width(), start);
+        top += start + Gap;
+    }
+    return top;
+}
+
+// The topmost dialog comes first; those below it follow while there is room.
+int SideStrip::ArrangePanels(int top) {
+    bool first = true;
+    // NOLINTNEXTLINE(modernize-loop-convert): clang++ 14 cannot compile the views of <ranges>
+    for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
+        int wanted = (*panel)->HeightWith(false, width());
+        const bool fits = top + wanted <= height();
+        const bool alone = first && !fits && playing_;
+        if (alone) {
+            top = ShowsEnvironment() ? Environment->height() + Gap : 0;
+            wanted = (*panel)->HeightWith(true, width());
+        }
+        if (first) {
+            Question->setVisible(playing_ && !alone);
+        }
+        (*panel)->ShowMessage(alone);
+        (*panel)->setVisible(first || fits);
+        if (first || fits) {
+            (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, 60)));
+            top += wanted + Gap;
+        }
+        first = false;
+    }
+    if (panels_.empty()) {
+        Question->setVisible(playing_);
+    }
+    return top;
+}
+
+void SideStrip::Arrange() {
+    int top = ArrangePanels(ArrangeHead());
+    const int room = height() - top;
+    const int least = Clans->LeastHeight();
+    const bool cards = room >= least;
+    const bool clans = least > 0 && room >= Clans->ShortHeight();
+    Clans->setVisible(clans);
+    if (clans) {
+        const int wanted =
+            cards ? std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least)) : Clans->ShortHeight();
+        Clans->setGeometry(0, top, width(), wanted);
+        top += wanted + Gap;
+    }
+    const int log = height() - top;
+    Log->setVisible(log >= LeastLog);
+    Log->setGeometry(0, top, width(), std::max(log, LeastLog));
+}
+
+}  // namespace plasmos

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/strip/start_card.h"
+
+#include <QPainter>
+
+#include "model/game_state.h"
+#include "ui/look/blob_shape.h"
+#include "ui/look/palette.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Pad = 18;
+constexpr int Foot = 62;
+constexpr int BelowTitle = 46;
+constexpr int BelowBlobs = 92;
+constexpr int UsualHeight = 214;
+const char* const Welcome =
+    "Your amoebas share this puddle with hungry neighbours. Drift or swim, eat what the others leave, keep your "
+    "mutation below the UV level, buy genes, divide and conquer. Ten turns; the highest score wins.";
+
+}  // namespace
+
+StartCard::StartCard(QWidget* parent)
+    : Card(parent),
+      gob(new QPushButton(QStringLiteral("Go"), this)),
+      watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
+      txtReplay(new QLineEdit(this)),
+      title_(MakeLabel(this, QStringLiteral("titlelab"), 21, true, look::Ink)),
+      text_(new FitLabel(this, 13, 10)),
+      replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, look::Faint)) {
+    gob->setObjectName(QStringLiteral("gob"));
+    gob->setProperty("main", true);
+    gob->setDefault(true);
+    watchb->setObjectName(QStringLiteral("watchb"));
+    watchb->setToolTip(QStringLiteral("Six clans at most, all of them the computer's"));
+    txtReplay->setObjectName(QStringLiteral("txtReplay"));
+    txtReplay->setPlaceholderText(QStringLiteral("by the clock"));
+    txtReplay->setToolTip(QStringLiteral("The same replay number deals the same game"));
+    replayLabel_->setText(QStringLiteral("Replay number"));
+    ShowResult(QString(), 0);
+}
+
+void StartCard::ShowResult(const QString& line, int clan) {
+    winner_ = clan;
+    title_->setText(line.isEmpty() ? QStringLiteral("Welcome to the Puddle") : line);
+    text_->SetText(line.isEmpty() ? QString::fromLatin1(Welcome)
+                                  : QStringLiteral("Another game? An empty number deals a new one."));
+    update();
+}
+
+int StartCard::HeightFor(int width) const {
+    return IsShort(width) ? BelowTitle + text_->HeightAt(width - 2 * Pad) + 10 + Foot : UsualHeight;
+}
+
+void StartCard::resizeEvent(QResizeEvent*) {
+    const int inner = width() - 2 * Pad;
+    const int below = IsShort(width()) ? BelowTitle : BelowBlobs;
+    title_->setGeometry(Pad, 12, inner, 30);
+    text_->setGeometry(Pad, below, inner, height() - below - Foot);
+    const int top = height() - 50;
+    const int go = width() < Roomy ? 66 : 84;
+    const int watch = std::max(watchb->sizeHint().width(), width() < Roomy ? 116 : 136);
+    gob->setGeometry(Pad, top, go, 36);
+    watchb->setGeometry(Pad + go + 8, top, watch, 36);
+    const int left = Pad + go + 8 + watch + 10;
+    replayLabel_->setGeometry(left, top - 16, width() - Pad - left, 16);
+    txtReplay->setGeometry(left, top + 3, width() - Pad - left, 30);
+}
+
+void StartCard::paintEvent(QPaintEvent* event) {
+    Card::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (IsShort(width())) {
+        DrawBlob(painter, {winner_, winner_, 0, true, false, 1}, QPointF(width() - Pad - 16, 28), 15);
+        return;
+    }
+    const double pitch = std::min(52.0, (width() - 2.0 * Pad) / MaxClans);
+    const int clans = winner_ > 0 ? game.NumPlayers : MaxClans;
+    for (int clan = 1; clan <= clans; ++clan) {
+        const QPointF centre(Pad + pitch * (clan - 0.5), 66);
+        BlobLook blob{clan, clan, 0, clan == winner_, winner_ != 0 && clan != winner_, 1};
+        DrawBlob(painter, blob, centre, 21);
+    }
+}
+
+}  // namespace plasmos
