@@ -158,9 +158,8 @@ int AskPlayerCount() {
     }
     OpenQuestion open(form);
     open.Wait();
-    const int count = game.Reply;
-    NoteAnswer(form, Concat(count), count >= 3 && count <= 6);
-    game.Reply = 0;
+    const int count = form.Take();
+    NoteAnswer(form, Numbered(Answer::Kind::Number, count), count >= 3 && count <= 6);
     return count;
 }
 

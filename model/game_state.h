@@ -104,7 +104,7 @@ struct GameTables {
     int Reply = 0;   ///< 6 yes, 7 no, a click's x, or a number chosen
     int ReplyY = 0;  ///< a click's y; not 0 when a victim has been picked
     bool WantSquare = false;
-    std::string_view DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
+    FixedText<12> DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
     int DoneFlag = 0;
     int MessageUnits = 0;  ///< pause units that the message line's text has a claim to
     int PauseOwed = 0;     ///< what is left of them

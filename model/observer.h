@@ -6,6 +6,9 @@
 namespace plasmos {
 
 class Question;
+struct Answer;
+struct Switch;
+enum class TakenAt;
 
 /// The steps a game is told in, in the order of play.
 enum class Step { NewGame, Move, Feed, Environment, Adapt, BuyGenes, Divide, Deaths, Attack, Score };
@@ -30,8 +33,12 @@ public:
     virtual void OnSay(std::string_view line) = 0;
     virtual void OnBox(std::string_view text) = 0;
     virtual void OnAsk(const Question& question) = 0;
-    /// What came back, as the one-line text of the answer; refused answers are told too.
-    virtual void OnAnswer(const Question& question, std::string_view value, bool accepted) = 0;
+    /// What a person has put in, before anything comes of it.
+    virtual void OnInput(const Question& /*question*/, const Answer& /*answer*/) {}
+    /// A switch is taken over: before a step begins, or while a question waits.
+    virtual void OnSwitch(const Switch& /*turned*/, TakenAt /*place*/) {}
+    /// What came back; refused answers are told too.
+    virtual void OnAnswer(const Question& question, const Answer& answer, bool accepted) = 0;
     virtual void OnOver() = 0;
 };
 

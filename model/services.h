@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/switches.h"
+
 namespace plasmos {
 
 class Presentation;
@@ -8,6 +10,7 @@ class Observer;
 class GameFiles;
 class SettingsStore;
 class DiceTape;
+class Question;
 
 /// Whom the games of a thread talk to. It stands beside the state, which points nowhere outside itself and
 /// can be copied, kept and compared.
@@ -17,6 +20,8 @@ struct Services {
     GameFiles* Files = nullptr;         ///< nobody: no file is read or written
     SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
     DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none
+    SwitchQueue Switches;               ///< what a person has switched and the rules have not taken over yet
+    Question* Asked = nullptr;          ///< the question that is open on top; none: nobody is asked
 };
 
 /// The services of this thread.

@@ -29,6 +29,9 @@ std::string_view StepName(Step step) {
 }
 
 void BeginStep(Step step, int clan, int amoeba) {
+    if (!services.Switches.Empty()) [[unlikely]] {
+        TakeSwitches(TakenAt::Step);
+    }
     game.Decisions += IsDecision(step) ? 1 : 0;
     if (services.Listener != nullptr) {
         services.Listener->OnBegin(step, clan, amoeba);

@@ -2,11 +2,13 @@
 #include "questions/ask.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/narration.h"
 #include "model/observer.h"
 #include "model/presentation.h"
 #include "model/services.h"
+#include "questions/visit.h"
 
 namespace plasmos {
 
@@ -23,15 +25,21 @@ bool IsAskedInMessageLine(const Question& question) {
     return question.Kind == QuestionKind::YesNo || question.Kind == QuestionKind::Square;
 }
 
+/// Yes and No are for the questions in the message line.
+void PutButton(const Answer& answer) {
+    if (TopQuestion() != nullptr && IsAskedInMessageLine(*TopQuestion())) {
+        TopQuestion()->Put(answer);
+    }
+}
+
 bool WaitForYes(int clan, const std::string& text, int about) {
     YesNoQuestion question(clan, text, about);
     game.Reply = 0;
     OpenQuestion open(question);
     open.Wait();
-    const bool yes = game.Reply == ReplyYes;
-    NoteAnswer(question, Concat(game.Reply), true);
+    NoteAnswer(question, question.IsYes() ? YesAnswer() : NoAnswer(), true);
     ForgetAnswer();
-    return yes;
+    return question.IsYes();
 }
 
 void LogBox(int clan, const std::string& text) {
@@ -42,15 +50,45 @@ void LogBox(int clan, const std::string& text) {
 
 }  // namespace
 
-bool YesNoQuestion::Answered() const {
-    return game.Reply == ReplyYes || game.Reply == ReplyNo;
+void YesNoQuestion::Store(const Answer& answer) {
+    if (answer.What != Answer::Kind::Yes && answer.What != Answer::Kind::No) {
+        NoteAnswer(*this, answer, false);
+        return;
+    }
+    answer_ = answer.What == Answer::Kind::Yes;
+    game.Reply = IsYes() ? ReplyYes : ReplyNo;
 }
 
-bool SquareQuestion::Answered() const {
-    return game.Reply != -1 || game.ReplyY != -1;
+std::vector<Answer> SquareQuestion::Allowed() const {
+    std::vector<Answer> allowed;
+    for (const int square : Offered) {
+        allowed.push_back(Numbered(Answer::Kind::Square, square));
+    }
+    return allowed;
 }
 
-OpenQuestion::OpenQuestion(Question& question) : question_(question) {
+int SquareQuestion::Take() {
+    game.Reply = game.ReplyY = -1;
+    return std::exchange(square_, std::nullopt).value();
+}
+
+void SquareQuestion::Store(const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Yes:
+        case Answer::Kind::No:
+            square_ = 0;
+            game.Reply = answer.What == Answer::Kind::Yes ? ReplyYes : ReplyNo;
+            break;
+        case Answer::Kind::Square:
+            square_ = answer.Number;
+            game.Reply = (answer.Number - 1) % game.NumCols * SquareUnits + SquareUnits / 2;
+            game.ReplyY = (answer.Number - 1) / game.NumCols * SquareUnits + SquareUnits / 2;
+            break;
+        default: NoteAnswer(*this, answer, false);
+    }
+}
+
+OpenQuestion::OpenQuestion(Question& question) : question_(question), below_(services.Asked) {
     if (!IsAskedInMessageLine(question)) {
         LetMessageBeRead();
     }
@@ -61,38 +99,48 @@ OpenQuestion::OpenQuestion(Question& question) : question_(question) {
             services.Listener->OnAsk(question);
         }
     }
-    Board().Open(question_);
+    if (!question.ModeName().empty()) {
+        game.DialogMode = question.ModeName();
+    }
+    services.Asked = &question_;
+    try {
+        Board().Open(question_);
+    } catch (...) {
+        services.Asked = below_;
+        throw;
+    }
 }
 
 OpenQuestion::~OpenQuestion() {
+    services.Asked = below_;
+    if (!question_.ModeName().empty() && question_.ModeName() != "NEWGENES") {
+        game.DialogMode = below_ != nullptr ? below_->ModeName() : "";
+    }
     Board().Close(question_);
 }
 
 void OpenQuestion::Wait() {
     while (!question_.Answered()) {
+        TakeSwitches(TakenAt::Question);
         Board().Wait();
     }
     MessageIsRead();
 }
 
-void NoteAnswer(const Question& question, std::string_view value, bool accepted) {
-    if (services.Listener != nullptr) {
-        services.Listener->OnAnswer(question, value, accepted);
-    }
-}
-
 void yesb_Click() {
-    game.Reply = ReplyYes;
+    PutButton(YesAnswer());
 }
 
 void nob_Click() {
-    game.Reply = ReplyNo;
+    PutButton(NoAnswer());
 }
 
 void Picture1_MouseUp(int x, int y) {
-    if (!game.WantSquare) {
+    auto* question = As<SquareQuestion>(TopQuestion());
+    if (question == nullptr || question->Answered()) {
         return;
     }
+    question->Put(Numbered(Answer::Kind::Square, SquareAt(x, y)));
     game.Reply = x;
     game.ReplyY = y;
 }
@@ -139,15 +187,15 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
     OpenQuestion open(question);
     for (;;) {
         open.Wait();
-        const int square = game.ReplyY < 0 ? 0 : SquareAt(game.Reply, game.ReplyY);
+        const int square = question.Take();
         const bool accepted = std::binary_search(squares.begin(), squares.end(), square);
-        NoteAnswer(question, Concat(square), accepted);
-        game.Reply = game.ReplyY = -1;
+        NoteAnswer(question, Numbered(Answer::Kind::Square, square), accepted);
         if (accepted) {
             game.WantSquare = false;
             ForgetAnswer();
             return square;
         }
+        Board().Refresh(question);
     }
 }
 

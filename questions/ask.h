@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "model/game_state.h"
 #include "model/message_line.h"
 #include "model/presentation.h"
+#include "model/services.h"
 #include "questions/question.h"
 
 namespace plasmos {
@@ -16,40 +18,64 @@ namespace plasmos {
 inline constexpr int ReplyYes = 6;
 inline constexpr int ReplyNo = 7;
 
-/// A yes/no question in the message line.
+/// A yes/no question in the message line. `Reply` becomes 6 or 7.
 class YesNoQuestion : public Question {
 public:
     YesNoQuestion(int clan, std::string text, int about)
         : Question(QuestionKind::YesNo, clan, std::move(text)), About(about) {}
-    bool Answered() const override;
+    std::vector<Answer> Allowed() const override { return {YesAnswer(), NoAnswer()}; }
+    bool Answered() const override { return answer_.has_value(); }
+    /// The answer; only once there is one.
+    bool IsYes() const { return answer_.value(); }
 
     /// The square that the question speaks of; 0: none.
     const int About;
+
+protected:
+    void Store(const Answer& answer) override;
+
+private:
+    std::optional<bool> answer_;
 };
 
-/// A question that is answered by a click on one of the offered squares (ascending, once each).
+/// A question that is answered by a click on one of the offered squares (ascending, once each). `Reply` and
+/// `ReplyY` become the clicked point. Another square, and the button Yes or No, is looked at and refused.
 class SquareQuestion : public Question {
 public:
     SquareQuestion(int clan, std::string text, std::vector<int> offered)
         : Question(QuestionKind::Square, clan, std::move(text)), Offered(std::move(offered)) {}
-    bool Answered() const override;
+    std::vector<Answer> Allowed() const override;
+    bool Answered() const override { return square_.has_value(); }
+    /// The clicked square, 0 where there is none; the question is then open again.
+    int Take();
 
     const std::vector<int> Offered;
+
+protected:
+    void Store(const Answer& answer) override;
+
+private:
+    std::optional<int> square_;
 };
 
 /// A message box with an OK button.
 class BoxQuestion : public Question {
 public:
     explicit BoxQuestion(int clan, std::string text) : Question(QuestionKind::Box, clan, std::move(text)) {}
+    std::vector<Answer> Allowed() const override { return {Plain(Answer::Kind::Acknowledge)}; }
     bool Answered() const override { return dismissed_; }
     /// OK, Escape, or the box closed.
-    void ok_Click() { dismissed_ = true; }
+    void ok_Click() { Put(Plain(Answer::Kind::Acknowledge)); }
+
+protected:
+    void Store(const Answer& /*answer*/) override { dismissed_ = true; }
 
 private:
     bool dismissed_ = false;
 };
 
-/// Keeps a question open on the board while it lives.
+/// Keeps a question open on the board while it lives, on top of those that are open already. The state's dialog
+/// mode is the question's as long; "NEWGENES" stays afterwards, until another dialog sets it.
 class OpenQuestion {
 public:
     explicit OpenQuestion(Question& question);
@@ -62,14 +88,17 @@ public:
 
 private:
     Question& question_;
+    Question* below_;
 };
 
-/// Tells a listener what came back. Forms tell their answers in one line of text.
-void NoteAnswer(const Question& question, std::string_view value, bool accepted);
+/// The question that is open on top and can be answered; none: nullptr.
+inline Question* TopQuestion() {
+    return services.Asked;
+}
 
-// ---- handlers of the board, called by the presentation ----
+// ---- handlers of the board, called by the presentation; they answer the topmost question ----
 
-/// The button Yes: `Reply` becomes 6.
+/// The button Yes: `Reply` becomes 6. While a square is wanted it is looked at and refused.
 void yesb_Click();
 /// The button No: `Reply` becomes 7.
 void nob_Click();

@@ -6,19 +6,40 @@
 
 namespace plasmos {
 
+namespace {
+
+/// Answers for the options that can be clicked.
+std::vector<Answer> AnswersFor(const Table<ChoiceOption, 0, 7>& options, Answer::Kind kind) {
+    std::vector<Answer> allowed;
+    for (int k = 0; k <= 7; ++k) {
+        if (options[k].Visible && options[k].Enabled) {
+            allowed.push_back(Numbered(kind, k));
+        }
+    }
+    return allowed;
+}
+
+bool IsOffered(const Table<ChoiceOption, 0, 7>& options, int k) {
+    return k >= 0 && k <= 7 && options[k].Visible && options[k].Enabled;
+}
+
+}  // namespace
+
 AmNumfrm::AmNumfrm(int clan, std::string caption, std::string text, int noAnswer, int closeReply)
-    : Question(QuestionKind::Number, clan, std::move(text)),
-      Caption(std::move(caption)),
-      noAnswer_(noAnswer),
-      closeReply_(closeReply) {
+    : Question(QuestionKind::Number, clan, std::move(text)), Caption(std::move(caption)), closeReply_(closeReply) {
     for (int k = 0; k <= 7; ++k) {
         amopt[k].Caption = Concat(k);
     }
-    game.Reply = noAnswer_;
+    game.Reply = noAnswer;
 }
 
-bool AmNumfrm::Answered() const {
-    return game.Reply != noAnswer_;
+std::vector<Answer> AmNumfrm::Allowed() const {
+    return AnswersFor(amopt, Answer::Kind::Number);
+}
+
+int AmNumfrm::Take() {
+    game.Reply = 0;
+    return chosen_.value();
 }
 
 void AmNumfrm::Activate(int price) {
@@ -35,17 +56,13 @@ void AmNumfrm::LimitTo(int most) {
     }
 }
 
-void AmNumfrm::amopt_Click(int k) {
-    const bool offered = k >= 0 && k <= 7 && amopt[k].Visible && amopt[k].Enabled;
-    if (offered) {
-        game.Reply = k;
-    } else {
-        NoteAnswer(*this, Concat(k), false);
+void AmNumfrm::Store(const Answer& answer) {
+    const bool closed = answer.What == Answer::Kind::Close;
+    if (!closed && (answer.What != Answer::Kind::Number || !IsOffered(amopt, answer.Number))) {
+        NoteAnswer(*this, answer, false);
+        return;
     }
-}
-
-void AmNumfrm::Form_Close() {
-    game.Reply = closeReply_;
+    chosen_ = game.Reply = closed ? closeReply_ : answer.Number;
 }
 
 AmChoicefrm::AmChoicefrm(int clan, std::string caption, std::string text)
@@ -57,34 +74,36 @@ AmChoicefrm::AmChoicefrm(int clan, std::string caption, std::string text)
     game.Reply = -1;
 }
 
-bool AmChoicefrm::Answered() const {
-    return game.Reply != -1;
+std::vector<Answer> AmChoicefrm::Allowed() const {
+    auto allowed = AnswersFor(amopt, Answer::Kind::Amoeba);
+    allowed.push_back(Plain(Answer::Kind::Nobody));
+    return allowed;
+}
+
+int AmChoicefrm::Take() {
+    game.Reply = 0;
+    return chosen_.value();
 }
 
 void AmChoicefrm::Offer(int amoeba) {
     amopt[amoeba].Enabled = true;
 }
 
-void AmChoicefrm::amopt_Click(int amoeba) {
-    const bool offered = amoeba >= 1 && amoeba <= 7 && amopt[amoeba].Visible && amopt[amoeba].Enabled;
-    if (offered) {
-        game.Reply = amoeba;
-    } else {
-        NoteAnswer(*this, Concat(amoeba), false);
+void AmChoicefrm::Store(const Answer& answer) {
+    const bool none = answer.What == Answer::Kind::Nobody || answer.What == Answer::Kind::Close;
+    if (!none && (answer.What != Answer::Kind::Amoeba || !IsOffered(amopt, answer.Number))) {
+        NoteAnswer(*this, answer, false);
+        return;
     }
-}
-
-void AmChoicefrm::amoptb_Click() {
-    game.Reply = 0;
+    chosen_ = game.Reply = none ? 0 : answer.Number;
 }
 
 int AskAmoeba(AmChoicefrm& form) {
     OpenQuestion open(form);
     open.Wait();
-    const int answer = game.Reply;
-    NoteAnswer(form, Concat(answer), true);
-    game.Reply = 0;
-    return answer;
+    const int slot = form.Take();
+    NoteAnswer(form, slot != 0 ? Numbered(Answer::Kind::Amoeba, slot) : Plain(Answer::Kind::Nobody), true);
+    return slot;
 }
 
 }  // namespace plasmos

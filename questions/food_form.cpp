@@ -16,6 +16,65 @@ bool IsPlainNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+/// Every way to take pieces of the colours in a square.
+class Takings {
+public:
+    explicit Takings(const FoodForm& form) : form_(form) {}
+
+    /// The digits of a menu, each from another foreign colour.
+    void TakeMenu(int menu) {
+        std::vector<int> digits;
+        for (int rest = menu; rest > 0; rest /= 10) {
+            digits.push_back(rest % 10);
+        }
+        TakeDigits(1, digits);
+    }
+    /// Up to a number of pieces of any colour.
+    void TakeUpTo(int most) { TakePieces(1, most); }
+
+    std::vector<std::vector<int>> Found;
+
+private:
+    void TakeDigits(int colour, const std::vector<int>& digits) {
+        if (digits.empty()) {
+            Found.push_back(taken_);
+            return;
+        }
+        if (colour > game.NumPlayers) {
+            return;
+        }
+        TakeDigits(colour + 1, digits);
+        int tried = 0;
+        for (std::size_t i = 0; i < digits.size() && colour != form_.Clan; ++i) {
+            if (digits[i] != tried && digits[i] <= form_.fdtxt[colour].InSquare) {
+                tried = digits[i];
+                auto left = digits;
+                left.erase(left.begin() + static_cast<std::ptrdiff_t>(i));
+                Of(colour) = tried;
+                TakeDigits(colour + 1, left);
+                Of(colour) = 0;
+            }
+        }
+    }
+
+    void TakePieces(int colour, int left) {
+        if (colour > game.NumPlayers) {
+            Found.push_back(taken_);
+            return;
+        }
+        for (int pieces = 0; pieces <= std::min(left, form_.fdtxt[colour].InSquare); ++pieces) {
+            Of(colour) = pieces;
+            TakePieces(colour + 1, left - pieces);
+        }
+        Of(colour) = 0;
+    }
+
+    int& Of(int colour) { return taken_[static_cast<std::size_t>(colour - 1)]; }
+
+    const FoodForm& form_;
+    std::vector<int> taken_ = std::vector<int>(static_cast<std::size_t>(game.NumPlayers), 0);
+};
+
 }  // namespace
 
 FoodForm::FoodForm(int clan, std::string_view mode, int square)
@@ -52,10 +111,10 @@ bool FoodForm::AllZero() const {
     return !fdtxt[0].Visible && !fdtxt[7].Visible;
 }
 
-std::string FoodForm::Entry() const {
-    std::string entry;
+std::vector<int> FoodForm::Entry() const {
+    std::vector<int> entry;
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-        entry += Concat(colour == 1 ? "" : ",", Amount(colour));
+        entry.push_back(Amount(colour));
     }
     return entry;
 }
@@ -68,16 +127,73 @@ void FoodForm::UpdateButtons() {
     }
 }
 
-void FoodForm::fdtxt_Change(int field, std::string text) {
+std::vector<Answer> FoodForm::Allowed() const {
+    std::vector<Answer> allowed;
+    const bool carrying = Mode == "TENTACLE";
+    const auto offer = [&](bool enabled, Answer::Kind kind) {
+        if (enabled) {
+            allowed.push_back(Plain(kind));
+        }
+    };
+    for (const auto& amounts : LegalAmounts()) {
+        if (eatbEnabled) {
+            allowed.push_back(WithAmounts(carrying ? Answer::Kind::Carry : Answer::Kind::Eat, amounts));
+        }
+    }
+    offer(carrying, Answer::Kind::CarryNothing);
+    offer(!carrying && SuggestedMenu == 0 && eatbEnabled, Answer::Kind::Starve);
+    offer(!carrying && SuggestedMenu > 0, Answer::Kind::Suggestion);
+    offer(paroptEnabled, Answer::Kind::Parasitism);
+    offer(sfsoptEnabled, Answer::Kind::Struggle);
+    offer(victimbEnabled, Answer::Kind::Victim);
+    // With a lent piece in a field there are meals beside the square's own.
+    if (fdtxt[0].Visible && eatbEnabled) {
+        allowed.push_back(WithAmounts(Answer::Kind::Eat, {}));
+    }
+    return allowed;
+}
+
+std::vector<std::vector<int>> FoodForm::LegalAmounts() const {
+    Takings takings(*this);
+    if (Mode == "TENTACLE") {
+        takings.TakeUpTo(CarryingLimit);
+    }
+    for (const int menu : LegalMenus) {
+        takings.TakeMenu(menu);
+    }
+    return takings.Found;
+}
+
+void FoodForm::Store(const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Field: TypeInto(answer); break;
+        case Answer::Kind::LeaveField: Leave(answer.Number); break;
+        case Answer::Kind::Suggestion: TakeSuggestion(); break;
+        case Answer::Kind::Parasitism: ChooseParasitism(); break;
+        case Answer::Kind::Struggle: ChooseStruggle(); break;
+        case Answer::Kind::Eat:
+        case Answer::Kind::Carry: PressEat(answer); break;
+        case Answer::Kind::Starve: PressEat(WithAmounts(Answer::Kind::Eat, std::vector<int>(MaxClans, 0))); break;
+        case Answer::Kind::Victim:
+            victimbEnabled ? void(Pressed = Button::Victim) : NoteAnswer(*this, answer, false);
+            break;
+        case Answer::Kind::CarryNothing:
+        case Answer::Kind::Close: Pressed = Button::Closed; break;
+        default: NoteAnswer(*this, answer, false);
+    }
+}
+
+void FoodForm::TypeInto(const Answer& answer) {
+    const int field = answer.Number;
     if (field < 1 || field > game.NumPlayers || !fdtxt[field].Enabled) {
-        NoteAnswer(*this, Concat("field ", field, " = ", text), false);
+        NoteAnswer(*this, answer, false);
         return;
     }
-    fdtxt[field].Text = std::move(text);
+    fdtxt[field].Text = answer.Typed;
     UpdateButtons();
 }
 
-void FoodForm::fdtxt_LostFocus(int field) {
+void FoodForm::Leave(int field) {
     if (field >= 1 && field <= game.NumPlayers && !IsPlainNumber(Trim(fdtxt[field].Text))) {
         fdtxt[field].Text = "0";
         UpdateButtons();
@@ -89,7 +205,7 @@ void FoodForm::SendHostsAway() {
     fdtxt[0].Visible = fdtxt[7].Visible = false;
 }
 
-void FoodForm::paropt_Click() {
+void FoodForm::ChooseParasitism() {
     if (!paroptEnabled) {
         return;
     }
@@ -102,7 +218,7 @@ void FoodForm::paropt_Click() {
     UpdateButtons();
 }
 
-void FoodForm::sfsopt_Click() {
+void FoodForm::ChooseStruggle() {
     if (!sfsoptEnabled) {
         return;
     }
@@ -114,23 +230,21 @@ void FoodForm::sfsopt_Click() {
     UpdateButtons();
 }
 
-void FoodForm::eatb_Click() {
+void FoodForm::PressEat(const Answer& answer) {
     if (!eatbEnabled) {
-        NoteAnswer(*this, "eat", false);
+        NoteAnswer(*this, WithAmounts(Answer::Kind::Eat, {}), false);
         return;
     }
+    for (int colour = 1; colour <= std::min(game.NumPlayers, static_cast<int>(answer.Amounts.size())); ++colour) {
+        if (fdtxt[colour].Enabled) {
+            fdtxt[colour].Text = Concat(answer.Amounts[static_cast<std::size_t>(colour - 1)]);
+        }
+    }
+    UpdateButtons();
     Pressed = Button::Eat;
 }
 
-void FoodForm::victimb_Click() {
-    if (!victimbEnabled) {
-        NoteAnswer(*this, "victim", false);
-        return;
-    }
-    Pressed = Button::Victim;
-}
-
-void FoodForm::suggest_Click() {
+void FoodForm::TakeSuggestion() {
     if (SuggestedMenu == 0) {
         return;
     }
@@ -140,10 +254,6 @@ void FoodForm::suggest_Click() {
     paroptValue = false;
     SendHostsAway();
     UpdateButtons();
-}
-
-void FoodForm::Form_Close() {
-    Pressed = Button::Closed;
 }
 
 }  // namespace plasmos

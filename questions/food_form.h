@@ -8,12 +8,16 @@ namespace plasmos {
 
 /// The food dialog: what an amoeba eats, or carries along in the mode "TENTACLE".
 /// One entry field per clan colour 1..NumPlayers; the fields 0 and 7 stand for pieces lent by hosts.
+///
+/// What is typed and chosen belongs to the dialog. The rule looks when a button is pressed.
 class FoodForm : public Question {
 public:
     /// `mode` is "" for feeding or "TENTACLE".
     FoodForm(int clan, std::string_view mode, int square);
 
+    std::vector<Answer> Allowed() const override;
     bool Answered() const override { return Pressed != Button::None; }
+    std::string_view ModeName() const override { return Mode; }
 
     enum class Button { None, Eat, Victim, Closed };
 
@@ -24,25 +28,26 @@ public:
         int InSquare = 0;  ///< pieces of the colour in the square, as its label shows
     };
 
+    // ---- handlers ----
     /// The entry field of a colour changes.
-    void fdtxt_Change(int field, std::string text);
+    void fdtxt_Change(int field, std::string text) { Put(TypedInto(Answer::Kind::Field, field, std::move(text))); }
     /// An entry field is left: a text that is no number becomes "0".
-    void fdtxt_LostFocus(int field);
+    void fdtxt_LostFocus(int field) { Put(Numbered(Answer::Kind::LeaveField, field)); }
     /// The alternatives; choosing one again switches it off.
-    void paropt_Click();
-    void sfsopt_Click();
-    void eatb_Click();
-    void victimb_Click();
+    void paropt_Click() { Put(Plain(Answer::Kind::Parasitism)); }
+    void sfsopt_Click() { Put(Plain(Answer::Kind::Struggle)); }
+    void eatb_Click() { Put(WithAmounts(Answer::Kind::Eat, {})); }
+    void victimb_Click() { Put(Plain(Answer::Kind::Victim)); }
     /// The suggestion is clicked: the fields show the colours it would take.
-    void suggest_Click();
-    void Form_Close();
+    void suggest_Click() { Put(Plain(Answer::Kind::Suggestion)); }
+    void Form_Close() { Put(Plain(Answer::Kind::Close)); }
 
     /// What was pressed is done with; the dialog goes on.
     void Resume() { Pressed = Button::None; }
     /// The whole value of a field; 0 where the text is no plain decimal number.
     int Amount(int field) const;
-    /// What the fields hold, as one line: "0,2,1" for the colours 1 to NumPlayers.
-    std::string Entry() const;
+    /// What the fields of the colours 1 to NumPlayers hold.
+    std::vector<int> Entry() const;
     bool AllZero() const;
     /// Withdraws the lent pieces.
     void SendHostsAway();
@@ -53,6 +58,8 @@ public:
     const int Square;
     int SuggestedMenu = 0;                     ///< 0: the amoeba cannot eat
     Table<int, 0, MaxClans> SuggestedAmounts;  ///< what the suggestion takes of each colour
+    std::vector<int> LegalMenus;               ///< the menus that the clan may eat
+    int CarryingLimit = 0;                     ///< pieces that may be carried in the mode "TENTACLE"
 
     Table<Field, 0, 7> fdtxt;
     bool paroptEnabled = false;
@@ -68,6 +75,20 @@ public:
     Table<int, 0, 2> Hosts;       ///< [1], [2]: the clans that lend the pieces of the fields 0 and 7
 
     Button Pressed = Button::None;
+
+protected:
+    void Store(const Answer& answer) override;
+
+private:
+    void TypeInto(const Answer& answer);
+    void Leave(int field);
+    void TakeSuggestion();
+    void ChooseParasitism();
+    void ChooseStruggle();
+    /// What may be eaten of the square's own food, or carried, as amounts of the colours 1 to NumPlayers.
+    std::vector<std::vector<int>> LegalAmounts() const;
+    /// Eat or carry: the amounts, if there are any, into their fields, and the button.
+    void PressEat(const Answer& answer);
 };
 
 }  // namespace plasmos

@@ -55,6 +55,30 @@ GeneForm::GeneForm(int clan, std::string text) : Question(QuestionKind::Genes, c
     }
 }
 
+GeneForm::~GeneForm() {
+    game.DoneFlag = 0;
+    game.DiscardedPoints = 0;
+}
+
+std::vector<Answer> GeneForm::Allowed() const {
+    std::vector<Answer> allowed;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (gcheck[gene].Enabled) {
+            allowed.push_back(Numbered(gcheck[gene].Ticked ? Answer::Kind::Untick : Answer::Kind::Tick, gene));
+        }
+    }
+    for (int bp = 0; Adapts && EnvBPVisible && bp <= game.BP[Clan]; ++bp) {
+        allowed.push_back(TypedInto(Answer::Kind::Pay, 0, Concat(bp)));
+    }
+    if (resetbVisible) {
+        allowed.push_back(Plain(Answer::Kind::Reset));
+    }
+    if (!Adapts || UVdiff <= 0) {
+        allowed.push_back(Plain(Answer::Kind::Done));
+    }
+    return allowed;
+}
+
 void GeneForm::SetBoxesToHeld() {
     for (int gene = 1; gene <= GeneCount; ++gene) {
         gcheck[gene].Ticked = gcheck[gene].Enabled = game.Genes[gene][Clan];
@@ -78,14 +102,14 @@ void GeneForm::PrepareEnvironment() {
     EnvBPVisible = ofLabVisible = bp > 0;
     ofLab = bp > 0 ? Concat("of ", bp) : std::string();
     SetBoxesToHeld();
-    game.DialogMode = "ENVIRONMENT";
+    Adapts = true;
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel);
     game.DiscardedPoints = 0;
     game.DoneFlag = 0;
 }
 
 void GeneForm::PrepareNewGenes() {
-    game.DialogMode = "NEWGENES";
+    Adapts = false;
     BPlabelVisible = true;
     BPlabel = Concat(game.BP[Clan]);
     heldOnEntry_ = "";
@@ -100,65 +124,74 @@ void GeneForm::PrepareNewGenes() {
 }
 
 void GeneForm::gcheck_Click(int gene) {
-    const bool offered = gene >= 1 && gene <= GeneCount && gcheck[gene].Enabled && game.DoneFlag == 0;
-    if (!offered) {
-        NoteAnswer(*this, Concat("tick ", gene), false);
-        return;
-    }
-    gcheck[gene].Ticked = !gcheck[gene].Ticked;
-    NoteAnswer(*this, Concat(gcheck[gene].Ticked ? "tick " : "untick ", gene), true);
-    if (game.DialogMode == "ENVIRONMENT") {
-        AdaptClick(gene);
-    } else if (game.DialogMode == "NEWGENES") {
-        BuyClick(gene);
+    const bool ticked = gene >= 1 && gene <= GeneCount && gcheck[gene].Enabled && gcheck[gene].Ticked;
+    Put(Numbered(ticked ? Answer::Kind::Untick : Answer::Kind::Tick, gene));
+}
+
+void GeneForm::Store(const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Tick:
+        case Answer::Kind::Untick: Click(answer); break;
+        case Answer::Kind::Pay: Pay(answer); break;
+        case Answer::Kind::Reset:
+            if (Adapts) {
+                Reset();
+            }
+            break;
+        case Answer::Kind::Done:
+        case Answer::Kind::Close: Finish(); break;
+        default: NoteAnswer(*this, answer, false);
     }
 }
 
-void GeneForm::AdaptClick(int gene) {
+void GeneForm::Click(const Answer& answer) {
+    const int gene = answer.Number;
+    if (gene < 1 || gene > GeneCount || !gcheck[gene].Enabled) {
+        NoteAnswer(*this, Numbered(Answer::Kind::Tick, gene), false);
+        return;
+    }
+    CheckBox& box = gcheck[gene];
+    box.Ticked = !box.Ticked;
+    NoteAnswer(*this, Numbered(box.Ticked ? Answer::Kind::Tick : Answer::Kind::Untick, gene), true);
+    if (Adapts) {
+        GiveUp(gene);
+    } else {
+        PressedBox = gene;
+        Pressed = Button::Box;
+    }
+}
+
+void GeneForm::GiveUp(int gene) {
     const int points = gene == GeneId("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
     game.DiscardedPoints += gcheck[gene].Ticked ? -points : points;
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - game.DiscardedPoints);
     resetbVisible = true;
 }
 
-void GeneForm::BuyClick(int gene) {
-    if (gcheck[gene].Ticked) {
-        BuyGene(gene);
-    } else {
-        DiscardGene(gene);
-        game.BP[Clan] += game.Catalogue[gene].Cost;
-        Show(&Presentation::ShowBP, Clan);
-    }
+void GeneForm::ShowHeld() {
     BPlabel = Concat(game.BP[Clan]);
-    for (int other = 1; other <= GeneCount; ++other) {
-        const bool held = game.Genes[other][Clan];
-        const bool bought = held && heldOnEntry_.View().find(HeldMark(other)) == std::string_view::npos;
-        gcheck[other].Ticked = held;
-        gcheck[other].Enabled = bought || CanBuyGene(Clan, other);
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        const bool held = game.Genes[gene][Clan];
+        const bool bought = held && heldOnEntry_.View().find(HeldMark(gene)) == std::string_view::npos;
+        gcheck[gene].Ticked = held;
+        gcheck[gene].Enabled = bought || CanBuyGene(Clan, gene);
     }
 }
 
-void GeneForm::EnvBP_Change(std::string text) {
-    if (game.DialogMode != "ENVIRONMENT" || !EnvBPVisible) {
+void GeneForm::Pay(const Answer& answer) {
+    if (!Adapts || !EnvBPVisible) {
         return;
     }
     int value = 0;
-    if (ParseBP(text, value) && value <= game.BP[Clan]) {
-        EnvBP = std::move(text);
-        NoteAnswer(*this, Concat("pay ", value), true);
-    } else {
-        EnvBP = "0";
-        value = 0;
-        NoteAnswer(*this, "pay 0", false);
-    }
+    const bool accepted = ParseBP(answer.Typed, value) && value <= game.BP[Clan];
+    value = accepted ? value : 0;
+    EnvBP = accepted ? answer.Typed : "0";
+    NoteAnswer(*this, TypedInto(Answer::Kind::Pay, 0, Concat(value)), accepted);
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - value - game.DiscardedPoints);
     resetbVisible = true;
 }
 
-void GeneForm::resetb_Click() {
-    if (game.DialogMode != "ENVIRONMENT") {
-        return;
-    }
+void GeneForm::Reset() {
     EnvBP = "0";
     SetBoxesToHeld();
     game.DiscardedPoints = 0;
@@ -166,49 +199,20 @@ void GeneForm::resetb_Click() {
     resetbVisible = false;
 }
 
-void GeneForm::doneb_Click() {
-    if (game.DoneFlag != 0) {
-        return;
+void GeneForm::Finish() {
+    const bool refused = Adapts && UVdiff > 0;
+    NoteAnswer(*this, Plain(Answer::Kind::Done), !refused);
+    Pressed = refused ? Button::Refused : Button::Done;
+    game.DoneFlag = refused ? 0 : 1;
+    if (Adapts && !refused) {
+        UVdiffVisible = EnvBPVisible = ofLabVisible = resetbVisible = false;
+        BPlabelVisible = true;
     }
-    if (game.DialogMode == "ENVIRONMENT") {
-        if (UVdiff > 0) {
-            NoteAnswer(*this, "done", false);
-            RefusalPending = true;
-            return;
-        }
-        FinishAdapting();
-    }
-    NoteAnswer(*this, "done", true);
-    game.DoneFlag = 1;
 }
 
-void GeneForm::RefuseDone() {
-    RefusalPending = false;
-    ShowBox(Clan,
-            "You must make up the difference between the current environmental UV-level "
-            "and the sum mutation-point value of your amoebas' genes by discarding genes "
-            "and/or spending BP until the difference (\"UV cost\") is 0");
-    resetb_Click();
-}
-
-int GeneForm::TypedBP() const {
+int GeneForm::PaidBP() const {
     int value = 0;
-    return ParseBP(EnvBP, value) ? value : 0;
-}
-
-void GeneForm::FinishAdapting() {
-    for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (game.Genes[gene][Clan] && !gcheck[gene].Ticked) {
-            DiscardGene(gene);
-        }
-    }
-    const int paid = std::min(TypedBP(), game.BP[Clan]);
-    if (paid >= 1) {
-        game.BP[Clan] -= paid;
-        Show(&Presentation::ShowBP, Clan);
-    }
-    UVdiffVisible = EnvBPVisible = ofLabVisible = resetbVisible = false;
-    BPlabelVisible = true;
+    return ParseBP(EnvBP, value) ? std::clamp(value, 0, game.BP[Clan]) : 0;
 }
 
 }  // namespace plasmos

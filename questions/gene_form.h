@@ -8,11 +8,20 @@ namespace plasmos {
 
 /// The gene dialog. In the mode "ENVIRONMENT" a clan gives up genes and pays BP until its mutation
 /// level fits the UV level; in the mode "NEWGENES" it buys genes box by box.
+///
+/// While a clan adapts, ticks and BP belong to the dialog until it is done. A box that is clicked in the other mode
+/// is a purchase, or takes one back, and waits for the rule. `DoneFlag` is 1 from "done" to the end of the question.
 class GeneForm : public Question {
 public:
     GeneForm(int clan, std::string text);
+    ~GeneForm() override;
 
-    bool Answered() const override { return game.DoneFlag != 0 || RefusalPending; }
+    std::vector<Answer> Allowed() const override;
+    bool Answered() const override { return Pressed != Button::None; }
+    std::string_view ModeName() const override { return Adapts ? "ENVIRONMENT" : "NEWGENES"; }
+
+    /// What waits for the rule: a box of the mode "NEWGENES", "done" while the UV cost is above 0, or "done".
+    enum class Button { None, Box, Refused, Done };
 
     /// One of the twenty check boxes; index = gene number.
     struct CheckBox {
@@ -26,17 +35,28 @@ public:
     void PrepareEnvironment();
     void PrepareNewGenes();
 
-    /// The person clicks a box: its tick changes, then the mode's rule acts.
+    // ---- handlers ----
+    /// The person clicks a box.
     void gcheck_Click(int gene);
     /// The text of the field for BP changes.
-    void EnvBP_Change(std::string text);
-    void resetb_Click();
+    void EnvBP_Change(std::string text) { Put(TypedInto(Answer::Kind::Pay, 0, std::move(text))); }
+    void resetb_Click() { Put(Plain(Answer::Kind::Reset)); }
     /// "done"; closing the window is the same.
-    void doneb_Click();
-    void Form_Close() { doneb_Click(); }
+    void doneb_Click() { Put(Plain(Answer::Kind::Done)); }
+    void Form_Close() { Put(Plain(Answer::Kind::Close)); }
 
-    /// Shows why "done" was refused, and starts the choices afresh.
-    void RefuseDone();
+    /// What was pressed is done with; the dialog goes on.
+    void Resume() { Pressed = Button::None; }
+    /// The choices begin afresh.
+    void Reset();
+    /// The boxes and BP as they stand after a purchase.
+    void ShowHeld();
+    /// What is paid when the clan is done adapting: what stands in the field, at most its BP, at least 0.
+    int PaidBP() const;
+
+    bool Adapts = false;  ///< the mode is "ENVIRONMENT"
+    Button Pressed = Button::None;
+    int PressedBox = 0;  ///< the gene whose box was clicked
 
     Table<CheckBox, 0, GeneCount> gcheck;
     std::string EnvBP = "0";
@@ -49,16 +69,18 @@ public:
     std::string BPlabel;
     bool BPlabelVisible = true;
     bool resetbVisible = false;
-    bool RefusalPending = false;  ///< "done" was pressed with a UV cost above 0
+
+protected:
+    void Store(const Answer& answer) override;
 
 private:
     void UVdiff_Change();
     void SetUVdiff(int value);
     void SetBoxesToHeld();
-    void AdaptClick(int gene);
-    void BuyClick(int gene);
-    void FinishAdapting();
-    int TypedBP() const;
+    void Click(const Answer& answer);
+    void GiveUp(int gene);
+    void Pay(const Answer& answer);
+    void Finish();
 
     FixedText<100> heldOnEntry_;  ///< "~", the number and "~" for every gene held when the dialog opened
 };

@@ -1,11 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "questions/question.h"
 
+#include "model/observer.h"
+#include "model/services.h"
+
 namespace plasmos {
 
 std::string_view QuestionKindName(QuestionKind kind) {
     constexpr std::string_view names[] = {"yesno", "square", "number", "amoeba", "food", "victim", "genes", "box"};
     return names[static_cast<std::size_t>(kind)];
+}
+
+void Question::Put(const Answer& answer) {
+    if (Answered()) {
+        return;
+    }
+    if (services.Listener != nullptr) {
+        services.Listener->OnInput(*this, answer);
+    }
+    Store(answer);
+}
+
+void NoteAnswer(const Question& question, const Answer& answer, bool accepted) {
+    if (services.Listener != nullptr) {
+        services.Listener->OnAnswer(question, answer, accepted);
+    }
 }
 
 }  // namespace plasmos

@@ -4,6 +4,9 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
+
+#include "questions/answer.h"
 
 namespace plasmos {
 
@@ -13,10 +16,13 @@ enum class QuestionKind { YesNo, Square, Number, Amoeba, Food, Victim, Genes, Bo
 /// "victim", "genes", "box".
 std::string_view QuestionKindName(QuestionKind kind);
 
-/// A question put to a person. A rule makes it, opens it on the board, and waits until a handler has
-/// stored the answer. What may be answered stands in the question; a presentation shows it, hands the
-/// person's input to the question's handlers (their names end in _Click, _Change and so on) and decides
-/// nothing itself. A handler called where its control is disabled or hidden changes nothing.
+/// A question put to a person. A rule makes it, opens it on the board, and waits until there is something for
+/// it to look at. What may be answered stands in the question, and so does what has been answered.
+///
+/// Whoever answers puts in one answer after the other, `Put()`, and the handlers that are named after the
+/// controls (_Click, _Change and so on) do nothing else. What belongs to the dialog alone (a typed amount, a
+/// mark, a tick that can still be taken back) shows in it at once; whatever changes the game is left for the
+/// rule that waits.
 class Question {
 public:
     Question(QuestionKind kind, int clan, std::string text) : Kind(kind), Clan(clan), Text(std::move(text)) {}
@@ -24,12 +30,30 @@ public:
     Question(const Question&) = delete;
     Question& operator=(const Question&) = delete;
 
-    /// Whether the rule has something to look at: an answer, or a button that the rule carries out.
+    /// Puts in an answer. One that is not allowed now is told as refused, or shows no effect where the control
+    /// for it has none; after one that the rule has to look at nothing more is taken until it has.
+    void Put(const Answer& answer);
+
+    /// What may be answered now: everything where that can be listed, the steps that are enabled where the
+    /// question is a dialogue. Whatever stands here has an effect.
+    virtual std::vector<Answer> Allowed() const = 0;
+
+    /// Whether the rule has something to look at: an answer, or a step that the rule carries out.
     virtual bool Answered() const = 0;
+
+    /// What the question serves, as the state's dialog mode names it; empty where it has none.
+    virtual std::string_view ModeName() const { return {}; }
 
     const QuestionKind Kind;
     const int Clan;    ///< the asked clan, 1..NumPlayers; 0 before the clans are known
     std::string Text;  ///< the question as it is shown, with line breaks
+
+protected:
+    /// Takes an answer that was put in.
+    virtual void Store(const Answer& answer) = 0;
 };
+
+/// Tells a listener what came back.
+void NoteAnswer(const Question& question, const Answer& answer, bool accepted);
 
 }  // namespace plasmos

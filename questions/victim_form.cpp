@@ -23,8 +23,18 @@ VictimForm::VictimForm(int clan, std::string_view mode, std::string caption, int
     game.ReplyY = 0;
 }
 
-bool VictimForm::Answered() const {
-    return game.ReplyY != 0;
+std::vector<Answer> VictimForm::Allowed() const {
+    std::vector<Answer> allowed;
+    for (int index = 0; index < static_cast<int>(Figures.size()); ++index) {
+        if (Figures[static_cast<std::size_t>(index)].Markable) {
+            allowed.push_back(Numbered(Answer::Kind::Mark, index));
+        }
+    }
+    if (donebEnabled) {
+        allowed.push_back(Plain(Answer::Kind::Done));
+    }
+    allowed.push_back(WithPieces(Answer::Kind::Pick, {}));
+    return allowed;
 }
 
 void VictimForm::Allow(int clan, int amoeba) {
@@ -62,10 +72,26 @@ void VictimForm::DescribeMarked() {
     }
 }
 
-void VictimForm::figure_Click(int index) {
+void VictimForm::Store(const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Mark: Mark(answer); break;
+        case Answer::Kind::Pick: MarkAll(answer); break;
+        case Answer::Kind::LookAway: LookAway(); break;
+        case Answer::Kind::Close: Finish(true); break;
+        case Answer::Kind::Done:
+            if (donebEnabled) {
+                Finish(false);
+            }
+            break;
+        default: NoteAnswer(*this, answer, false);
+    }
+}
+
+void VictimForm::Mark(const Answer& answer) {
+    const int index = answer.Number;
     const bool known = index >= 0 && index < static_cast<int>(Figures.size());
     if (!known || !Figures[static_cast<std::size_t>(index)].Markable) {
-        NoteAnswer(*this, Concat("mark ", index), false);
+        NoteAnswer(*this, answer, false);
         return;
     }
     VictimFigure& clicked = Figures[static_cast<std::size_t>(index)];
@@ -79,20 +105,29 @@ void VictimForm::figure_Click(int index) {
     DescribeMarked();
 }
 
-void VictimForm::doneb_Click() {
-    if (donebEnabled) {
-        donebEnabled = false;
-        game.ReplyY = 1;
+/// Marks these figures, and done; without any the pick of nothing.
+void VictimForm::MarkAll(const Answer& answer) {
+    const auto isOf = [&](const VictimFigure& figure) {
+        return std::count(answer.Pieces.begin(), answer.Pieces.end(), Answer::Piece{figure.Clan, figure.Amoeba}) > 0;
+    };
+    for (VictimFigure& figure : Figures) {
+        figure.Marked = figure.Markable && isOf(figure);
     }
+    const auto marked = std::count_if(Figures.begin(), Figures.end(), [](const auto& figure) { return figure.Marked; });
+    DescribeMarked();
+    const bool sound = marked == static_cast<std::ptrdiff_t>(answer.Pieces.size()) && (Mode == "HOLD" || marked <= 1);
+    sound ? Finish(marked == 0) : NoteAnswer(*this, answer, false);
 }
 
-void VictimForm::Form_Close() {
-    closed_ = true;
+void VictimForm::Finish(bool closed) {
+    over_ = true;
+    closed_ = closed;
+    donebEnabled = false;
     game.ReplyY = 1;
 }
 
-void VictimForm::Form_Deactivate() {
-    if (Mode != "HOLD" || Answered()) {
+void VictimForm::LookAway() {
+    if (Mode != "HOLD") {
         return;
     }
     for (VictimFigure& figure : Figures) {
@@ -102,19 +137,17 @@ void VictimForm::Form_Deactivate() {
 }
 
 std::vector<VictimFigure> AskVictims(VictimForm& form) {
-    const auto modeBefore = game.DialogMode;
-    game.DialogMode = form.Mode;
-    auto picked = [&] {
+    std::vector<VictimFigure> picked;
+    {
         OpenQuestion open(form);
         open.Wait();
-        return form.Picked();
-    }();
-    std::string answer;
-    for (const VictimFigure& figure : picked) {
-        answer += Concat(answer.empty() ? "" : " ", figure.Tag());
+        picked = form.Picked();
     }
-    NoteAnswer(form, answer, true);
-    game.DialogMode = modeBefore;
+    std::vector<Answer::Piece> pieces;
+    for (const VictimFigure& figure : picked) {
+        pieces.push_back({figure.Clan, figure.Amoeba});
+    }
+    NoteAnswer(form, WithPieces(Answer::Kind::Pick, pieces), true);
     game.ReplyY = -1;
     return picked;
 }

@@ -28,7 +28,9 @@ public:
     /// none of them may be marked yet.
     VictimForm(int clan, std::string_view mode, std::string caption, int square);
 
-    bool Answered() const override;
+    std::vector<Answer> Allowed() const override;
+    bool Answered() const override { return over_; }
+    std::string_view ModeName() const override { return Mode; }
 
     /// Lets a piece be marked.
     void Allow(int clan, int amoeba);
@@ -38,12 +40,13 @@ public:
     /// The figures that were marked when the person was done; empty: nothing.
     std::vector<VictimFigure> Picked() const;
 
+    // ---- handlers ----
     /// A figure (0-based) is clicked: it is marked, or unmarked when it was in the mode "HOLD".
-    void figure_Click(int index);
-    void doneb_Click();
-    void Form_Close();
+    void figure_Click(int index) { Put(Numbered(Answer::Kind::Mark, index)); }
+    void doneb_Click() { Put(Plain(Answer::Kind::Done)); }
+    void Form_Close() { Put(Plain(Answer::Kind::Close)); }
     /// The window loses the focus: in the mode "HOLD" the markings are looked at again.
-    void Form_Deactivate();
+    void Form_Deactivate() { Put(Plain(Answer::Kind::LookAway)); }
 
     const std::string_view Mode;
     const int Square;
@@ -51,9 +54,17 @@ public:
     std::string vfamlab;  ///< the question, then the marked figure
     bool donebEnabled = false;
 
-private:
-    void DescribeMarked();
+protected:
+    void Store(const Answer& answer) override;
 
+private:
+    void Mark(const Answer& answer);
+    void MarkAll(const Answer& answer);
+    void LookAway();
+    void DescribeMarked();
+    void Finish(bool closed);
+
+    bool over_ = false;
     bool closed_ = false;
 };
 

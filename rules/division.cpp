@@ -118,9 +118,8 @@ int AskHowMany(int clan, int affordable) {
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     open.Wait();
-    const int count = game.Reply;
-    NoteAnswer(form, Concat(count), true);
-    game.Reply = 0;
+    const int count = form.Take();
+    NoteAnswer(form, Numbered(Answer::Kind::Number, count), true);
     return count;
 }
 

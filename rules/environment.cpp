@@ -22,6 +22,29 @@ void TurnCard() {
     Show(&Presentation::ShowUV);
 }
 
+/// Shows why "done" was refused; the choices begin afresh.
+void RefuseDone(GeneForm& form) {
+    form.Resume();
+    ShowBox(form.Clan,
+            "You must make up the difference between the current environmental UV-level "
+            "and the sum mutation-point value of your amoebas' genes by discarding genes "
+            "and/or spending BP until the difference (\"UV cost\") is 0");
+    form.Reset();
+}
+
+/// What the person has chosen is carried out.
+void GiveUpAndPay(const GeneForm& form) {
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (game.Genes[gene][form.Clan] && !form.gcheck[gene].Ticked) {
+            DiscardGene(gene);
+        }
+    }
+    if (const int paid = form.PaidBP(); paid >= 1) {
+        game.BP[form.Clan] -= paid;
+        Show(&Presentation::ShowBP, form.Clan);
+    }
+}
+
 void AdaptPerson(int clan) {
     const std::string text =
         "The environment has changed.\n"
@@ -32,13 +55,12 @@ void AdaptPerson(int clan) {
     ShowQuestionText(text, clan);
     {
         OpenQuestion open(form);
-        open.Wait();
-        while (form.RefusalPending) {
-            form.RefuseDone();
+        for (open.Wait(); form.Pressed == GeneForm::Button::Refused; open.Wait()) {
+            RefuseDone(form);
             Board().Refresh(form);
-            open.Wait();
         }
     }
+    GiveUpAndPay(form);
     ClearMessage();
 }
 

@@ -53,11 +53,25 @@ bool CanParasitize(int clan, int square) {
     return FindParasiteMeal(square, clan).Menu != 0;
 }
 
+/// The numbers in a list of menus as it is shown.
+std::vector<int> MenusIn(std::string_view list) {
+    std::vector<int> menus;
+    for (const char c : list) {
+        if (c == ' ') {
+            menus.push_back(0);
+        } else if (c != ',') {
+            menus.back() = menus.back() * 10 + (c - '0');
+        }
+    }
+    return menus;
+}
+
 void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     const int clan = form.Clan;
     const int square = form.Square;
     LegalEat(0);
     form.LegalMenuLabel = Concat("Legal menu(s): ", game.LegalMenus);
+    form.LegalMenus = MenusIn(game.LegalMenus);
     form.SuggestedMenu = menu;
     form.SuggestedAmounts = SuggestedAmounts(square, clan);
     form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;
@@ -99,14 +113,14 @@ public:
     VictimFigure Victim;
 
 private:
-    void End(Outcome outcome, std::string_view answer) {
+    void End(Outcome outcome, const Answer& answer) {
         Ends = outcome;
         done_ = true;
         NoteAnswer(form_, answer, true);
     }
 
     void Refuse(const std::string& message) {
-        NoteAnswer(form_, Concat("eat ", form_.Entry()), false);
+        NoteAnswer(form_, WithAmounts(Answer::Kind::Eat, form_.Entry()), false);
         ShowBox(form_.Clan, message);
         form_.Text = "Please try again.";
         ShowQuestionText(form_.Text, form_.Clan);
@@ -139,20 +153,20 @@ private:
     void Eat() {
         const int menu = MakeEatStr(form_);
         if (menu == 0 && form_.SuggestedMenu == 0) {
-            End(Outcome::Starves, "starve");
+            End(Outcome::Starves, Plain(Answer::Kind::Starve));
         } else if (TakesTooMuch()) {
             Refuse("You cannot eat more food than is in the square; please try again.");
         } else if (AmountTooLarge() || !LegalEat(menu)) {
             Refuse(NotLegal(menu));
         } else {
             Menu = menu;
-            End(Outcome::Eats, Concat("eat ", form_.Entry()));
+            End(Outcome::Eats, WithAmounts(Answer::Kind::Eat, form_.Entry()));
         }
     }
 
     void CloseForm() {
         if (form_.SuggestedMenu == 0) {
-            End(Outcome::Starves, "starve");
+            End(Outcome::Starves, Plain(Answer::Kind::Starve));
         } else {
             Refuse(NotLegal(0));
         }
@@ -189,7 +203,7 @@ private:
         const auto picked = AskVictims(victims);
         if (!picked.empty()) {
             Victim = picked.front();
-            End(Outcome::Fights, Concat("fight ", Victim.Tag()));
+            End(Outcome::Fights, WithPieces(Answer::Kind::Fight, {{Victim.Clan, Victim.Amoeba}}));
         }
     }
 

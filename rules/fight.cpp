@@ -75,7 +75,6 @@ Victim PickByPerson(int attacker, int square) {
     }
     ShowQuestionText(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
     const auto picked = AskVictims(form);
-    game.DialogMode = "";
     if (picked.empty()) {
         return {};
     }

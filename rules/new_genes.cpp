@@ -15,6 +15,18 @@ namespace {
 
 constexpr int LastOfferedGene = 10;
 
+/// The box of a gene was clicked: a gene that is not held is bought, one that was bought in this visit goes back
+/// for its price.
+void BuyOrGiveBack(int gene, int clan) {
+    if (!game.Genes[gene][clan]) {
+        BuyGene(gene);
+        return;
+    }
+    DiscardGene(gene);
+    game.BP[clan] += game.Catalogue[gene].Cost;
+    Show(&Presentation::ShowBP, clan);
+}
+
 void BuyPerson(int clan) {
     if (!OffersGenes(clan)) {
         return;
@@ -25,7 +37,12 @@ void BuyPerson(int clan) {
         GeneForm form(clan, text);
         form.PrepareNewGenes();
         OpenQuestion open(form);
-        open.Wait();
+        for (open.Wait(); form.Pressed == GeneForm::Button::Box; open.Wait()) {
+            BuyOrGiveBack(form.PressedBox, clan);
+            form.ShowHeld();
+            form.Resume();
+            Board().Refresh(form);
+        }
     }
     ClearMessage();
 }

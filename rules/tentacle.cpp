@@ -67,32 +67,31 @@ std::string CarryingFault(const FoodForm& form) {
 void AskFood(int clan, int from, TentacleLoad& load) {
     FoodForm form(clan, "TENTACLE", from);
     form.Text = Concat("What will your amoeba carry out of square ", from, "? (At most ", CarryingLimit, " food.)");
+    form.CarryingLimit = CarryingLimit;
     form.UpdateButtons();
-    game.DialogMode = "TENTACLE";
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     for (;;) {
         open.Wait();
         if (form.Pressed == FoodForm::Button::Closed) {
-            NoteAnswer(form, "carry nothing", true);
+            NoteAnswer(form, Plain(Answer::Kind::CarryNothing), true);
             break;
         }
         form.Resume();
         if (const auto fault = CarryingFault(form); !fault.empty()) {
-            NoteAnswer(form, Concat("carry ", form.Entry()), false);
+            NoteAnswer(form, WithAmounts(Answer::Kind::Carry, form.Entry()), false);
             ShowBox(clan, fault);
             form.Text = "Please try again.";
             ShowQuestionText(form.Text, clan);
             Board().Refresh(form);
             continue;
         }
-        NoteAnswer(form, Concat("carry ", form.Entry()), true);
+        NoteAnswer(form, WithAmounts(Answer::Kind::Carry, form.Entry()), true);
         for (int colour = 1; colour <= game.NumPlayers; ++colour) {
             load.Take(colour, form.Amount(colour));
         }
         break;
     }
-    game.DialogMode = "";
 }
 
 int PickDragged(AmChoicefrm& form) {

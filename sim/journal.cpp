@@ -7,20 +7,11 @@
 #include "model/dice.h"
 #include "model/game_state.h"
 #include "model/genes.h"
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 
 namespace plasmos {
 
 namespace {
-
-bool IsWholeNumber(std::string_view text) {
-    const auto digits = text.substr(!text.empty() && text.front() == '-' ? 1 : 0);
-    return !digits.empty() && digits.size() < 10 && digits.find_first_not_of("0123456789") == std::string_view::npos;
-}
 
 template <class... Pieces>
 void Append(std::string& text, const Pieces&... pieces) {
@@ -51,36 +42,41 @@ void AppendFoodFields(std::string& text, const FoodForm& form) {
 
 void AppendGeneFields(std::string& text, const GeneForm& form) {
     Append(text, R"(,"mode":)");
-    AppendJsonText(text, game.DialogMode);
+    AppendJsonText(text, form.ModeName());
     Append(text, R"(,"bp":)", game.BP[form.Clan], R"(,"uvCost":)", form.UVdiff);
     AppendList(text, "ticked", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Ticked ? 1 : 0); });
     AppendList(text, "enabled", GeneCount, [&](int gene) { Append(text, form.gcheck[gene].Enabled ? 1 : 0); });
 }
 
+void AppendAllowed(std::string& text, const AmNumfrm& form) {
+    const auto allowed = form.Allowed();
+    AppendList(text, "allowed", static_cast<int>(allowed.size()),
+               [&](int i) { Append(text, allowed[static_cast<std::size_t>(i - 1)].Number); });
+}
+
 void AppendFields(std::string& text, const Question& question) {
-    switch (question.Kind) {
-        case QuestionKind::Square: {
-            const auto& offered = static_cast<const SquareQuestion&>(question).Offered;
-            AppendList(text, "offered", static_cast<int>(offered.size()),
-                       [&](int i) { Append(text, offered[static_cast<std::size_t>(i - 1)]); });
-            break;
-        }
-        case QuestionKind::Number: {
-            const auto& form = static_cast<const AmNumfrm&>(question);
-            bool first = true;
-            Append(text, R"(,"allowed":[)");
-            for (int k = 0; k <= 7; ++k) {
-                if (form.amopt[k].Visible && form.amopt[k].Enabled) {
-                    Append(text, first ? "" : ",", k);
-                    first = false;
-                }
-            }
-            Append(text, "]");
-            break;
-        }
-        case QuestionKind::Food: AppendFoodFields(text, static_cast<const FoodForm&>(question)); break;
-        case QuestionKind::Genes: AppendGeneFields(text, static_cast<const GeneForm&>(question)); break;
-        default: break;
+    Visit(question, Overloaded{[&](const SquareQuestion& square) {
+                                   const auto& offered = square.Offered;
+                                   AppendList(text, "offered", static_cast<int>(offered.size()),
+                                              [&](int i) { Append(text, offered[static_cast<std::size_t>(i - 1)]); });
+                               },
+                               [&](const AmNumfrm& form) { AppendAllowed(text, form); },
+                               [&](const FoodForm& form) { AppendFoodFields(text, form); },
+                               [&](const GeneForm& form) { AppendGeneFields(text, form); }, [](const Question&) {}});
+}
+
+/// What came back, as a journal has it: a number where the answer is one, else a text.
+void AppendAnswer(std::string& text, const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Yes: Append(text, ReplyYes); break;
+        case Answer::Kind::No: Append(text, ReplyNo); break;
+        case Answer::Kind::Nobody: Append(text, 0); break;
+        case Answer::Kind::Square:
+        case Answer::Kind::Number:
+        case Answer::Kind::Amoeba: Append(text, answer.Number); break;
+        case Answer::Kind::Pick: AppendJsonText(text, PiecesText(answer.Pieces)); break;
+        case Answer::Kind::Field: AppendJsonText(text, Concat("field ", answer.Number, " = ", answer.Typed)); break;
+        default: AppendJsonText(text, answer.Text());
     }
 }
 
@@ -214,13 +210,9 @@ void Journal::OnAsk(const Question& question) {
     Append(text_, "}\n");
 }
 
-void Journal::OnAnswer(const Question& /*question*/, std::string_view value, bool accepted) {
+void Journal::OnAnswer(const Question& /*question*/, const Answer& answer, bool accepted) {
     Append(text_, R"({"t":"answer","value":)");
-    if (IsWholeNumber(value)) {
-        Append(text_, value);
-    } else {
-        AppendJsonText(text_, value);
-    }
+    AppendAnswer(text_, answer);
     Append(text_, accepted ? "}\n" : ",\"accepted\":false}\n");
 }
 

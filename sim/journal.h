@@ -22,7 +22,7 @@ public:
     void OnSay(std::string_view line) override;
     void OnBox(std::string_view text) override;
     void OnAsk(const Question& question) override;
-    void OnAnswer(const Question& question, std::string_view value, bool accepted) override;
+    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
     void OnOver() override;
 
 private:

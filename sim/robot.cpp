@@ -3,11 +3,7 @@
 
 #include <algorithm>
 
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 
 namespace plasmos {
 
@@ -16,12 +12,6 @@ namespace {
 constexpr std::uint64_t RobotStream = 77;
 /// After so many tries the robot gives an answer that must be accepted.
 constexpr int Patience = 6;
-
-void ClickSquare(int square) {
-    const int col = (square - 1) % game.NumCols;
-    const int row = (square - 1) / game.NumCols;
-    Picture1_MouseUp(col * SquareUnits + SquareUnits / 2, row * SquareUnits + SquareUnits / 2);
-}
 
 template <class Test>
 std::vector<int> NumbersWhere(int first, int last, Test&& test) {
@@ -48,6 +38,7 @@ int Robot::Below(int n) {
 void Robot::Open(Question& question) {
     open_.push_back(&question);
     attempts_.push_back(0);
+    clicks_ = -1;
 }
 
 void Robot::Close(Question& /*question*/) {
@@ -57,28 +48,25 @@ void Robot::Close(Question& /*question*/) {
 
 void Robot::Wait() {
     ++attempts_.back();
-    Answer(*open_.back());
+    AnswerTop();
 }
 
-void Robot::Answer(Question& question) {
-    switch (question.Kind) {
-        case QuestionKind::YesNo: Chance(3) ? nob_Click() : yesb_Click(); break;
-        case QuestionKind::Square: AnswerSquare(static_cast<SquareQuestion&>(question)); break;
-        case QuestionKind::Number: AnswerNumber(static_cast<AmNumfrm&>(question)); break;
-        case QuestionKind::Amoeba: AnswerAmoeba(static_cast<AmChoicefrm&>(question)); break;
-        case QuestionKind::Food: AnswerFood(static_cast<FoodForm&>(question)); break;
-        case QuestionKind::Victim: AnswerVictim(static_cast<VictimForm&>(question)); break;
-        case QuestionKind::Genes: AnswerGenes(static_cast<GeneForm&>(question)); break;
-        case QuestionKind::Box: static_cast<BoxQuestion&>(question).ok_Click(); break;
-    }
+void Robot::AnswerTop() {
+    Visit(*open_.back(),
+          Overloaded{[this](YesNoQuestion& question) { question.Put(Chance(3) ? NoAnswer() : YesAnswer()); },
+                     [this](SquareQuestion& question) { AnswerSquare(question); },
+                     [this](AmNumfrm& form) { AnswerNumber(form); }, [this](AmChoicefrm& form) { AnswerAmoeba(form); },
+                     [this](FoodForm& form) { AnswerFood(form); }, [this](VictimForm& form) { AnswerVictim(form); },
+                     [this](GeneForm& form) { AnswerGenes(form); }, [](BoxQuestion& box) { box.ok_Click(); }});
 }
 
-void Robot::AnswerSquare(const SquareQuestion& question) {
+void Robot::AnswerSquare(SquareQuestion& question) {
+    const auto click = [&](int square) { question.Put(Numbered(Answer::Kind::Square, square)); };
     switch (Below(12)) {
-        case 0: yesb_Click(); break;
-        case 1: ClickSquare(Below(game.NumSquares) + 1); break;
-        case 2: Picture1_MouseUp(-5, 1000000); break;
-        default: ClickSquare(OneOf(question.Offered)); break;
+        case 0: question.Put(YesAnswer()); break;
+        case 1: click(Below(game.NumSquares) + 1); break;
+        case 2: click(0); break;
+        default: click(OneOf(question.Offered));
     }
 }
 
@@ -207,8 +195,9 @@ void Robot::Adapt(GeneForm& form) {
     }
 }
 
+/// Box by box: the rule carries out each before the next is looked for.
 void Robot::Buy(GeneForm& form) {
-    for (int tries = Below(4); tries > 0; --tries) {
+    for (clicks_ = clicks_ < 0 ? Below(4) : clicks_; clicks_ > 0 && !form.Answered(); --clicks_) {
         const auto offered = NumbersWhere(1, GeneCount, [&](int gene) { return form.gcheck[gene].Enabled; });
         if (Chance(8)) {
             form.gcheck_Click(Below(GeneCount + 2));
@@ -219,7 +208,7 @@ void Robot::Buy(GeneForm& form) {
 }
 
 void Robot::AnswerGenes(GeneForm& form) {
-    if (form.UVdiffVisible) {
+    if (form.Adapts) {
         Adapt(form);
     } else {
         Buy(form);

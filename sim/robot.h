@@ -13,6 +13,7 @@ class AmChoicefrm;
 class AmNumfrm;
 class FoodForm;
 class GeneForm;
+class Question;
 class SquareQuestion;
 class VictimForm;
 
@@ -35,8 +36,8 @@ private:
         return choices[static_cast<std::size_t>(Below(static_cast<int>(choices.size())))];
     }
 
-    void Answer(Question& question);
-    void AnswerSquare(const SquareQuestion& question);
+    void AnswerTop();
+    void AnswerSquare(SquareQuestion& question);
     void AnswerNumber(AmNumfrm& form);
     void AnswerAmoeba(AmChoicefrm& form);
     void AnswerFood(FoodForm& form);
@@ -52,6 +53,7 @@ private:
     Pcg32 generator_;
     std::vector<Question*> open_;
     std::vector<int> attempts_;  ///< how often each open question has been answered
+    int clicks_ = -1;            ///< boxes that are still to be clicked in a shop; -1: it has just opened
 };
 
 }  // namespace plasmos

@@ -56,7 +56,7 @@ protected:
         fs::permissions(Home(), fs::perms(0755));
         game.RequestedClans = 3;
         game.FastMode = true;
-        board_.AnswerBy([](Question& question) { static_cast<BoxQuestion&>(question).ok_Click(); });
+        board_.AnswerBy([](Question& question) { question.Put(Plain(Answer::Kind::Acknowledge)); });
     }
 
     /// What the person is told when a game of computer clans is played with the folder as it is; the

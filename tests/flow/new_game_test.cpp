@@ -189,8 +189,7 @@ TEST_F(NewGameTest, ThePersonPlaysClan3AndWithTwoPersonsClan2Too) {
         game.HasRequestedReplay = true;
         game.RequestedClans = 4;
         ScriptedBoard board;
-        board.AnswerBy(
-            [](Question& question) { Square(static_cast<SquareQuestion&>(question).Offered.front()).Give(question); });
+        board.AnswerBy([](Question& question) { question.Put(question.Allowed().front()); });
         NewGame();
         EXPECT_FALSE(game.Players[3].IsComputer);
         EXPECT_EQ(game.Players[2].IsComputer, !two);
@@ -200,9 +199,8 @@ TEST_F(NewGameTest, ThePersonPlaysClan3AndWithTwoPersonsClan2Too) {
 
 TEST_F(NewGameTest, TheNumberOfClansIsAskedUntilItIsValid) {
     ScriptedBoard board;
-    board.AnswerBy(
-        [](Question& question) { Square(static_cast<SquareQuestion&>(question).Offered.front()).Give(question); });
-    board.Then({CloseIt(), Do("two", [](Question& q) { static_cast<AmNumfrm&>(q).amopt_Click(2); }), Number(5)});
+    board.AnswerBy([](Question& question) { question.Put(question.Allowed().front()); });
+    board.Then({CloseIt(), Do("two", [](Question& q) { q.Put(Numbered(Answer::Kind::Number, 2)); }), Number(5)});
     NewGame();
     EXPECT_EQ(game.NumPlayers, 5);
     ASSERT_GE(board.Questions.size(), 2U);

@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(Phases, PhaseFaults, ::testing::ValuesIn(FaultRows), Ro
 TEST_F(PlayGameTest, AFaultUnderTheDriverIsToldAndTheNextGameWorks) {
     files_.Files["zynames.txt"] = "1 - Only one\n";
     ScriptedBoard board;
-    board.AnswerBy([](Question& question) { static_cast<BoxQuestion&>(question).ok_Click(); });
+    board.AnswerBy([](Question& question) { question.Put(Plain(Answer::Kind::Acknowledge)); });
     PlayUnattended();
     ASSERT_EQ(board.Boxes.size(), 1U);
     EXPECT_THAT(board.Boxes[0], HasSubstr("memory/zynames.txt has 1 names for clan 1 and must have 7"));

@@ -36,7 +36,7 @@ public:
     void OnSay(std::string_view) override {}
     void OnBox(std::string_view text) override { Note(Concat("a box: ", text)); }
     void OnAsk(const Question& question) override { Note("a question: " + question.Text); }
-    void OnAnswer(const Question&, std::string_view, bool) override {}
+    void OnAnswer(const Question&, const Answer&, bool) override {}
     void OnOver() override { ++Overs; }
 
     std::string Fault;  ///< the first one

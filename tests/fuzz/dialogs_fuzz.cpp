@@ -4,10 +4,7 @@
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/services.h"
-#include "questions/ask.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
 #include "rules/new_genes.h"
@@ -28,71 +25,64 @@ public:
 
     void Wait() override {
         Question& question = *open_.back();
-        switch (question.Kind) {
-            case QuestionKind::YesNo: bytes_.AtEnd() || bytes_.Below(4) == 0 ? nob_Click() : yesb_Click(); break;
-            case QuestionKind::Food: Eat(static_cast<FoodForm&>(question)); break;
-            case QuestionKind::Genes: Choose(static_cast<GeneForm&>(question)); break;
-            case QuestionKind::Victim: Pick(static_cast<VictimForm&>(question)); break;
-            default: static_cast<BoxQuestion&>(question).ok_Click(); break;
-        }
+        question.Put(bytes_.AtEnd() ? Plainest(question) : Any(question));
     }
 
 private:
-    void Eat(FoodForm& form) {
-        if (bytes_.AtEnd()) {
-            EatPlainly(form);
-            return;
-        }
+    /// Any answer at all, whether the question has a control for it or not.
+    Answer Any(const Question& question) {
+        using Kind = Answer::Kind;
+        const auto allowed = question.Allowed();
         switch (bytes_.Below(8)) {
             case 0:
-            case 1: form.fdtxt_Change(bytes_.Below(9) - 1, bytes_.Text(45)); break;
-            case 2: form.fdtxt_LostFocus(bytes_.Below(8)); break;
-            case 3: form.paropt_Click(); break;
-            case 4: form.sfsopt_Click(); break;
-            case 5: form.victimb_Click(); break;
-            case 6: form.suggest_Click(); break;
-            default: bytes_.Below(2) == 0 ? form.eatb_Click() : form.Form_Close(); break;
+            case 1:
+            case 2: return allowed[static_cast<std::size_t>(bytes_.Below(static_cast<int>(allowed.size())))];
+            case 3: return TypedInto(Kind::Field, bytes_.Below(9) - 1, bytes_.Text(45));
+            case 4: return TypedInto(Kind::Pay, 0, bytes_.Text(45));
+            case 5: return Numbered(Kind::Tick, bytes_.Below(23) - 1);
+            case 6: return Numbered(Kind::Mark, bytes_.Below(9) - 1);
+            default:
+                return Numbered(static_cast<Kind>(bytes_.Below(static_cast<int>(Kind::Close) + 1)), bytes_.Below(9));
         }
     }
 
-    static void EatPlainly(FoodForm& form) {
-        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-            form.fdtxt_Change(colour, "0");
-        }
+    /// What ends a question in the end: step after step the way out.
+    static Answer Plainest(const Question& question) {
+        using Kind = Answer::Kind;
+        return Visit(question, Overloaded{[](const YesNoQuestion&) { return NoAnswer(); },
+                                          [](const FoodForm& form) { return WayOutOf(form); },
+                                          [](const GeneForm& form) { return WayOutOf(form); },
+                                          [](const Question& other) {
+                                              return other.Kind == QuestionKind::Square ? other.Allowed().front()
+                                                                                        : Plain(Kind::Close);
+                                          }});
+    }
+
+    static Answer WayOutOf(const FoodForm& form) {
         if (form.sfsoptValue) {
-            form.sfsopt_Click();
+            return Plain(Answer::Kind::Struggle);
         }
-        if (form.paroptValue || form.fdtxt[0].Visible) {
-            form.paropt_Click();
+        if (form.paroptValue) {
+            return Plain(Answer::Kind::Parasitism);
         }
-        form.suggest_Click();
-        form.eatb_Click();
+        return form.SuggestedMenu > 0 ? WithAmounts(Answer::Kind::Eat, Suggested(form)) : Plain(Answer::Kind::Starve);
     }
 
-    void Choose(GeneForm& form) {
-        if (bytes_.AtEnd()) {
-            form.resetb_Click();
-            for (int gene = 1; gene <= GeneCount && game.DialogMode == "ENVIRONMENT"; ++gene) {
-                form.gcheck_Click(gene);
+    static std::vector<int> Suggested(const FoodForm& form) {
+        std::vector<int> amounts;
+        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+            amounts.push_back(form.SuggestedAmounts[colour]);
+        }
+        return amounts;
+    }
+
+    static Answer WayOutOf(const GeneForm& form) {
+        for (int gene = 1; form.Adapts && form.UVdiff > 0 && gene <= GeneCount; ++gene) {
+            if (form.gcheck[gene].Ticked && form.gcheck[gene].Enabled) {
+                return Numbered(Answer::Kind::Untick, gene);
             }
-            form.doneb_Click();
-            return;
         }
-        switch (bytes_.Below(5)) {
-            case 0:
-            case 1: form.gcheck_Click(bytes_.Below(23) - 1); break;
-            case 2: form.EnvBP_Change(bytes_.Text(45)); break;
-            case 3: form.resetb_Click(); break;
-            default: form.doneb_Click(); break;
-        }
-    }
-
-    void Pick(VictimForm& form) {
-        form.figure_Click(bytes_.Below(9) - 1);
-        bytes_.Below(3) == 0 ? form.Form_Close() : form.doneb_Click();
-        if (!form.Answered() && bytes_.AtEnd()) {
-            form.Form_Close();
-        }
+        return Plain(Answer::Kind::Done);
     }
 
     Bytes& bytes_;

@@ -92,7 +92,7 @@ TEST_F(Standing, ThePauseComesBeforeTheNextLineIsShown) {
 TEST_F(Standing, ThePauseComesBeforeABoxOpens) {
     Say("First");
     bool open = true;
-    board.OnPause = [&] { open = board.TopQuestion() != nullptr; };
+    board.OnPause = [&] { open = TopQuestion() != nullptr; };
     ShowBox(3, "Look!");
     EXPECT_FALSE(open);
 }

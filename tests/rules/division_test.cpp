@@ -130,8 +130,8 @@ TEST_F(DivisionTest, OnlyTheAmoebaCreatedWhileThereIsNoneIsFree) {
 TEST_F(DivisionTest, ANumberThatIsNotOfferedIsRefused) {
     Begin(4, 12, 2);
     ScriptedBoard board;
-    board.Then({Yes(), Do("seven", [](Question& question) { static_cast<AmNumfrm&>(question).amopt_Click(7); }),
-                Do("minus one", [](Question& question) { static_cast<AmNumfrm&>(question).amopt_Click(-1); }),
+    board.Then({Yes(), Do("seven", [](Question& question) { question.Put(Numbered(Answer::Kind::Number, 7)); }),
+                Do("minus one", [](Question& question) { question.Put(Numbered(Answer::Kind::Number, -1)); }),
                 Number(0)});
     DivisionPhase();
     EXPECT_EQ(game.AmoebaCount[1], 2);

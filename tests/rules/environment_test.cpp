@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "questions/ask.h"
-#include "questions/gene_form.h"
+#include "questions/visit.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/scripted_board.h"
 
@@ -95,7 +95,7 @@ TEST_F(EnvironmentTest, APersonSeesTheDifferenceAndItsBp) {
     game.BP[3] = 7;
     ScriptedBoard board;
     board.Then(Do("look", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         EXPECT_EQ(game.DialogMode, "ENVIRONMENT");
         EXPECT_EQ(form.UVdiff, 2);
         EXPECT_EQ(form.UVdiffColour, 0x0000FF) << "red above 0";
@@ -131,7 +131,7 @@ TEST_F(EnvironmentTest, APersonWithoutBpSeesNoFieldForIt) {
     Give(3, {"int", "lif"});
     ScriptedBoard board;
     board.Then(Do("look", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         EXPECT_FALSE(form.EnvBPVisible);
         EXPECT_FALSE(form.ofLabVisible);
         form.EnvBP_Change("2");
@@ -168,7 +168,7 @@ TEST_P(TypedBP, ChangesTheUvCost) {
     game.BP[3] = 7;
     ScriptedBoard board;
     board.Then(Do("type", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         form.EnvBP_Change(GetParam().Typed);
         EXPECT_EQ(form.EnvBP, GetParam().Field);
         EXPECT_EQ(form.UVdiff, GetParam().Cost);
@@ -204,7 +204,7 @@ TEST_F(EnvironmentTest, RayProtectionCounts4AndLeavesTheClanAboveTheLevel) {
     Give(3, {"spo"});
     ScriptedBoard board;
     board.Then(Do("untick ray", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         EXPECT_EQ(form.UVdiff, 3);
         form.gcheck_Click(GeneId("ray"));
         EXPECT_EQ(form.UVdiff, -1) << "4 less, not 2 more";
@@ -222,7 +222,7 @@ TEST_F(EnvironmentTest, TypedBpAreForgottenByTheNextTickAndCountAgainWithTheNext
     game.BP[3] = 9;
     ScriptedBoard board;
     board.Then(Do("type and tick", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         form.EnvBP_Change("2");
         EXPECT_EQ(form.UVdiff, 4);
         form.gcheck_Click(1);
@@ -242,12 +242,12 @@ TEST_F(EnvironmentTest, DoneWithACostAbove0ShowsTheMessageAndStartsTheChoicesAfr
     game.BP[3] = 2;
     ScriptedBoard board;
     board.Then(Do("done too early", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         form.EnvBP_Change("1");
         form.doneb_Click();
     }));
     board.Then(Do("then rightly", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         EXPECT_EQ(form.UVdiff, 2);
         EXPECT_EQ(form.EnvBP, "0");
         EXPECT_FALSE(form.resetbVisible);
@@ -269,7 +269,7 @@ TEST_F(EnvironmentTest, ResetTicksEveryHeldGeneAgain) {
     game.BP[3] = 5;
     ScriptedBoard board;
     board.Then(Do("reset", [](Question& question) {
-        auto& form = static_cast<GeneForm&>(question);
+        auto& form = *As<GeneForm>(&question);
         form.gcheck_Click(1);
         form.EnvBP_Change("1");
         form.resetb_Click();

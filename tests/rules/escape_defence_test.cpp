@@ -23,7 +23,7 @@ struct DefenceRow {
     std::vector<std::string_view> Genes;
     int BP;
     int Damage;
-    std::vector<Answer> Answers;  ///< none: a computer clan
+    std::vector<Line> Answers;  ///< none: a computer clan
     std::vector<int> Rolls;
     bool BeatenOff;
     int Paid;
@@ -50,7 +50,7 @@ TEST_P(Defence, IsRolled) {
     if (!row.Answers.empty()) {
         Person(2);
     }
-    for (const Answer& answer : row.Answers) {
+    for (const Line& answer : row.Answers) {
         board.Then(answer);
     }
     {

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "questions/food_form.h"
+#include "questions/visit.h"
 #include "rules/feeding.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/scripted_board.h"
@@ -51,7 +51,7 @@ TEST_P(FoodDialog, OpensWhereThereIsSomethingToDecide) {
     row.Set();
     ScriptedBoard board;
     board.AnswerBy([&](Question& question) {
-        auto& form = dynamic_cast<FoodForm&>(question);
+        auto& form = *As<FoodForm>(&question);
         EXPECT_EQ(form.sfsoptEnabled, row.Fights);
         EXPECT_EQ(form.sfsoptVisible, row.Fights);
         EXPECT_EQ(form.paroptEnabled, row.Parasite);
@@ -122,7 +122,7 @@ protected:
 TEST_F(PersonsMeal, IsAskedForInTheseWords) {
     Feed(13, {4, 1, 2, 1});
     board.Then(Do("looks", [](Question& question) {
-        auto& form = dynamic_cast<FoodForm&>(question);
+        auto& form = *As<FoodForm>(&question);
         EXPECT_EQ(form.Square, 13);
         EXPECT_FALSE(form.fdtxt[1].Enabled) << "its own colour";
         for (int colour = 2; colour <= 4; ++colour) {
@@ -244,8 +244,8 @@ TEST_F(PersonsMeal, TheSuggestionTakesTheColoursOfTheHighestScoresFirst) {
 // ---- parasites ----
 
 /// Chooses another host; the alternative is chosen already.
-Answer AnotherHost() {
-    return Do("AnotherHost", [](Question& question) { dynamic_cast<FoodForm&>(question).victimb_Click(); });
+Line AnotherHost() {
+    return Do("AnotherHost", [](Question& question) { question.Put(Plain(Answer::Kind::Victim)); });
 }
 
 class PersonsParasite : public PersonsMeal {
@@ -290,8 +290,8 @@ TEST_F(PersonsParasite, IsToldWhenThereIsNoFurtherHost) {
     std::string told;
     const auto look = Do("look, then eat", [&](Question& question) {
         told = board.Message();
-        dynamic_cast<FoodForm&>(question).fdtxt_Change(2, "1");
-        dynamic_cast<FoodForm&>(question).eatb_Click();
+        question.Put(TypedInto(Answer::Kind::Field, 2, "1"));
+        question.Put(WithAmounts(Answer::Kind::Eat, {}));
     });
     board.Then({Parasitize(), Pick({{4, 1}}), AnotherHost(), Pick({{3, 1}}), AnotherHost(), look});
     FeedAmoeba(13, 1);

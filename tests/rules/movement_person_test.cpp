@@ -18,7 +18,7 @@ struct AttemptRow {
     std::string_view Name;
     std::vector<std::string_view> Genes;
     int BP;
-    std::vector<Answer> Answers;
+    std::vector<Line> Answers;
     std::vector<int> Rolls;
     int Lands;
     int Paid;
@@ -45,7 +45,7 @@ TEST_P(PersonsMove, GoesByTheRules) {
     }
     row.Also();
     ScriptedBoard board;
-    for (const Answer& answer : row.Answers) {
+    for (const Line& answer : row.Answers) {
         board.Then(answer);
     }
     {
@@ -115,7 +115,7 @@ struct SpokenRow {
     std::string_view Name;
     int Drift;
     int Block;  ///< a blocked square; 0: none
-    std::vector<Answer> Answers;
+    std::vector<Line> Answers;
     std::vector<int> Rolls;
     int About;
 };
@@ -144,7 +144,7 @@ TEST_P(OfferSpeaksOf, TheSquareOfTheDrift) {
         SetBoard(5, 5, Concat(row.Block, ":"));
     }
     ScriptedBoard board;
-    for (const Answer& answer : row.Answers) {
+    for (const Line& answer : row.Answers) {
         board.Then(answer);
     }
     Script script(row.Rolls);

@@ -31,7 +31,7 @@ public:
     void OnSay(std::string_view) override {}
     void OnBox(std::string_view) override {}
     void OnAsk(const Question&) override {}
-    void OnAnswer(const Question&, std::string_view, bool) override {}
+    void OnAnswer(const Question&, const Answer&, bool) override {}
     void OnOver() override {}
 
     std::vector<std::string> Steps;

@@ -5,7 +5,7 @@
 #include <rapidcheck.h>
 
 #include "model/consistency.h"
-#include "questions/gene_form.h"
+#include "questions/visit.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/scripted_board.h"
 
@@ -74,7 +74,7 @@ protected:
         game.Turn = 2;
         game.BP[3] = bp;
     }
-    static GeneForm& Form(Question& question) { return static_cast<GeneForm&>(question); }
+    static GeneForm& Form(Question& question) { return *As<GeneForm>(&question); }
 };
 
 TEST_F(NewGenesTest, ThePersonIsAskedWithItsNameAndBp) {
@@ -90,42 +90,62 @@ TEST_F(NewGenesTest, ThePersonIsAskedWithItsNameAndBp) {
 TEST_F(NewGenesTest, BoxesBuyAtOnceAndCanBeTakenBack) {
     Begin(9);
     ScriptedBoard board;
-    board.Then({Yes(), Do("buy and give back", [](Question& question) {
-                    auto& form = Form(question);
-                    EXPECT_EQ(form.BPlabel, "9");
-                    EXPECT_TRUE(form.BPlabelVisible);
-                    form.gcheck_Click(GeneId("spe"));
-                    EXPECT_EQ(game.BP[3], 5);
-                    EXPECT_EQ(form.BPlabel, "5");
-                    EXPECT_EQ(game.Catalogue[4].Supply, 1);
-                    EXPECT_EQ(game.Players[3].MutationLevel, 3);
-                    EXPECT_TRUE(form.gcheck[4].Enabled) << "a purchase of this visit can be undone";
-                    EXPECT_FALSE(form.gcheck[GeneId("sfs")].Enabled) << "6 BP are too much now";
-                    form.gcheck_Click(GeneId("spe"));
-                    EXPECT_EQ(game.BP[3], 9);
-                    EXPECT_EQ(game.Catalogue[4].Supply, 2);
-                    EXPECT_EQ(game.Players[3].MutationLevel, 0);
-                    form.gcheck_Click(GeneId("int"));
-                    form.doneb_Click();
-                    form.gcheck_Click(GeneId("mv1"));
+    board.Then({Yes(),
+                Do("buy",
+                   [](Question& question) {
+                       auto& form = Form(question);
+                       EXPECT_EQ(form.BPlabel, "9");
+                       EXPECT_TRUE(form.BPlabelVisible);
+                       form.gcheck_Click(GeneId("spe"));
+                       EXPECT_EQ(game.BP[3], 9) << "the rule buys, not the click";
+                   }),
+                Do("give back",
+                   [](Question& question) {
+                       auto& form = Form(question);
+                       EXPECT_EQ(game.BP[3], 5);
+                       EXPECT_EQ(form.BPlabel, "5");
+                       EXPECT_EQ(game.Catalogue[4].Supply, 1);
+                       EXPECT_EQ(game.Players[3].MutationLevel, 3);
+                       EXPECT_TRUE(form.gcheck[4].Enabled) << "a purchase of this visit can be undone";
+                       EXPECT_FALSE(form.gcheck[GeneId("sfs")].Enabled) << "6 BP are too much now";
+                       form.gcheck_Click(GeneId("spe"));
+                   }),
+                Do("buy another",
+                   [](Question& question) {
+                       EXPECT_EQ(game.BP[3], 9);
+                       EXPECT_EQ(game.Catalogue[4].Supply, 2);
+                       EXPECT_EQ(game.Players[3].MutationLevel, 0);
+                       Form(question).gcheck_Click(GeneId("int"));
+                       Form(question).gcheck_Click(GeneId("mv1"));
+                   }),
+                Do("done", [](Question& question) {
+                    EXPECT_FALSE(Form(question).gcheck[2].Ticked) << "a click before the rule has bought is ignored";
+                    Form(question).doneb_Click();
+                    EXPECT_EQ(game.DoneFlag, 1);
+                    Form(question).gcheck_Click(GeneId("mv1"));
                 })});
     NewGenesPhase();
     EXPECT_EQ(HeldGenes(3), "int") << "a click after done is ignored";
     EXPECT_EQ(game.BP[3], 7);
+    EXPECT_EQ(game.DoneFlag, 0);
 }
 
 TEST_F(NewGenesTest, WhatWasHeldBeforeCannotBeGivenUpHere) {
     Begin(9);
     Give(3, {"int", "mv1"});
     ScriptedBoard board;
-    board.Then({Yes(), Do("try", [](Question& question) {
-                    auto& form = Form(question);
-                    EXPECT_TRUE(form.gcheck[1].Ticked);
-                    EXPECT_FALSE(form.gcheck[1].Enabled);
-                    form.gcheck_Click(1);
-                    form.gcheck_Click(GeneId("spo"));
-                    EXPECT_FALSE(form.gcheck[1].Enabled);
-                    form.doneb_Click();
+    board.Then({Yes(),
+                Do("try",
+                   [](Question& question) {
+                       auto& form = Form(question);
+                       EXPECT_TRUE(form.gcheck[1].Ticked);
+                       EXPECT_FALSE(form.gcheck[1].Enabled);
+                       form.gcheck_Click(1);
+                       form.gcheck_Click(GeneId("spo"));
+                   }),
+                Do("done", [](Question& question) {
+                    EXPECT_FALSE(Form(question).gcheck[1].Enabled);
+                    Form(question).doneb_Click();
                 })});
     NewGenesPhase();
     EXPECT_EQ(HeldGenes(3), "int mv1 spo");
@@ -135,16 +155,19 @@ TEST_F(NewGenesTest, WhatAnUpgradeDiscardsStaysDiscarded) {
     Begin(12);
     Give(3, "mv1");
     ScriptedBoard board;
-    board.Then({Yes(), Do("upgrade and back", [](Question& question) {
-                    auto& form = Form(question);
-                    form.gcheck_Click(GeneId("mv2"));
-                    EXPECT_FALSE(form.gcheck[2].Ticked) << "the box of the lower gene follows";
-                    EXPECT_FALSE(form.gcheck[2].Enabled);
-                    form.gcheck_Click(GeneId("mv2"));
+    const auto click = [](Question& question) { Form(question).gcheck_Click(GeneId("mv2")); };
+    board.Then({Yes(), Do("upgrade", click),
+                Do("and back",
+                   [&](Question& question) {
+                       EXPECT_FALSE(Form(question).gcheck[2].Ticked) << "the box of the lower gene follows";
+                       EXPECT_FALSE(Form(question).gcheck[2].Enabled);
+                       click(question);
+                   }),
+                Do("done", [](Question& question) {
                     EXPECT_EQ(game.BP[3], 12);
-                    EXPECT_FALSE(form.gcheck[2].Ticked);
-                    EXPECT_TRUE(form.gcheck[2].Enabled) << "it can be bought again";
-                    form.doneb_Click();
+                    EXPECT_FALSE(Form(question).gcheck[2].Ticked);
+                    EXPECT_TRUE(Form(question).gcheck[2].Enabled) << "it can be bought again";
+                    Form(question).doneb_Click();
                 })});
     NewGenesPhase();
     EXPECT_EQ(HeldGenes(3), "");
@@ -169,24 +192,57 @@ TEST_F(NewGenesTest, TheTipOfStreamliningIsWrongInSmallGamesAndThatOfStruggleRig
     EXPECT_EQ(GeneTip(GeneId("sfs")), "6 BP; UV 5");
 }
 
+/// Clicks boxes one after the other, and looks at the books after each; then it is done.
+class Shopper {
+public:
+    explicit Shopper(std::vector<int> clicks) : clicks_(std::move(clicks)) {}
+
+    void operator()(Question& question) {
+        auto* form = As<GeneForm>(&question);
+        if (form == nullptr) {
+            question.Put(YesAnswer());
+            return;
+        }
+        Look();
+        while (next_ < clicks_.size() && !form->Answered()) {
+            gene_ = clicks_[next_++];
+            const bool real = gene_ >= 1 && gene_ <= GeneCount;
+            held_ = real && game.Genes[gene_][3];
+            changes_ = real && (held_ || CanBuyGene(3, gene_));
+            form->gcheck_Click(gene_);
+            Sound = Sound && form->Answered() == changes_;
+        }
+        form->doneb_Click();
+    }
+
+    bool Sound = true;
+
+private:
+    void Look() {
+        const bool real = gene_ >= 1 && gene_ <= GeneCount;
+        Sound = Sound && game.BP[3] >= 0 && (real && game.Genes[gene_][3]) == (held_ != changes_) &&
+                CheckConsistency().empty();
+    }
+
+    std::vector<int> clicks_;
+    std::size_t next_ = 0;
+    int gene_ = 0;
+    bool held_ = false;
+    bool changes_ = false;
+};
+
 TEST_F(NewGenesTest, AnySequenceOfClicksKeepsTheBooks) {
     EXPECT_TRUE(rc::check([] {
         NewPosition(*rc::gen::inRange(3, 7));
         Person(3);
         const int bp = *rc::gen::inRange(2, 40);
         game.BP[3] = bp;
-        game.CurPlayer = 3;
-        GeneForm form(3, "");
-        form.PrepareNewGenes();
-        for (const int gene : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 22))) {
-            const bool real = gene >= 1 && gene <= GeneCount;
-            const bool heldBefore = real && game.Genes[gene][3];
-            const bool changes = real && (heldBefore || CanBuyGene(3, gene));
-            form.gcheck_Click(gene);
-            RC_ASSERT(game.BP[3] >= 0);
-            RC_ASSERT((real && game.Genes[gene][3]) == (heldBefore != changes));
-            RC_ASSERT(CheckConsistency().empty());
-        }
+        Shopper shopper(*rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 22)));
+        ScriptedBoard board;
+        board.AnswerBy(std::ref(shopper));
+        NewGenesPhase();
+        RC_ASSERT(shopper.Sound);
+        RC_ASSERT(board.WasAsked(QuestionKind::Genes));
         int value = game.BP[3];
         for (int gene = 1; gene <= GeneCount; ++gene) {
             value += game.Genes[gene][3] ? game.Catalogue[gene].Cost : 0;

@@ -58,7 +58,7 @@ protected:
         game.CurPlayer = game.CurAmoeba = 1;
         game.BP[1] = game.BP[2] = 3;
         ScriptedBoard board;
-        board.AnswerBy(Pick({{2, 1}}).Give);
+        board.AnswerBy([](Question& question) { question.Put(WithPieces(Answer::Kind::Pick, {{2, 1}})); });
         Script script(row.Rolls);
         row.Happens();
         ClearMessage();
@@ -153,10 +153,10 @@ protected:
         game.BP[2] = 3;
     }
     /// Says no and remembers what stood in the message line.
-    Answer LookAndRefuse() {
+    Line LookAndRefuse() {
         return Do("LookAndRefuse", [this](Question& question) {
             Shown.push_back(board.Message());
-            No().Give(question);
+            question.Put(NoAnswer());
         });
     }
 

@@ -1,164 +1,123 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "model/game_state.h"
 #include "model/genes.h"
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 #include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
 
 namespace {
 
-[[noreturn]] void RaiseUnfit(const std::string& answer, const Question& question) {
-    throw ScriptError(Concat("the answer ", answer, " does not fit a question of the kind ",
-                             QuestionKindName(question.Kind), " to clan ", question.Clan, ": \"", question.Text, "\""));
+using Kind = Answer::Kind;
+
+bool IsOneOf(Kind kind, std::initializer_list<Kind> kinds) {
+    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
-/// An answer for one kind of question; every other question is a fault of the script.
-template <class Form, class Act>
-Answer AnswerTo(const std::string& name, Act act) {
-    return {name, [name, act](Question& question) {
-                auto* form = dynamic_cast<Form*>(&question);
-                if (form == nullptr) {
-                    RaiseUnfit(name, question);
-                }
-                act(*form);
-            }};
-}
-
-int FigureIndex(const VictimForm& form, const Figure& wanted) {
-    for (std::size_t i = 0; i < form.Figures.size(); ++i) {
-        if (form.Figures[i].Clan == wanted.Clan && form.Figures[i].Amoeba == wanted.Amoeba) {
-            return static_cast<int>(i);
-        }
+/// Whether a question of a kind has a control for an answer. Yes is no square, though the rules look at it.
+bool Belongs(Kind kind, QuestionKind question) {
+    switch (question) {
+        case QuestionKind::YesNo: return IsOneOf(kind, {Kind::Yes, Kind::No});
+        case QuestionKind::Square: return kind == Kind::Square;
+        case QuestionKind::Number: return IsOneOf(kind, {Kind::Number, Kind::Close});
+        case QuestionKind::Amoeba: return IsOneOf(kind, {Kind::Amoeba, Kind::Nobody, Kind::Close});
+        case QuestionKind::Food: return (kind >= Kind::Field && kind <= Kind::CarryNothing) || kind == Kind::Close;
+        case QuestionKind::Victim:
+            return IsOneOf(kind, {Kind::Mark, Kind::LookAway, Kind::Pick, Kind::Done, Kind::Close});
+        case QuestionKind::Genes: return (kind >= Kind::Tick && kind <= Kind::Done) || kind == Kind::Close;
+        case QuestionKind::Box: return IsOneOf(kind, {Kind::Acknowledge, Kind::Close});
     }
-    RaiseUnfit(Concat("Pick(", wanted.Clan, ",", wanted.Amoeba, ")"), form);
+    return false;
+}
+
+Line One(const Answer& answer) {
+    return {answer.Text(), {answer}, {}};
 }
 
 }  // namespace
 
-Answer Yes() {
-    return AnswerTo<YesNoQuestion>("Yes", [](YesNoQuestion&) { yesb_Click(); });
+void PutFitting(const Answer& answer, Question& question) {
+    if (!Belongs(answer.What, question.Kind)) {
+        throw ScriptError(Concat("the answer \"", answer.Text(), "\" does not fit a question of the kind ",
+                                 QuestionKindName(question.Kind), " to clan ", question.Clan, ": \"", question.Text,
+                                 "\""));
+    }
+    question.Put(answer);
 }
 
-Answer No() {
-    return AnswerTo<YesNoQuestion>("No", [](YesNoQuestion&) { nob_Click(); });
+Line Yes() {
+    return One(YesAnswer());
 }
 
-Answer Square(int square) {
-    return AnswerTo<SquareQuestion>(Concat("Square(", square, ")"), [square](SquareQuestion&) {
-        const int col = (square - 1) % game.NumCols;
-        const int row = (square - 1) / game.NumCols;
-        Picture1_MouseUp(col * SquareUnits + SquareUnits / 2, row * SquareUnits + SquareUnits / 2);
-    });
+Line No() {
+    return One(NoAnswer());
 }
 
-Answer ClickAt(int x, int y) {
-    return AnswerTo<SquareQuestion>(Concat("ClickAt(", x, ",", y, ")"),
-                                    [x, y](SquareQuestion&) { Picture1_MouseUp(x, y); });
+Line Square(int square) {
+    return One(Numbered(Kind::Square, square));
 }
 
-Answer Ok() {
-    return AnswerTo<BoxQuestion>("Ok", [](BoxQuestion& box) { box.ok_Click(); });
+Line ClickAt(int x, int y) {
+    return Do(Concat("ClickAt(", x, ",", y, ")"), [x, y](Question&) { Picture1_MouseUp(x, y); });
 }
 
-Answer Number(int number) {
-    return AnswerTo<AmNumfrm>(Concat("Number(", number, ")"), [number](AmNumfrm& form) { form.amopt_Click(number); });
+Line Ok() {
+    return One(Plain(Kind::Acknowledge));
 }
 
-Answer Amoeba(int amoeba) {
-    return AnswerTo<AmChoicefrm>(Concat("Amoeba(", amoeba, ")"),
-                                 [amoeba](AmChoicefrm& form) { form.amopt_Click(amoeba); });
+Line Number(int number) {
+    return One(Numbered(Kind::Number, number));
 }
 
-Answer Nobody() {
-    return AnswerTo<AmChoicefrm>("Nobody", [](AmChoicefrm& form) { form.amoptb_Click(); });
+Line Amoeba(int amoeba) {
+    return One(Numbered(Kind::Amoeba, amoeba));
 }
 
-Answer Eat(std::vector<int> amounts) {
-    return AnswerTo<FoodForm>("Eat", [amounts = std::move(amounts)](FoodForm& form) {
-        for (std::size_t i = 0; i < amounts.size(); ++i) {
-            form.fdtxt_Change(static_cast<int>(i) + 1, Concat(amounts[i]));
-        }
-        form.eatb_Click();
-    });
+Line Nobody() {
+    return One(Plain(Kind::Nobody));
 }
 
-Answer EatSuggested() {
-    return AnswerTo<FoodForm>("EatSuggested", [](FoodForm& form) {
-        form.suggest_Click();
-        form.eatb_Click();
-    });
+Line Eat(std::vector<int> amounts) {
+    return One(WithAmounts(Kind::Eat, std::move(amounts)));
 }
 
-Answer Parasitize() {
-    return AnswerTo<FoodForm>("Parasitize", [](FoodForm& form) {
-        form.paropt_Click();
-        form.victimb_Click();
-    });
+Line EatSuggested() {
+    return {"EatSuggested", {Plain(Kind::Suggestion), WithAmounts(Kind::Eat, {})}, {}};
 }
 
-Answer Struggle() {
-    return AnswerTo<FoodForm>("Struggle", [](FoodForm& form) {
-        form.sfsopt_Click();
-        form.victimb_Click();
-    });
+Line Parasitize() {
+    return {"Parasitize", {Plain(Kind::Parasitism), Plain(Kind::Victim)}, {}};
 }
 
-Answer Pick(std::vector<Figure> figures) {
-    return AnswerTo<VictimForm>("Pick", [figures = std::move(figures)](VictimForm& form) {
-        for (const Figure& figure : figures) {
-            form.figure_Click(FigureIndex(form, figure));
-        }
-        if (figures.empty()) {
-            form.Form_Close();
-        } else {
-            form.doneb_Click();
-        }
-    });
+Line Struggle() {
+    return {"Struggle", {Plain(Kind::Struggle), Plain(Kind::Victim)}, {}};
 }
 
-Answer Genes(std::vector<std::string> codes, std::string bp) {
-    return AnswerTo<GeneForm>("Genes", [codes = std::move(codes), bp = std::move(bp)](GeneForm& form) {
-        for (const std::string& code : codes) {
-            form.gcheck_Click(GeneNumber(code));
-        }
-        if (!bp.empty()) {
-            form.EnvBP_Change(bp);
-        }
-        form.doneb_Click();
-    });
+Line Pick(std::vector<Answer::Piece> pieces) {
+    return One(WithPieces(Kind::Pick, std::move(pieces)));
 }
 
-Answer CloseIt() {
-    return {"CloseIt", [](Question& question) {
-                if (auto* number = dynamic_cast<AmNumfrm*>(&question)) {
-                    number->Form_Close();
-                } else if (auto* choice = dynamic_cast<AmChoicefrm*>(&question)) {
-                    choice->Form_Close();
-                } else if (auto* food = dynamic_cast<FoodForm*>(&question)) {
-                    food->Form_Close();
-                } else if (auto* victim = dynamic_cast<VictimForm*>(&question)) {
-                    victim->Form_Close();
-                } else if (auto* genes = dynamic_cast<GeneForm*>(&question)) {
-                    genes->Form_Close();
-                } else if (auto* box = dynamic_cast<BoxQuestion*>(&question)) {
-                    box->ok_Click();
-                } else {
-                    RaiseUnfit("CloseIt", question);
-                }
-            }};
+Line Genes(const std::vector<std::string>& codes, const std::string& bp) {
+    Line line{"Genes", {}, {}};
+    for (const std::string& code : codes) {
+        line.Answers.push_back(Numbered(Kind::Tick, GeneNumber(code)));
+    }
+    if (!bp.empty()) {
+        line.Answers.push_back(TypedInto(Kind::Pay, 0, bp));
+    }
+    line.Answers.push_back(Plain(Kind::Done));
+    return line;
 }
 
-Answer EndTheProgram() {
-    return {"EndTheProgram", [](Question&) { throw ProgramEnd{}; }};
+Line CloseIt() {
+    return One(Plain(Kind::Close));
 }
 
-Answer Do(std::string name, std::function<void(Question&)> give) {
-    return {std::move(name), std::move(give)};
+Line EndTheProgram() {
+    return Do("EndTheProgram", [](Question&) { throw ProgramEnd{}; });
+}
+
+Line Do(std::string name, std::function<void(Question&)> act) {
+    return {std::move(name), {}, std::move(act)};
 }
 
 }  // namespace plasmos::testing

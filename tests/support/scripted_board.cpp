@@ -7,11 +7,7 @@
 
 #include "model/game_state.h"
 #include "model/services.h"
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 
 namespace plasmos::testing {
 
@@ -25,17 +21,6 @@ std::string Describe(const Question& question) {
                   question.Text, "\"");
 }
 
-template <class Options>
-std::vector<int> EnabledOptions(const Options& options) {
-    std::vector<int> enabled;
-    for (int k = 0; k <= 7; ++k) {
-        if (options[k].Visible && options[k].Enabled) {
-            enabled.push_back(k);
-        }
-    }
-    return enabled;
-}
-
 std::vector<int> MarkableFigures(const VictimForm& form) {
     std::vector<int> figures;
     for (const VictimFigure& figure : form.Figures) {
@@ -46,34 +31,36 @@ std::vector<int> MarkableFigures(const VictimForm& form) {
     return figures;
 }
 
-std::vector<int> EnabledBoxes(const GeneForm& form) {
-    std::vector<int> genes;
-    for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (form.gcheck[gene].Enabled) {
-            genes.push_back(gene);
+/// The numbers of the answers that are of one of two kinds.
+std::vector<int> AllowedNumbers(const Question& question, Answer::Kind kind, Answer::Kind other) {
+    std::vector<int> numbers;
+    for (const Answer& answer : question.Allowed()) {
+        if (answer.What == kind || answer.What == other) {
+            numbers.push_back(answer.Number);
         }
     }
-    return genes;
+    return numbers;
+}
+
+std::vector<int> OfferedBy(const Question& question) {
+    const auto numbers = [](Answer::Kind kind) {
+        return [kind](const Question& asked) { return AllowedNumbers(asked, kind, kind); };
+    };
+    switch (question.Kind) {
+        case QuestionKind::Square: return numbers(Answer::Kind::Square)(question);
+        case QuestionKind::Number: return numbers(Answer::Kind::Number)(question);
+        case QuestionKind::Amoeba: return numbers(Answer::Kind::Amoeba)(question);
+        case QuestionKind::Genes: return AllowedNumbers(question, Answer::Kind::Tick, Answer::Kind::Untick);
+        default: break;
+    }
+    const auto* victims = As<const VictimForm>(&question);
+    return victims != nullptr ? MarkableFigures(*victims) : std::vector<int>();
 }
 
 Asked Remember(const Question& question) {
-    Asked asked{question.Kind, question.Clan, question.Text, {}, {}};
-    if (const auto* square = dynamic_cast<const SquareQuestion*>(&question)) {
-        asked.Offered = square->Offered;
-    } else if (const auto* yesNo = dynamic_cast<const YesNoQuestion*>(&question)) {
+    Asked asked{question.Kind, question.Clan, question.Text, OfferedBy(question), std::string(question.ModeName())};
+    if (const auto* yesNo = As<const YesNoQuestion>(&question)) {
         asked.About = yesNo->About;
-    } else if (const auto* number = dynamic_cast<const AmNumfrm*>(&question)) {
-        asked.Offered = EnabledOptions(number->amopt);
-    } else if (const auto* choice = dynamic_cast<const AmChoicefrm*>(&question)) {
-        asked.Offered = EnabledOptions(choice->amopt);
-    } else if (const auto* victim = dynamic_cast<const VictimForm*>(&question)) {
-        asked.Offered = MarkableFigures(*victim);
-        asked.Mode = std::string(victim->Mode);
-    } else if (const auto* genes = dynamic_cast<const GeneForm*>(&question)) {
-        asked.Offered = EnabledBoxes(*genes);
-        asked.Mode = std::string(game.DialogMode);
-    } else if (const auto* food = dynamic_cast<const FoodForm*>(&question)) {
-        asked.Mode = std::string(food->Mode);
     }
     return asked;
 }
@@ -95,13 +82,13 @@ ScriptedBoard::~ScriptedBoard() {
     }
 }
 
-ScriptedBoard& ScriptedBoard::Then(Answer answer) {
-    script_.push_back(std::move(answer));
+ScriptedBoard& ScriptedBoard::Then(Line line) {
+    script_.push_back(std::move(line));
     return *this;
 }
 
-ScriptedBoard& ScriptedBoard::Then(std::initializer_list<Answer> answers) {
-    script_.insert(script_.end(), answers.begin(), answers.end());
+ScriptedBoard& ScriptedBoard::Then(std::initializer_list<Line> lines) {
+    script_.insert(script_.end(), lines.begin(), lines.end());
     return *this;
 }
 
@@ -160,16 +147,19 @@ void ScriptedBoard::Wait() {
         Fail("no answer is good enough for " + Describe(question));
     }
     if (dismissBoxes_ && question.Kind == QuestionKind::Box) {
-        static_cast<BoxQuestion&>(question).ok_Click();
+        question.Put(Plain(Answer::Kind::Acknowledge));
         return;
     }
     if (!script_.empty()) {
-        const Answer answer = std::move(script_.front());
+        Line line = std::move(script_.front());
         script_.pop_front();
         try {
-            answer.Give(question);
+            Follow(line, question);
         } catch (const ScriptError& error) {
             Fail(error.what());
+        }
+        if (!line.Answers.empty()) {
+            script_.push_front(std::move(line));
         }
         return;
     }
@@ -177,6 +167,18 @@ void ScriptedBoard::Wait() {
         Fail("nobody expected " + Describe(question));
     }
     policy_(question);
+}
+
+void ScriptedBoard::Follow(Line& line, Question& question) {
+    if (line.Act) {
+        line.Act(question);
+        return;
+    }
+    auto next = line.Answers.begin();
+    do {
+        PutFitting(*next++, question);
+    } while (next != line.Answers.end() && !question.Answered());
+    line.Answers.erase(line.Answers.begin(), next);
 }
 
 void ScriptedBoard::Fail(const std::string& text) {

@@ -18,51 +18,50 @@ struct ScriptError : std::logic_error {
     using std::logic_error::logic_error;
 };
 
-/// One answer of a person: a name for messages and what is done to the open question.
-struct Answer {
+/// A line of the script: a name for messages, and the answers that are put to the question that is open then. Where
+/// the rule has to look at one of them first, the rest follow when it waits again. Or something else that is done.
+struct Line {
     std::string Name;
-    std::function<void(Question&)> Give;
+    std::vector<Answer> Answers;
+    std::function<void(Question&)> Act;
 };
+
+/// Puts an answer to a question that has a control for it; another question is a fault of the script.
+void PutFitting(const Answer& answer, Question& question);
 
 // ---- answers in the message line ----
-Answer Yes();
-Answer No();
-/// A click into the middle of a square.
-Answer Square(int square);
+Line Yes();
+Line No();
+Line Square(int square);
 /// A click at a point in board units.
-Answer ClickAt(int x, int y);
+Line ClickAt(int x, int y);
 /// The OK of a message box.
-Answer Ok();
+Line Ok();
 
 // ---- answers in dialogs ----
-Answer Number(int number);
+Line Number(int number);
 /// A piece of the asked clan by its slot.
-Answer Amoeba(int amoeba);
+Line Amoeba(int amoeba);
 /// "None": the pick of an amoeba is withdrawn.
-Answer Nobody();
-/// Types amounts for the colours 1, 2, ... and presses eatb ("Eat" or "Starve").
-Answer Eat(std::vector<int> amounts);
+Line Nobody();
+/// Amounts for the colours 1, 2, ... and eatb ("Eat", "Starve" or "Carry").
+Line Eat(std::vector<int> amounts);
 /// Takes the suggestion and presses eatb.
-Answer EatSuggested();
+Line EatSuggested();
 /// Chooses the parasite's or the fighter's way and presses victimb.
-Answer Parasitize();
-Answer Struggle();
-/// A figure of the victim dialog: clan and slot.
-struct Figure {
-    int Clan;
-    int Amoeba;
-};
-/// Marks figures and presses "done". Without figures it closes the window: the pick of nothing.
-Answer Pick(std::vector<Figure> figures);
+Line Parasitize();
+Line Struggle();
+/// Marks pieces and presses "done". Without any: the pick of nothing.
+Line Pick(std::vector<Answer::Piece> pieces);
 /// Clicks boxes of the gene dialog by code ("mv1"), types BP when they are not "", presses "done".
-Answer Genes(std::vector<std::string> codes, std::string bp = "");
+Line Genes(const std::vector<std::string>& codes, const std::string& bp = "");
 /// Closes the dialog's window, or the message box.
-Answer CloseIt();
+Line CloseIt();
 
-// ---- answers of any kind ----
+// ---- lines of any kind ----
 /// The person closes the game's window in the middle of the question.
-Answer EndTheProgram();
-Answer Do(std::string name, std::function<void(Question&)> give);
+Line EndTheProgram();
+Line Do(std::string name, std::function<void(Question&)> act);
 
 /// A question as it was asked.
 struct Asked {
@@ -85,8 +84,8 @@ public:
     ~ScriptedBoard() override;
 
     /// Adds answers at the end of the script.
-    ScriptedBoard& Then(Answer answer);
-    ScriptedBoard& Then(std::initializer_list<Answer> answers);
+    ScriptedBoard& Then(Line line);
+    ScriptedBoard& Then(std::initializer_list<Line> lines);
     /// Answers what the script does not.
     void AnswerBy(std::function<void(Question&)> policy) { policy_ = std::move(policy); }
     /// Message boxes are dismissed without a line in the script. True at first.
@@ -94,8 +93,6 @@ public:
     /// Takes back what would fail the test at the end: the failure met, and answers left over.
     std::string ForgiveFailure();
     bool ScriptIsUsedUp() const { return script_.empty(); }
-    /// The question on top; none: nullptr.
-    Question* TopQuestion() const { return open_.empty() ? nullptr : open_.back(); }
 
     std::vector<Asked> Questions;       ///< without message boxes
     std::vector<std::string> Boxes;     ///< texts of message boxes
@@ -125,7 +122,9 @@ public:
 private:
     [[noreturn]] void Fail(const std::string& text);
 
-    std::deque<Answer> script_;
+    void Follow(Line& line, Question& question);
+
+    std::deque<Line> script_;
     std::function<void(Question&)> policy_;
     std::vector<Question*> open_;
     std::string message_;

@@ -5,11 +5,7 @@
 
 #include "files/text.h"
 #include "model/game_state.h"
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/palette.h"
 #include "ui/look/piece_layout.h"
@@ -60,14 +56,15 @@ AutoPerson::Touch AutoPerson::NextForFood(FoodForm& form) {
 
 // Genes are bought one by one while they are cheap; in the other mode the dearest is given up first.
 AutoPerson::Touch AutoPerson::NextForGenes(GeneForm& form) {
-    const bool adapting = game.DialogMode == "ENVIRONMENT";
+    const bool adapting = form.Adapts;
+    hasShopped_ = !adapting;
     if (last_.rfind("gcheck", 0) != 0) {
         gene_ = adapting ? GeneCount + 1 : 0;
     }
     const bool enough = adapting ? form.UVdiff <= 0 : game.BP[form.Clan] < 5;
     for (gene_ += adapting ? -1 : 1; !enough && gene_ >= 1 && gene_ <= GeneCount; gene_ += adapting ? -1 : 1) {
         if (form.gcheck[gene_].Enabled && form.gcheck[gene_].Ticked == adapting) {
-            return At(Concat("gcheck", gene_), false);
+            return At(Concat("gcheck", gene_), !adapting);
         }
     }
     return At("doneb", true);
@@ -83,32 +80,28 @@ AutoPerson::Touch AutoPerson::NextForVictim(VictimForm& form) {
 }
 
 AutoPerson::Touch AutoPerson::Next(Question& question) {
-    switch (question.Kind) {
-        case QuestionKind::YesNo:
-            // Moves are declined twice out of three times, everything else is welcome.
-            return At(game.Turn > 0 && game.DialogMode.empty() && ++turns_ % 3 != 0 ? "nob" : "yesb", true);
-        case QuestionKind::Square: {
-            const auto& offered = static_cast<SquareQuestion&>(question).Offered;
-            return AtSquare(offered[static_cast<std::size_t>(++turns_) % offered.size()]);
-        }
-        case QuestionKind::Number: {
-            const auto& form = static_cast<AmNumfrm&>(question);
-            return At(Concat("amopt", HighestEnabled(form.amopt, question.Clan == 0 ? 4 : 2)), true);
-        }
-        case QuestionKind::Amoeba: {
-            const int amoeba = HighestEnabled(static_cast<AmChoicefrm&>(question).amopt, 7);
-            return At(amoeba > 0 ? Concat("amopt", amoeba) : "amoptb", true);
-        }
-        case QuestionKind::Food: return NextForFood(static_cast<FoodForm&>(question));
-        case QuestionKind::Victim: return NextForVictim(static_cast<VictimForm&>(question));
-        case QuestionKind::Genes: return NextForGenes(static_cast<GeneForm&>(question));
-        case QuestionKind::Box: break;
-    }
-    return At("okb", true);
+    return Visit(
+        question,
+        Overloaded{
+            // Two offers out of three are declined, until the clan has been to the shop.
+            [&](YesNoQuestion& form) {
+                return At(form.Clan > 0 && game.Turn > 0 && !hasShopped_ && ++turns_ % 3 != 0 ? "nob" : "yesb", true);
+            },
+            [&](SquareQuestion& form) {
+                return AtSquare(form.Offered[static_cast<std::size_t>(++turns_) % form.Offered.size()]);
+            },
+            [&](AmNumfrm& form) {
+                return At(Concat("amopt", HighestEnabled(form.amopt, form.Clan == 0 ? 4 : 2)), true);
+            },
+            [&](AmChoicefrm& form) {
+                const int amoeba = HighestEnabled(form.amopt, 7);
+                return At(amoeba > 0 ? Concat("amopt", amoeba) : "amoptb", true);
+            },
+            [&](FoodForm& form) { return NextForFood(form); }, [&](VictimForm& form) { return NextForVictim(form); },
+            [&](GeneForm& form) { return NextForGenes(form); }, [&](BoxQuestion&) { return At("okb", true); }});
 }
 
 void AutoPerson::Answer(Question& question) {
-    last_.clear();
     bool more = true;
     while (more) {
         const Touch touch = Next(question);

@@ -22,13 +22,13 @@ public:
     struct Touch {
         QWidget* Control;
         QPoint Point;
-        bool Last;  ///< the question may be answered with it
+        bool Last;  ///< the rule looks at it, or the question is answered with it
     };
 
     explicit AutoPerson(UBoard& board) : board_(board), hand_(&ownHand_) {}
     AutoPerson(UBoard& board, Hand& hand) : board_(board), hand_(&hand) {}
 
-    /// Presses until the question may be answered.
+    /// Presses until the rule looks; it asks again when there is more to do.
     void Answer(Question& question);
     /// The next press for the question as it stands now; no control: there is none to press.
     Touch Next(Question& question);
@@ -49,6 +49,7 @@ private:
     std::string last_;  ///< the control that was last to be pressed
     int gene_ = 0;      ///< the gene that was looked at last
     int turns_ = 0;
+    bool hasShopped_ = false;  ///< since it last had to adapt
 };
 
 }  // namespace plasmos

@@ -22,14 +22,14 @@ protected:
     bool hitButton(const QPoint& point) const override { return rect().contains(point); }
 };
 
-QString TitleOf() {
-    return game.DialogMode == "ENVIRONMENT" ? QStringLiteral("Adapt to the UV level") : QStringLiteral("Buy new genes");
+QString TitleOf(const GeneForm& form) {
+    return form.Adapts ? QStringLiteral("Adapt to the UV level") : QStringLiteral("Buy new genes");
 }
 
 }  // namespace
 
 GenePanel::GenePanel(QWidget* parent, GeneForm& form)
-    : QuestionPanel(parent, form, TitleOf()),
+    : QuestionPanel(parent, form, TitleOf(form)),
       form_(form),
       text_(MakeText(this, "genelab", 12)),
       payLabel_(MakeText(this, "payLab", 13)),

@@ -7,11 +7,7 @@
 #include <algorithm>
 
 #include "model/presentation.h"
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 #include "ui/dialogs/choice_panels.h"
 #include "ui/dialogs/food_panel.h"
 #include "ui/dialogs/gene_panel.h"
@@ -212,17 +208,15 @@ bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
 namespace {
 
 std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
-    switch (question.Kind) {
-        case QuestionKind::Number: return std::make_unique<NumberPanel>(parent, static_cast<AmNumfrm&>(question));
-        case QuestionKind::Amoeba: return std::make_unique<AmoebaPanel>(parent, static_cast<AmChoicefrm&>(question));
-        case QuestionKind::Food: return std::make_unique<FoodPanel>(parent, static_cast<FoodForm&>(question));
-        case QuestionKind::Victim: return std::make_unique<VictimPanel>(parent, static_cast<VictimForm&>(question));
-        case QuestionKind::Genes: return std::make_unique<GenePanel>(parent, static_cast<GeneForm&>(question));
-        case QuestionKind::Box: return std::make_unique<BoxPanel>(parent, static_cast<BoxQuestion&>(question));
-        case QuestionKind::YesNo:
-        case QuestionKind::Square: break;
-    }
-    return nullptr;
+    using Panel = std::unique_ptr<QuestionPanel>;
+    return Visit(question,
+                 Overloaded{[](YesNoQuestion&) { return Panel(); }, [](SquareQuestion&) { return Panel(); },
+                            [&](AmNumfrm& form) -> Panel { return std::make_unique<NumberPanel>(parent, form); },
+                            [&](AmChoicefrm& form) -> Panel { return std::make_unique<AmoebaPanel>(parent, form); },
+                            [&](FoodForm& form) -> Panel { return std::make_unique<FoodPanel>(parent, form); },
+                            [&](VictimForm& form) -> Panel { return std::make_unique<VictimPanel>(parent, form); },
+                            [&](GeneForm& form) -> Panel { return std::make_unique<GenePanel>(parent, form); },
+                            [&](BoxQuestion& box) -> Panel { return std::make_unique<BoxPanel>(parent, box); }});
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include "files/runtime_error.h"
 #include "model/game_state.h"
-#include "questions/ask.h"
+#include "questions/visit.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/score_track.h"
 #include "ui/dialogs/question_panel.h"
@@ -112,14 +112,14 @@ void UBoard::ActivateTop(Qt::FocusReason reason) {
         }
     }
     Question* top = TopQuestion();
-    const bool square = top != nullptr && top->Kind == QuestionKind::Square;
-    strip_->Question->ShowHint(square ? QStringLiteral("Click one of the glowing squares.") : QString());
-    track_->Puddle()->SetOffered(square ? static_cast<SquareQuestion*>(top)->Offered : std::vector<int>());
-    const bool yesNo = top != nullptr && top->Kind == QuestionKind::YesNo;
-    track_->Puddle()->SetSpokenOf(yesNo ? static_cast<YesNoQuestion*>(top)->About : 0);
+    const auto* square = As<SquareQuestion>(top);
+    strip_->Question->ShowHint(square != nullptr ? QStringLiteral("Click one of the glowing squares.") : QString());
+    track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
+    const auto* yesNo = As<YesNoQuestion>(top);
+    track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
     strip_->SetPanels(panels);
-    strip_->Question->AskYesNo(yesNo);
-    if (square) {
+    strip_->Question->AskYesNo(yesNo != nullptr);
+    if (square != nullptr) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {
         asked_.back().Panel->FirstControl()->setFocus(reason);

@@ -50,12 +50,11 @@ void BoardAnswersTest::yesIsNoSquare() {
     scene.Then(QuestionKind::Square, [&] {
         yesb_Click();
         QCOMPARE(game.Reply, ReplyYes);
-        QTimer::singleShot(200, &scene.Board(), [&] {
-            QVERIFY2(scene.Board().TopQuestion() != nullptr, "Yes was taken for a square");
-            QVERIFY(game.WantSquare);
-            QCOMPARE(game.Reply, -1);
-            scene.ClickSquare(8);
-        });
+    });
+    scene.Then(QuestionKind::Square, [&] {
+        QVERIFY(game.WantSquare);
+        QCOMPARE(game.Reply, -1);
+        scene.ClickSquare(8);
     });
     PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 8}), 8));
     QVERIFY(!game.WantSquare);
@@ -136,6 +135,8 @@ void BoardAnswersTest::squaresByTheKeyboard() {
             scene.Key(QStringLiteral("Picture1"), key);
         }
         scene.Key(QStringLiteral("Picture1"), Qt::Key_Return);
+    });
+    scene.Then(QuestionKind::Square, [&] {
         scene.Key(QStringLiteral("Picture1"), Qt::Key_Right);
         scene.Key(QStringLiteral("Picture1"), Qt::Key_Space);
     });

@@ -46,6 +46,9 @@ void DialogsBuyingTest::buysAndGivesBack() {
         QVERIFY(!scene.Sees(QStringLiteral("UVdiff")) && !scene.Sees(QStringLiteral("EnvBP")));
         QVERIFY(!scene.Sees(QStringLiteral("resetb")));
         scene.Click(Box("spo"));
+        QCOMPARE(game.BP[3], 8);
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QCOMPARE(scene.Text(QStringLiteral("BPlabel")), QStringLiteral("5"));
         QCOMPARE(scene.Text(QStringLiteral("bplab2")), QStringLiteral("5"));
         QCOMPARE(game.Catalogue[GeneNumber("spo")].Supply, supply - 1);
@@ -53,12 +56,16 @@ void DialogsBuyingTest::buysAndGivesBack() {
         QVERIFY(scene.Ticked(Box("spo")) && scene.Enabled(Box("spo")));
         QVERIFY2(!scene.Enabled(Box("fru")), "6 BP are not there any more");
         scene.Click(Box("spo"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QCOMPARE(scene.Text(QStringLiteral("BPlabel")), QStringLiteral("8"));
         QCOMPARE(game.Catalogue[GeneNumber("spo")].Supply, supply);
         QCOMPARE(game.Players[3].MutationLevel, 0);
         QVERIFY(scene.Enabled(Box("fru")));
         scene.Click(Box("int"));
-        scene.Click(Box("sub"));
+    });
+    scene.Then(QuestionKind::Genes, [&] { scene.Click(Box("sub")); });
+    scene.Then(QuestionKind::Genes, [&] {
         QCOMPARE(scene.Text(QStringLiteral("BPlabel")), QStringLiteral("2"));
         scene.Click(QStringLiteral("doneb"));
     });
@@ -80,6 +87,8 @@ void DialogsBuyingTest::whatIsHeldStays() {
             scene.Press(scene.Find(Box(code)));
         }
         scene.Click(Box("mv1"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(!scene.Enabled(Box("int")) && !scene.Enabled(Box("lif")));
         QVERIFY2(!scene.Enabled(Box("agg")), "it needs another gene");
         scene.Click(QStringLiteral("doneb"));
@@ -96,16 +105,22 @@ void DialogsBuyingTest::anUpgradeTakesTheLowerGene() {
     scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(!scene.Enabled(Box("mv2")));
         scene.Click(Box("mv1"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(scene.Enabled(Box("mv2")));
         scene.Click(Box("mv2"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(scene.Ticked(Box("mv2")) && !scene.Ticked(Box("mv1")) && !scene.Enabled(Box("mv1")));
         QCOMPARE(game.BP[3], 3);
         scene.Click(Box("mv2"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(!scene.Ticked(Box("mv2")) && !scene.Ticked(Box("mv1")) && scene.Enabled(Box("mv1")));
         QCOMPARE(scene.Text(QStringLiteral("BPlabel")), QStringLiteral("8"));
         scene.Click(Box("mv1"));
-        scene.Click(QStringLiteral("doneb"));
     });
+    scene.Then(QuestionKind::Genes, [&] { scene.Click(QStringLiteral("doneb")); });
     PHASE(scene, NewGenesPhase());
     QCOMPARE(HeldGenes(3), std::string("mv1"));
     QCOMPARE(game.BP[3], 5);
@@ -176,6 +191,8 @@ void DialogsBuyingTest::armourTakesDefence() {
     scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(scene.Enabled(Box("arm")));
         scene.Click(Box("arm"));
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QVERIFY(!scene.Ticked(Box("def")) && scene.Ticked(Box("esc")));
         scene.Click(QStringLiteral("doneb"));
     });
@@ -190,8 +207,12 @@ void DialogsBuyingTest::doubleClicksBuyOnce() {
     scene.Then(QuestionKind::Genes, [&] {
         scene.DoubleClick(scene.Find(Box("int")));
         scene.Press(scene.Find(Box("ray")), Qt::RightButton);
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QCOMPARE(game.BP[3], 18);
         scene.Key(Box("sub"), Qt::Key_Space);
+    });
+    scene.Then(QuestionKind::Genes, [&] {
         QCOMPARE(game.BP[3], 14);
         scene.Key(QStringLiteral("doneb"), Qt::Key_Return);
     });

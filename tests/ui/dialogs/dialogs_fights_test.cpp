@@ -116,9 +116,8 @@ void DialogsFightsTest::aWrongSquareAttacksNobody() {
     scene.Then(QuestionKind::Square, [&] {
         scene.ClickSquare(1);
         QVERIFY(game.WantSquare);
-        QCoreApplication::processEvents();
-        scene.ClickSquare(7);
     });
+    scene.Then(QuestionKind::Square, [&] { scene.ClickSquare(7); });
     scene.ThenPick("figure0");
     PHASE(scene, AggressionPhase());
     QCOMPARE(SquareOf(1, 1) == 0 ? 1 : 0, 1);

@@ -7,11 +7,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 
-#include "questions/ask.h"
-#include "questions/choice_forms.h"
-#include "questions/food_form.h"
-#include "questions/gene_form.h"
-#include "questions/victim_form.h"
+#include "questions/visit.h"
 #include "rules/environment.h"
 #include "tests/ui/support/scene.h"
 #include "ui/board/puddle_view.h"
@@ -131,8 +127,9 @@ void CompareMessageLine(Comparison& see, const Question& question) {
 }
 
 void CompareSquares(Comparison& see, Scene& scene, const Question& question) {
-    const bool wanted = question.Kind == QuestionKind::Square;
-    const auto offered = wanted ? static_cast<const SquareQuestion&>(question).Offered : std::vector<int>();
+    const auto* square = As<const SquareQuestion>(&question);
+    const bool wanted = square != nullptr;
+    const auto offered = wanted ? square->Offered : std::vector<int>();
     if (scene.Puddle().Offered() != offered) {
         see.Note("the squares that glow are not the offered ones");
     }
@@ -223,7 +220,7 @@ void CompareVictims(Comparison& see, Scene& scene, const VictimForm& form) {
 }
 
 void CompareGenes(Comparison& see, Scene& scene, const GeneForm& form) {
-    const bool adapting = game.DialogMode == "ENVIRONMENT";
+    const bool adapting = form.Adapts;
     see.Text(QStringLiteral("dialogTitle"), adapting ? "Adapt to the UV level" : "Buy new genes");
     for (int gene = 1; gene <= GeneCount; ++gene) {
         const QString name = Numbered("gcheck", gene);
@@ -262,19 +259,16 @@ std::string WhatIsWrong(Scene& scene, Question& question) {
     CompareStatus(see, scene);
     CompareMessageLine(see, question);
     CompareSquares(see, scene, question);
-    switch (question.Kind) {
-        case QuestionKind::Number: CompareNumber(see, static_cast<AmNumfrm&>(question)); break;
-        case QuestionKind::Amoeba: CompareAmoebas(see, static_cast<AmChoicefrm&>(question)); break;
-        case QuestionKind::Food: CompareFood(see, static_cast<FoodForm&>(question)); break;
-        case QuestionKind::Victim: CompareVictims(see, scene, static_cast<VictimForm&>(question)); break;
-        case QuestionKind::Genes: CompareGenes(see, scene, static_cast<GeneForm&>(question)); break;
-        case QuestionKind::Box:
-            see.Text(QStringLiteral("boxlab"), question.Text);
-            see.Answers(QStringLiteral("okb"), true, true);
-            break;
-        case QuestionKind::YesNo:
-        case QuestionKind::Square: break;
-    }
+    Visit(question, Overloaded{[&](const AmNumfrm& form) { CompareNumber(see, form); },
+                               [&](const AmChoicefrm& form) { CompareAmoebas(see, form); },
+                               [&](const FoodForm& form) { CompareFood(see, form); },
+                               [&](const VictimForm& form) { CompareVictims(see, scene, form); },
+                               [&](const GeneForm& form) { CompareGenes(see, scene, form); },
+                               [&](const BoxQuestion& box) {
+                                   see.Text(QStringLiteral("boxlab"), box.Text);
+                                   see.Answers(QStringLiteral("okb"), true, true);
+                               },
+                               [](const Question&) {}});
     return see.First();
 }
 

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "record/input_list.h"
+
+#include <charconv>
+
+#include "files/runtime_error.h"
+#include "files/text.h"
+#include "model/services.h"
+#include "questions/ask.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr std::string_view Before = "after ";
+constexpr std::string_view Steps = " steps: ";
+
+/// Takes "after 12 steps: " off a line. False: it begins so and goes on otherwise.
+bool TakeSteps(std::string_view& line, int& steps) {
+    if (line.substr(0, Before.size()) != Before) {
+        return true;
+    }
+    const auto rest = line.substr(Before.size());
+    const auto sign = rest.find(Steps);
+    const auto number = rest.substr(0, sign);
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), steps);
+    if (sign == std::string_view::npos || error != std::errc() || end != number.data() + number.size() || steps < 0) {
+        return false;
+    }
+    line = rest.substr(sign + Steps.size());
+    return true;
+}
+
+bool IsSwitchText(std::string_view line) {
+    return line.substr(0, 4) == "set " || line == Switch{}.Text();
+}
+
+}  // namespace
+
+std::string Input::Text() const {
+    const auto text = std::visit([](const auto& what) { return what.Text(); }, What);
+    return StepsBegun < 0 ? text : Concat(Before, StepsBegun, Steps, text);
+}
+
+std::string Input::Parse(std::string_view line, Input& input) {
+    input = {};
+    if (!TakeSteps(line, input.StepsBegun)) {
+        return Concat("\"", line, "\" names no number of steps, as in \"after 12 steps: set victory on\"");
+    }
+    if (IsSwitchText(line)) {
+        return Switch::Parse(line, input.What.emplace<Switch>());
+    }
+    if (input.StepsBegun >= 0) {
+        return Concat("\"", line, "\" is no switch, and nothing else comes between two steps");
+    }
+    return Answer::Parse(line, input.What.emplace<Answer>());
+}
+
+void PassingObserver::OnRoll(int n, int face) {
+    if (next_ != nullptr) {
+        next_->OnRoll(n, face);
+    }
+}
+
+void PassingObserver::OnBegin(Step step, int clan, int amoeba) {
+    if (next_ != nullptr) {
+        next_->OnBegin(step, clan, amoeba);
+    }
+}
+
+void PassingObserver::OnEnd(Step step, int clan, int amoeba) {
+    if (next_ != nullptr) {
+        next_->OnEnd(step, clan, amoeba);
+    }
+}
+
+void PassingObserver::OnSay(std::string_view line) {
+    if (next_ != nullptr) {
+        next_->OnSay(line);
+    }
+}
+
+void PassingObserver::OnBox(std::string_view text) {
+    if (next_ != nullptr) {
+        next_->OnBox(text);
+    }
+}
+
+void PassingObserver::OnAsk(const Question& question) {
+    if (next_ != nullptr) {
+        next_->OnAsk(question);
+    }
+}
+
+void PassingObserver::OnInput(const Question& question, const Answer& answer) {
+    if (next_ != nullptr) {
+        next_->OnInput(question, answer);
+    }
+}
+
+void PassingObserver::OnSwitch(const Switch& turned, TakenAt place) {
+    if (next_ != nullptr) {
+        next_->OnSwitch(turned, place);
+    }
+}
+
+void PassingObserver::OnAnswer(const Question& question, const Answer& answer, bool accepted) {
+    if (next_ != nullptr) {
+        next_->OnAnswer(question, answer, accepted);
+    }
+}
+
+void PassingObserver::OnOver() {
+    if (next_ != nullptr) {
+        next_->OnOver();
+    }
+}
+
+void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
+    ++steps_;
+    PassingObserver::OnBegin(step, clan, amoeba);
+}
+
+void InputRecorder::OnInput(const Question& question, const Answer& answer) {
+    Inputs.push_back({answer, -1});
+    PassingObserver::OnInput(question, answer);
+}
+
+void InputRecorder::OnSwitch(const Switch& turned, TakenAt place) {
+    Inputs.push_back({turned, place == TakenAt::Step ? steps_ : -1});
+    PassingObserver::OnSwitch(turned, place);
+}
+
+InputPlayer::InputPlayer(const InputList& inputs, Observer* next)
+    : PassingObserver(next), inputs_(inputs), windowBefore_(services.Window), listenerBefore_(services.Listener) {
+    services.Window = this;
+    services.Listener = this;
+    TurnSwitchesBeforeStep();
+}
+
+InputPlayer::~InputPlayer() {
+    services.Window = windowBefore_;
+    services.Listener = listenerBefore_;
+}
+
+void InputPlayer::Open(Question& /*question*/) {}
+
+void InputPlayer::Close(Question& /*question*/) {}
+
+/// Answers until the rule has something to look at. A switch is taken over before the next answer.
+void InputPlayer::Wait() {
+    Question& question = *TopQuestion();
+    while (!question.Answered()) {
+        if (AtEnd() || inputs_[next_].StepsBegun >= 0) {
+            throw GameLeft{};
+        }
+        const Input& input = inputs_[next_++];
+        if (const auto* turned = std::get_if<Switch>(&input.What)) {
+            services.Switches.Add(*turned);
+            return;
+        }
+        question.Put(std::get<Answer>(input.What));
+    }
+}
+
+void InputPlayer::TurnSwitchesBeforeStep() {
+    for (; !AtEnd() && inputs_[next_].StepsBegun == steps_; ++next_) {
+        services.Switches.Add(std::get<Switch>(inputs_[next_].What));
+    }
+}
+
+void InputPlayer::OnBegin(Step step, int clan, int amoeba) {
+    ++steps_;
+    PassingObserver::OnBegin(step, clan, amoeba);
+}
+
+void InputPlayer::OnEnd(Step step, int clan, int amoeba) {
+    PassingObserver::OnEnd(step, clan, amoeba);
+    TurnSwitchesBeforeStep();
+}
+
+}  // namespace plasmos

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "model/observer.h"
+#include "model/presentation.h"
+#include "model/switches.h"
+#include "questions/answer.h"
+
+namespace plasmos {
+
+/// One thing that came from a person: an answer to the question that was open on top, or a switch.
+struct Input {
+    std::variant<Answer, Switch> What;
+    /// A switch that was taken over before a step: the number of steps begun until then. -1: it came while a
+    /// question waited, as every answer does.
+    int StepsBegun = -1;
+
+    /// One line: "square 7", "set victory on", "after 12 steps: set victory on".
+    std::string Text() const;
+    /// Reads what Text() writes; what comes back is what is wrong with the line, or an empty text.
+    static std::string Parse(std::string_view line, Input& input);
+
+    friend bool operator==(const Input&, const Input&) = default;
+};
+
+/// Everything that came from the persons of a game, in order. With the game's setup and its replay number it is the
+/// whole game.
+using InputList = std::vector<Input>;
+
+/// Passes on what it hears.
+class PassingObserver : public Observer {
+public:
+    explicit PassingObserver(Observer* next) : next_(next) {}
+
+    bool WantsText() const override { return next_ != nullptr && next_->WantsText(); }
+    void OnRoll(int n, int face) override;
+    void OnBegin(Step step, int clan, int amoeba) override;
+    void OnEnd(Step step, int clan, int amoeba) override;
+    void OnSay(std::string_view line) override;
+    void OnBox(std::string_view text) override;
+    void OnAsk(const Question& question) override;
+    void OnInput(const Question& question, const Answer& answer) override;
+    void OnSwitch(const Switch& turned, TakenAt place) override;
+    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
+    void OnOver() override;
+
+private:
+    Observer* next_;
+};
+
+/// Writes a game's inputs down as they come.
+class InputRecorder : public PassingObserver {
+public:
+    explicit InputRecorder(Observer* next = nullptr) : PassingObserver(next) {}
+
+    void OnBegin(Step step, int clan, int amoeba) override;
+    void OnInput(const Question& question, const Answer& answer) override;
+    void OnSwitch(const Switch& turned, TakenAt place) override;
+
+    InputList Inputs;
+
+private:
+    int steps_ = 0;
+};
+
+/// Plays a game again from its inputs: it is the window and the listener of that game while it lives. A question
+/// that the inputs do not answer ends the game, as a person who leaves does.
+class InputPlayer : public Presentation, public PassingObserver {
+public:
+    explicit InputPlayer(const InputList& inputs, Observer* next = nullptr);
+    ~InputPlayer() override;
+
+    bool WantsText() const override { return PassingObserver::WantsText(); }
+    /// Whether every input has been given.
+    bool AtEnd() const { return next_ == inputs_.size(); }
+
+    void Open(Question& question) override;
+    void Close(Question& question) override;
+    void Wait() override;
+    void OnBegin(Step step, int clan, int amoeba) override;
+    void OnEnd(Step step, int clan, int amoeba) override;
+
+private:
+    void TurnSwitchesBeforeStep();
+
+    const InputList& inputs_;
+    std::size_t next_ = 0;
+    int steps_ = 0;
+    Presentation* windowBefore_;
+    Observer* listenerBefore_;
+};
+
+}  // namespace plasmos

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "record/input_list.h"
+
+#include <gmock/gmock.h>
+
+#include "files/runtime_error.h"
+#include "flow/play_game.h"
+#include "model/services.h"
+#include "sim/journal.h"
+#include "sim/robot.h"
+#include "tests/support/game_fixture.h"
+#include "tests/support/test_scale.h"
+
+namespace plasmos::testing {
+namespace {
+
+using ::testing::HasSubstr;
+using Kind = Answer::Kind;
+
+// ---- one line and back ----
+
+struct LineRow {
+    std::string_view Name;
+    Input Value;
+    std::string Text;
+};
+
+void PrintTo(const LineRow& row, std::ostream* out) {
+    *out << row.Name;
+}
+
+class InputLine : public GameRows<LineRow> {};
+
+TEST_P(InputLine, IsReadAsItIsWritten) {
+    EXPECT_EQ(GetParam().Value.Text(), GetParam().Text);
+    Input read;
+    EXPECT_EQ(Input::Parse(GetParam().Text, read), "");
+    EXPECT_EQ(read, GetParam().Value);
+}
+
+const LineRow LineRows[] = {
+    {"yes", {YesAnswer(), -1}, "yes"},
+    {"no", {NoAnswer(), -1}, "no"},
+    {"a_square", {Numbered(Kind::Square, 7), -1}, "square 7"},
+    {"off_the_board", {Numbered(Kind::Square, 0), -1}, "square 0"},
+    {"a_number_nobody_offered", {Numbered(Kind::Number, -1), -1}, "number -1"},
+    {"a_piece", {Numbered(Kind::Amoeba, 2), -1}, "amoeba 2"},
+    {"no_piece", {Plain(Kind::Nobody), -1}, "nobody"},
+    {"a_field", {TypedInto(Kind::Field, 2, "3"), -1}, "field 2 = 3"},
+    {"a_field_emptied", {TypedInto(Kind::Field, 2, ""), -1}, "field 2 = "},
+    {"a_field_with_anything", {TypedInto(Kind::Field, 2, " = \\n\n\r"), -1}, "field 2 =  = \\\\n\\n\\r"},
+    {"leaving_a_field", {Numbered(Kind::LeaveField, 6), -1}, "leave 6"},
+    {"the_suggestion", {Plain(Kind::Suggestion), -1}, "suggestion"},
+    {"eating_what_is_typed", {WithAmounts(Kind::Eat, {}), -1}, "eat"},
+    {"eating", {WithAmounts(Kind::Eat, {0, 2, 1}), -1}, "eat 0,2,1"},
+    {"starving", {Plain(Kind::Starve), -1}, "starve"},
+    {"carrying", {WithAmounts(Kind::Carry, {1, 0, 1}), -1}, "carry 1,0,1"},
+    {"carrying_nothing", {Plain(Kind::CarryNothing), -1}, "carry nothing"},
+    {"fighting", {WithPieces(Kind::Fight, {{3, 1}}), -1}, "fight 3,1"},
+    {"a_figure", {Numbered(Kind::Mark, 4), -1}, "mark 4"},
+    {"looking_away", {Plain(Kind::LookAway), -1}, "look away"},
+    {"picking", {WithPieces(Kind::Pick, {{3, 1}, {3, 2}}), -1}, "pick 3,1 3,2"},
+    {"picking_nothing", {WithPieces(Kind::Pick, {}), -1}, "pick"},
+    {"a_box", {Numbered(Kind::Tick, 20), -1}, "tick 20"},
+    {"a_box_emptied", {Numbered(Kind::Untick, 1), -1}, "untick 1"},
+    {"paying", {TypedInto(Kind::Pay, 0, "+3.5"), -1}, "pay +3.5"},
+    {"beginning_afresh", {Plain(Kind::Reset), -1}, "reset"},
+    {"done", {Plain(Kind::Done), -1}, "done"},
+    {"a_box_that_is_read", {Plain(Kind::Acknowledge), -1}, "ok"},
+    {"closing", {Plain(Kind::Close), -1}, "close"},
+    {"easy", {Switch{Switch::Kind::Normal, 0, false}, -1}, "set normal off"},
+    {"victory_between_two_steps", {Switch{Switch::Kind::Victory, 0, true}, 12}, "after 12 steps: set victory on"},
+    {"fast_before_the_first_step", {Switch{Switch::Kind::FastMode, 0, true}, 0}, "after 0 steps: set fast on"},
+    {"eating_by_itself", {Switch{Switch::Kind::Eating, 3, true}, -1}, "set eating 3 on"},
+    {"tentacles_by_hand", {Switch{Switch::Kind::Tentacle, 2, false}, -1}, "set tentacle 2 off"},
+    {"leaving", {Switch{Switch::Kind::Leave, 0, true}, -1}, "leave game"},
+};
+INSTANTIATE_TEST_SUITE_P(Inputs, InputLine, ::testing::ValuesIn(LineRows), RowName());
+
+struct FaultRow {
+    std::string_view Name;
+    std::string Text;
+    std::string Fault;
+};
+
+void PrintTo(const FaultRow& row, std::ostream* out) {
+    *out << row.Name;
+}
+
+class FaultyLine : public GameRows<FaultRow> {};
+
+TEST_P(FaultyLine, SaysWhatIsWrong) {
+    Input read;
+    EXPECT_THAT(Input::Parse(GetParam().Text, read), HasSubstr(GetParam().Fault));
+}
+
+const FaultRow FaultRows[] = {
+    {"nothing", "", "\"\" is no answer"},
+    {"an_unknown_word", "jump 7", "\"jump 7\" is no answer; an answer begins with a word such as yes"},
+    {"a_word_with_more", "yes please", "\"yes\" is followed by nothing, not by \"please\""},
+    {"a_square_without_number", "square", "\"square\" is followed by a whole number, not by \"\""},
+    {"a_square_in_letters", "square seven", "not by \"seven\""},
+    {"a_number_beyond_all", "number 99999999999", "not by \"99999999999\""},
+    {"a_field_without_text", "field 2", "a field and what is typed into it"},
+    {"an_unknown_escape", "pay \\t", "what is typed, not by \"\\t\""},
+    {"an_open_escape", "pay 3\\", "what is typed"},
+    {"amounts_in_letters", "eat 1,x", "amounts, as in \"0,2,1\""},
+    {"a_piece_without_slot", "pick 3", "pieces by clan and slot"},
+    {"an_unknown_switch", "set colour on", "is no switch; these are \"leave game\""},
+    {"a_switch_halfway", "set normal maybe", "\"set normal\" is followed by \"on\" or \"off\""},
+    {"an_automatic_of_nobody", "set eating on", "a clan's number and \"on\" or \"off\""},
+    {"clan_7", "set tentacle 7 on", "a clan's number"},
+    {"steps_in_letters", "after many steps: set normal on", "names no number of steps"},
+    {"steps_below_0", "after -1 steps: set normal on", "names no number of steps"},
+    {"an_answer_between_steps", "after 3 steps: yes", "nothing else comes between two steps"},
+};
+INSTANTIATE_TEST_SUITE_P(Inputs, FaultyLine, ::testing::ValuesIn(FaultRows), RowName());
+
+// ---- a game is its setup, its replay number and its inputs ----
+
+/// A robot that turns every switch there is, at any time, and sometimes leaves.
+class RestlessRobot : public Robot, public PassingObserver {
+public:
+    RestlessRobot(std::uint64_t seed, Observer* next) : Robot(seed, seed), PassingObserver(next) {
+        generator_.Seed(seed, 55);
+    }
+
+    bool WantsText() const override { return PassingObserver::WantsText(); }
+    void Wait() override {
+        TurnSomething(8);
+        if (!services.Switches.Leaves()) {
+            Robot::Wait();
+        }
+    }
+    void OnBegin(Step step, int clan, int amoeba) override {
+        PassingObserver::OnBegin(step, clan, amoeba);
+        TurnSomething(30);
+    }
+    void OnRoll(int n, int face) override {
+        PassingObserver::OnRoll(n, face);
+        TurnSomething(100);
+    }
+
+private:
+    void TurnSomething(unsigned oneIn) {
+        if (generator_.Next() % oneIn != 0) {
+            return;
+        }
+        const auto drawn = generator_.Next() % 500;
+        const auto kind = drawn == 0 ? Switch::Kind::Leave : static_cast<Switch::Kind>(drawn % 5);
+        const bool automatic = kind == Switch::Kind::Eating || kind == Switch::Kind::Tentacle;
+        const int clan = automatic ? 1 + static_cast<int>(generator_.Next() % 6) : 0;
+        const bool on = kind == Switch::Kind::Leave || generator_.Next() % 2 == 0;
+        services.Switches.Add({kind, clan, on});
+    }
+
+    Pcg32 generator_;
+};
+
+/// Plays a game to its end, or until the person leaves it.
+void PlayOrLeave() {
+    try {
+        PlayOneGame();
+    } catch (const GameLeft&) {
+    }
+    services.Switches.Clear();
+}
+
+/// The inputs as a file would hold them.
+InputList ThroughText(const InputList& inputs) {
+    InputList read;
+    for (const Input& input : inputs) {
+        EXPECT_EQ(Input::Parse(input.Text(), read.emplace_back()), "");
+    }
+    return read;
+}
+
+/// The place where two journals part, or an empty text.
+std::string FirstDifference(const std::string& again, const std::string& first) {
+    const auto [one, other] = std::mismatch(again.begin(), again.end(), first.begin(), first.end());
+    if (one == again.end() && other == first.end()) {
+        return {};
+    }
+    const auto begin = std::max(one - again.begin(), std::ptrdiff_t{300}) - 300;
+    const auto place = static_cast<std::size_t>(begin);
+    return "again: " + again.substr(place, 500) + "\n\nfirst: " + first.substr(place, 500);
+}
+
+class PlayedAgain : public GameTest {
+protected:
+    void SetUpGame(int number) {
+        const int sides[][2] = {{5, 5}, {3, 4}, {6, 6}, {4, 9}};
+        SetBoard(sides[number % 4][0], sides[number % 4][1]);
+        game.Menu = {number % 3 != 0, number % 5 == 0, number % 2 == 0};
+        game.RequestedClans = number % 7 == 0 ? 0 : 3 + number % 4;
+        game.HasRequestedReplay = true;
+        game.RequestedReplay = static_cast<float>(number) + 0.5F;
+        game.AutoPlay = false;
+        game.FastMode = number % 3 == 1;
+    }
+
+    InputList Play(int number, std::string& journal) {
+        SetUpGame(number);
+        Journal written;
+        written.Start();
+        RestlessRobot robot(static_cast<std::uint64_t>(number), &written);
+        InputRecorder recorder(&robot);
+        services.Window = &robot;
+        services.Listener = &recorder;
+        PlayOrLeave();
+        services.Window = nullptr;
+        services.Listener = nullptr;
+        journal = written.Text();
+        return recorder.Inputs;
+    }
+
+    std::string PlayAgain(int number, const InputList& inputs) {
+        SetUpGame(number);
+        Journal written;
+        written.Start();
+        InputPlayer player(inputs, &written);
+        PlayOrLeave();
+        EXPECT_TRUE(player.AtEnd());
+        return written.Text();
+    }
+};
+
+TEST_F(PlayedAgain, AThousandGamesAreWhatTheirInputsMakeThem) {
+    int left = 0;
+    int between = 0;
+    for (int number = 1; number <= Scaled(1000); ++number) {
+        SCOPED_TRACE(number);
+        std::string journal;
+        const InputList inputs = Play(number, journal);
+        const auto signature = game.Signature;
+        ASSERT_EQ(FirstDifference(PlayAgain(number, ThroughText(inputs)), journal), "");
+        ASSERT_EQ(game.Signature, signature);
+        left += inputs.empty() || inputs.back().Text().find("leave game") == std::string::npos ? 0 : 1;
+        for (const Input& input : inputs) {
+            between += input.StepsBegun >= 0 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(left, 0) << "some games are left";
+    EXPECT_GT(between, Scaled(1000)) << "switches are turned between steps, too";
+}
+
+TEST_F(PlayedAgain, WithoutItsLastInputsAGameEndsThere) {
+    std::string journal;
+    InputList inputs = Play(4, journal);
+    ASSERT_GT(inputs.size(), 20U);
+    inputs.resize(inputs.size() / 2);
+    const auto begun = PlayAgain(4, inputs);
+    EXPECT_EQ(journal.substr(0, begun.size()), begun);
+    EXPECT_LT(begun.size(), journal.size());
+}
+
+}  // namespace
+}  // namespace plasmos::testing
