@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "files/text.h"
+#include "model/gene_rows.h"
 #include "model/pcg32.h"
 #include "model/table.h"
 
@@ -14,7 +15,6 @@ namespace plasmos {
 inline constexpr int MaxClans = 6;
 inline constexpr int MaxPieces = 7;
 inline constexpr int MaxSquares = 36;
-inline constexpr int GeneCount = 20;
 inline constexpr int LastTurn = 10;
 inline constexpr int LastCard = 10;
 /// Spots for pieces inside one square; spot 0 is "not drawn".
