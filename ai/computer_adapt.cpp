@@ -14,7 +14,8 @@ namespace plasmos {
 namespace {
 
 constexpr int ScoreWithoutRay = 33;
-constexpr int PersonalityWithoutRay = 0xFFF7F;
+/// What a clan close to the end keeps of its favourites; bits that stand for no gene go too.
+constexpr std::int32_t AllButRay = AllGenes & ~GenesOf({"ray"});
 /// Ray Protection counts as 4 while a clan adapts; giving it up lowers the excess by that at once.
 constexpr int RayCredit = 4;
 constexpr int PayableExcess = 6;
@@ -131,7 +132,7 @@ private:
 void ComputerAdaptEnvironment() {
     const int clan = game.CurPlayer;
     if (game.Players[clan].Score > ScoreWithoutRay) {
-        game.Players[clan].Personality &= PersonalityWithoutRay;
+        game.Players[clan].Personality &= AllButRay;
     }
     Adaptation(clan).Run();
 }

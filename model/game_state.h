@@ -25,18 +25,16 @@ inline constexpr int VictoryScore = 42;
 inline constexpr int SquareUnits = 1200;
 /// The direction "where it wants": no step on the board, the amoeba may choose.
 inline constexpr int WhereItWants = -666;
-/// Personality bit of Ray Protection (gene 8).
-inline constexpr int RayBit = 128;
 /// A draw that has found nothing after so many tries takes the lowest legal square instead.
 inline constexpr int MaxDraws = 10000;
 
 /// One clan.
 struct Clan {
-    int Score = 0;                     ///< space of the score marker; no two clans share one after scoring
-    int MutationLevel = 0;             ///< sum of the mutation points of the genes the clan holds
-    std::int32_t Colour = 0;           ///< 0x00BBGGRR
-    std::int32_t Personality = 0;      ///< bit (gene - 1): a favourite gene of a computer clan
-    std::string_view PersonalityName;  ///< "Eater", "Mover", "Divider", "Eccentric" or "Miser"
+    int Score = 0;                  ///< space of the score marker; no two clans share one after scoring
+    int MutationLevel = 0;          ///< sum of the mutation points of the genes the clan holds
+    std::int32_t Colour = 0;        ///< 0x00BBGGRR
+    std::int32_t Personality = 0;   ///< bit (gene - 1): a favourite gene of a computer clan
+    FixedText<12> PersonalityName;  ///< "Eater", "Mover", "Divider", "Eccentric" or "Miser"; a person has none
     bool IsComputer = false;
     FixedText<80> Name;  ///< at most 20 characters
 };
@@ -104,7 +102,7 @@ struct GameTables {
     int Reply = 0;   ///< 6 yes, 7 no, a click's x, or a number chosen
     int ReplyY = 0;  ///< a click's y; not 0 when a victim has been picked
     bool WantSquare = false;
-    std::string_view DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
+    FixedText<12> DialogMode;  ///< "ENVIRONMENT", "NEWGENES", "HOLD", "TENTACLE", "PARASITE", "SFS", "AGGRESS" or ""
     int DoneFlag = 0;
     int MessageUnits = 0;  ///< pause units that the message line's text has a claim to
     int PauseOwed = 0;     ///< what is left of them
@@ -140,8 +138,8 @@ struct GameTables {
     std::int64_t Decisions = 0;   ///< Move, Feed, Adapt, BuyGenes, Divide and Attack steps begun
 };
 
-/// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it points
-/// outside but to texts of the program.
+/// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it is a
+/// pointer.
 struct GameState : GameSetup, GameTables {};
 
 static_assert(std::is_trivially_copyable_v<GameState>);

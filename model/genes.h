@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <initializer_list>
+#include <string>
 #include <string_view>
 
 #include "model/game_state.h"
@@ -38,6 +40,19 @@ struct GeneCode {
 
     int Number;
 };
+
+/// Every gene as a set of bits: bit (gene - 1) stands for a gene.
+inline constexpr std::int32_t AllGenes = (1 << GeneCount) - 1;
+static_assert(GeneCount <= 31, "a set of genes has a bit for each");
+
+/// The same for some genes.
+consteval std::int32_t GenesOf(std::initializer_list<GeneCode> genes) {
+    std::int32_t bits = 0;
+    for (const GeneCode gene : genes) {
+        bits |= 1 << (gene.Number - 1);
+    }
+    return bits;
+}
 
 /// Display name of a gene; an empty text for any other number.
 std::string_view GeneName(int gene);

@@ -137,13 +137,13 @@ const DealRow DealRows[] = {
 INSTANTIATE_TEST_SUITE_P(NewGame, Deals, ::testing::ValuesIn(DealRows), RowName());
 
 TEST_F(NewGameTest, TheMiserIsNeverDealtWithThreeClans) {
-    std::set<std::string_view> three;
-    std::set<std::string_view> six;
+    std::set<std::string> three;
+    std::set<std::string> six;
     for (int replay = 1; replay <= 300; ++replay) {
         for (const int clans : {3, 6}) {
             Begin(static_cast<float>(replay), clans);
             for (int clan = 1; clan <= clans; ++clan) {
-                (clans == 3 ? three : six).insert(game.Players[clan].PersonalityName);
+                (clans == 3 ? three : six).insert(game.Players[clan].PersonalityName.String());
             }
         }
     }

@@ -302,7 +302,7 @@ TEST_F(PersonsAttack, PicksItsVictimAndPays) {
     EXPECT_THAT(board.Questions[0].Offered, ElementsAre(21, 22, 31)) << "its own piece cannot be marked";
     EXPECT_TRUE(IsGone(2, 2));
     EXPECT_EQ(game.BP[1], 1);
-    EXPECT_TRUE(game.DialogMode.empty());
+    EXPECT_EQ(game.DialogMode, "");
 }
 
 TEST_F(PersonsAttack, APickOfNobodyEndsItUnpaid) {

@@ -86,7 +86,7 @@ AutoPerson::Touch AutoPerson::Next(Question& question) {
     switch (question.Kind) {
         case QuestionKind::YesNo:
             // Moves are declined twice out of three times, everything else is welcome.
-            return At(game.Turn > 0 && game.DialogMode.empty() && ++turns_ % 3 != 0 ? "nob" : "yesb", true);
+            return At(game.Turn > 0 && game.DialogMode.Empty() && ++turns_ % 3 != 0 ? "nob" : "yesb", true);
         case QuestionKind::Square: {
             const auto& offered = static_cast<SquareQuestion&>(question).Offered;
             return AtSquare(offered[static_cast<std::size_t>(++turns_) % offered.size()]);
