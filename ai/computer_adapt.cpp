@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "ai/computer_genes.h"
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
-#include "model/presentation.h"
 #include "questions/ask.h"
 
 namespace plasmos {
@@ -16,8 +16,6 @@ namespace {
 constexpr int ScoreWithoutRay = 33;
 /// What a clan close to the end keeps of its favourites; bits that stand for no gene go too.
 constexpr std::int32_t AllButRay = AllGenes & ~GenesOf({"ray"});
-/// Ray Protection counts as 4 while a clan adapts; giving it up lowers the excess by that at once.
-constexpr int RayCredit = 4;
 constexpr int PayableExcess = 6;
 constexpr int ComfortableBP = 5;
 
@@ -41,11 +39,6 @@ public:
 
 private:
     int Excess() const { return game.Players[clan_].MutationLevel - game.UVLevel - credit_; }
-
-    void Pay() {
-        game.BP[clan_] -= Excess();
-        Show(&Presentation::ShowBP, clan_);
-    }
 
     void ListGenes() {
         for (int gene = 1; gene <= GeneCount; ++gene) {
@@ -77,6 +70,7 @@ private:
         }
     }
 
+    /// The credit for Ray Protection lowers the excess at once.
     void Discard(int gene) {
         DiscardGene(gene);
         credit_ += gene == GeneId("ray") ? RayCredit : 0;
@@ -94,7 +88,7 @@ private:
                 return true;
             }
             if (Excess() < PayableExcess && game.BP[clan_] > ComfortableBP) {
-                Pay();
+                PayBP(clan_, Excess());
                 return true;
             }
         }
@@ -107,7 +101,7 @@ private:
                 return;
             }
             if (game.BP[clan_] >= Excess()) {
-                Pay();
+                PayBP(clan_, Excess());
                 return;
             }
             if (place > protected_.Count) {

@@ -62,6 +62,9 @@ inline bool HasGene(int clan, GeneCode code) {
     return game.Genes[code.Number][clan];
 }
 
+/// What Ray Protection counts while a clan adapts to the UV level; it really holds -2 points.
+inline constexpr int RayCredit = 4;
+
 /// How many genes a clan holds, Ray Protection included.
 int CountGenes(int clan);
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/signature.h"
@@ -92,8 +93,7 @@ Attack AttackByComputer(int clan) {
         return Attack::NobodyAsked;
     }
     game.CurAmoeba = target.Attacker;
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
+    PayBP(clan, 1);
     if (!game.Players[target.Clan].IsComputer) {
         ShowBox(target.Clan, target.IsDamaged ? "You are being attacked!" : "You are being Aggressed!");
     }

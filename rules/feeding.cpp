@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -137,8 +138,7 @@ void EatSuggestion(int menu, int square) {
 
 void EatAsParasite(const ParasiteMeal& meal, int square) {
     for (int i = 1; i <= meal.HostCount; ++i) {
-        --game.BP[meal.Hosts[i]];
-        Show(&Presentation::ShowBP, meal.Hosts[i]);
+        PayBP(meal.Hosts[i], 1);
     }
     TellOfHosts(meal);
     TakeMeal(meal.Menu, square);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include "model/bio_points.h"
 #include "rules/fight.h"
 
 #include "model/genes.h"
@@ -212,8 +213,7 @@ void EatTyped(const FoodForm& form, int menu) {
 }
 
 void Fight(int square, int clan, const VictimFigure& victim) {
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
+    PayBP(clan, 1);
     bool hungry = true;
     AttackToEat(victim.Clan, square, clan, hungry, victim.Amoeba);
     if (hungry) {

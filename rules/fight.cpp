@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/fight.h"
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -79,8 +80,7 @@ Victim PickByPerson(int attacker, int square) {
     if (picked.empty()) {
         return {};
     }
-    --game.BP[attacker];
-    Show(&Presentation::ShowBP, attacker);
+    PayBP(attacker, 1);
     return {picked.front().Clan, picked.front().Amoeba};
 }
 

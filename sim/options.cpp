@@ -91,7 +91,8 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     app.add_option("--games", options.Games, "number of games (default 100)")
         ->check(CLI::Range(std::int64_t{1}, MostGames));
     app.add_option("--replay", replay, "replay number of the first game (default 1)");
-    app.add_option("--clans", options.Clans, "number of clans, 3 to 6 (default: rolled)")->check(CLI::Range(3, 6));
+    app.add_option("--clans", options.Clans, "number of clans, 3 to 6 (default: rolled)")
+        ->check(CLI::Range(MinClans, MaxClans));
     app.add_option("--persons", options.Persons, "seats of the robot person: none, clan 3, or clans 3 and 2")
         ->check(CLI::Range(0, 2));
     app.add_option("--difficulty", difficulty, "easy or normal (default normal)")
