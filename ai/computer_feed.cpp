@@ -27,7 +27,7 @@ bool IsFleet(int clan) {
 
 /// With difficulty "Normal" the clans are looked at in the order of play; else from a clan drawn by
 /// die on, and those that can escape or defend are passed over.
-int FirstChoice(int eater, int square) {
+int FirstChoice(int square, int eater) {
     const int offset = RollDie(game.NumPlayers) - 1;
     const bool normal = game.Menu.normmen;
     for (int i = 1; i <= game.NumPlayers; ++i) {
@@ -40,7 +40,7 @@ int FirstChoice(int eater, int square) {
     return 0;
 }
 
-int SecondChoice(int eater, int square) {
+int SecondChoice(int square, int eater) {
     for (int place = 1; place <= game.NumPlayers; ++place) {
         const int clan = ClanAtPlace(place);
         if (IsPrey(square, eater, clan) && !IsFleet(clan)) {
@@ -51,10 +51,10 @@ int SecondChoice(int eater, int square) {
 }
 
 /// The struggle for survival. True: the amoeba is still hungry.
-bool Struggle(int clan, int square) {
-    int victim = FirstChoice(clan, square);
+bool Struggle(int square, int clan) {
+    int victim = FirstChoice(square, clan);
     if (victim == 0) {
-        victim = SecondChoice(clan, square);
+        victim = SecondChoice(square, clan);
     }
     if (victim == 0) {
         return true;
@@ -72,8 +72,8 @@ void ComputerFeedAmoeba(int clan, int /*amoeba*/, int square) {
         EatSuggestion(SuggestMenu(square, clan), square);
         return;
     }
-    const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(clan, square);
-    if (mayStruggle && !Struggle(clan, square)) {
+    const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(square, clan);
+    if (mayStruggle && !Struggle(square, clan)) {
         return;
     }
     if (HasGene(clan, "par")) {

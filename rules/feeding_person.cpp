@@ -19,7 +19,7 @@ namespace {
 int CountHosts(int clan, int square) {
     int hosts = 0;
     for (int host = 1; host <= game.NumPlayers && hosts < 2; ++host) {
-        hosts += IsHost(clan, host, square) ? 1 : 0;
+        hosts += IsHost(square, clan, host) ? 1 : 0;
     }
     return hosts;
 }
@@ -163,7 +163,7 @@ private:
         VictimForm victims(form_.Clan, "PARASITE", "Choose your Parasite-victim:", form_.Square);
         const int next = form_.fdtxt[0].Visible ? 2 : 1;
         for (const VictimFigure& figure : victims.Figures) {
-            if (IsHost(form_.Clan, figure.Clan, form_.Square) && figure.Clan != form_.Hosts[1] && next <= 2) {
+            if (IsHost(form_.Square, form_.Clan, figure.Clan) && figure.Clan != form_.Hosts[1] && next <= 2) {
                 victims.Allow(figure.Clan, figure.Amoeba);
             }
         }
@@ -183,7 +183,7 @@ private:
     void Struggle() {
         VictimForm victims(form_.Clan, "SFS", "Choose your Attack-victim:", form_.Square);
         for (const VictimFigure& figure : victims.Figures) {
-            if (IsVictim(form_.Clan, figure.Clan, form_.Square)) {
+            if (IsVictim(form_.Square, form_.Clan, figure.Clan)) {
                 victims.Allow(figure.Clan, figure.Amoeba);
             }
         }
@@ -244,7 +244,7 @@ void FeedByDialog(FoodForm& form) {
 }  // namespace
 
 void FeedAmoeba(int square, int clan) {
-    const bool victim = HasVictim(clan, square);
+    const bool victim = HasVictim(square, clan);
     const int menu = SuggestMenu(square, clan);
     const bool alternative = (IsFighter(clan) || HasGene(clan, "par")) && victim;
     if (menu == 0 && !alternative) {
