@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "ai/computer_genes.h"
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
-#include "model/presentation.h"
 #include "questions/ask.h"
 
 namespace plasmos {
@@ -14,9 +14,8 @@ namespace plasmos {
 namespace {
 
 constexpr int ScoreWithoutRay = 33;
-constexpr int PersonalityWithoutRay = 0xFFF7F;
-/// Ray Protection counts as 4 while a clan adapts; giving it up lowers the excess by that at once.
-constexpr int RayCredit = 4;
+/// What a clan close to the end keeps of its favourites; bits that stand for no gene go too.
+constexpr std::int32_t AllButRay = AllGenes & ~GenesOf({"ray"});
 constexpr int PayableExcess = 6;
 constexpr int ComfortableBP = 5;
 
@@ -40,11 +39,6 @@ public:
 
 private:
     int Excess() const { return game.Players[clan_].MutationLevel - game.UVLevel - credit_; }
-
-    void Pay() {
-        game.BP[clan_] -= Excess();
-        Show(&Presentation::ShowBP, clan_);
-    }
 
     void ListGenes() {
         for (int gene = 1; gene <= GeneCount; ++gene) {
@@ -76,6 +70,7 @@ private:
         }
     }
 
+    /// The credit for Ray Protection lowers the excess at once.
     void Discard(int gene) {
         DiscardGene(gene);
         credit_ += gene == GeneId("ray") ? RayCredit : 0;
@@ -93,7 +88,7 @@ private:
                 return true;
             }
             if (Excess() < PayableExcess && game.BP[clan_] > ComfortableBP) {
-                Pay();
+                PayBP(clan_, Excess());
                 return true;
             }
         }
@@ -106,7 +101,7 @@ private:
                 return;
             }
             if (game.BP[clan_] >= Excess()) {
-                Pay();
+                PayBP(clan_, Excess());
                 return;
             }
             if (place > protected_.Count) {
@@ -131,7 +126,7 @@ private:
 void ComputerAdaptEnvironment() {
     const int clan = game.CurPlayer;
     if (game.Players[clan].Score > ScoreWithoutRay) {
-        game.Players[clan].Personality &= PersonalityWithoutRay;
+        game.Players[clan].Personality &= AllButRay;
     }
     Adaptation(clan).Run();
 }

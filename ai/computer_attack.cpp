@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Passes = 3;
 
-bool HasDamagedPiece(int clan, int square) {
+bool HasDamagedPiece(int square, int clan) {
     for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
         const Piece& piece = game.Amoeba[amoeba][clan];
         if (piece.Square == square && piece.Damage > 0) {
@@ -21,19 +21,19 @@ bool HasDamagedPiece(int clan, int square) {
     return false;
 }
 
-bool IsTarget(int pass, int clan, int square) {
+bool IsTarget(int pass, int square, int clan) {
     switch (pass) {
         case 1: return !HasGene(clan, "esc") && !HasGene(clan, "def") && !HasGene(clan, "arm");
-        case 2: return HasDamagedPiece(clan, square);
+        case 2: return HasDamagedPiece(square, clan);
         default:
             return !HasGene(clan, "arm") && !HasGene(clan, "def") && !HasGene(clan, "str") && !HasGene(clan, "mv2");
     }
 }
 
-int FindTargetClan(int pass, int attacker, int square, int first) {
+int FindTargetClan(int pass, int square, int attacker, int first) {
     for (int i = 0; i < game.NumPlayers; ++i) {
         const int clan = (first - 1 + i) % game.NumPlayers + 1;
-        if (IsVictim(attacker, clan, square) && IsTarget(pass, clan, square)) {
+        if (IsVictim(square, attacker, clan) && IsTarget(pass, square, clan)) {
             return clan;
         }
     }
@@ -47,7 +47,7 @@ ComputerTarget FindComputerTarget(int clan) {
     for (int pass = 1; pass <= Passes; ++pass) {
         for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
             const int square = game.Amoeba[amoeba][clan].Square;
-            const int target = square >= 1 ? FindTargetClan(pass, clan, square, first) : 0;
+            const int target = square >= 1 ? FindTargetClan(pass, square, clan, first) : 0;
             if (target != 0) {
                 return {amoeba, target, pass == 2};
             }

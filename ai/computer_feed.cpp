@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/computer_clan.h"
 
+#include "ai/prey.h"
+#include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
-#include "model/presentation.h"
 #include "rules/feeding.h"
 #include "rules/fight.h"
 #include "rules/menus.h"
@@ -24,30 +25,25 @@ bool IsFleet(int clan) {
     return HasGene(clan, "str") && HasGene(clan, "esc") && (HasGene(clan, "mv1") || HasGene(clan, "mv2"));
 }
 
-/// Another clan with a piece in the square and without armour.
-bool IsPrey(int eater, int clan, int square) {
-    return clan != eater && game.Occupancy[square][clan] > 0 && !HasGene(clan, "arm");
-}
-
 /// With difficulty "Normal" the clans are looked at in the order of play; else from a clan drawn by
 /// die on, and those that can escape or defend are passed over.
-int FirstChoice(int eater, int square) {
+int FirstChoice(int square, int eater) {
     const int offset = RollDie(game.NumPlayers) - 1;
     const bool normal = game.Menu.normmen;
     for (int i = 1; i <= game.NumPlayers; ++i) {
         const int wrapped = i + offset > game.NumPlayers ? i + offset - game.NumPlayers : i + offset;
         const int clan = normal ? ClanAtPlace(i) : wrapped;
-        if (IsPrey(eater, clan, square) && (normal || (!CanEscape(clan) && !CanDefend(clan)))) {
+        if (IsPrey(square, eater, clan) && (normal || (!CanEscape(clan) && !CanDefend(clan)))) {
             return clan;
         }
     }
     return 0;
 }
 
-int SecondChoice(int eater, int square) {
+int SecondChoice(int square, int eater) {
     for (int place = 1; place <= game.NumPlayers; ++place) {
         const int clan = ClanAtPlace(place);
-        if (IsPrey(eater, clan, square) && !IsFleet(clan)) {
+        if (IsPrey(square, eater, clan) && !IsFleet(clan)) {
             return clan;
         }
     }
@@ -55,16 +51,15 @@ int SecondChoice(int eater, int square) {
 }
 
 /// The struggle for survival. True: the amoeba is still hungry.
-bool Struggle(int clan, int square) {
-    int victim = FirstChoice(clan, square);
+bool Struggle(int square, int clan) {
+    int victim = FirstChoice(square, clan);
     if (victim == 0) {
-        victim = SecondChoice(clan, square);
+        victim = SecondChoice(square, clan);
     }
     if (victim == 0) {
         return true;
     }
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
+    PayBP(clan, 1);
     bool hungry = true;
     AttackToEat(victim, square, clan, hungry, 0);
     return hungry;
@@ -77,8 +72,8 @@ void ComputerFeedAmoeba(int clan, int /*amoeba*/, int square) {
         EatSuggestion(SuggestMenu(square, clan), square);
         return;
     }
-    const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(clan, square);
-    if (mayStruggle && !Struggle(clan, square)) {
+    const bool mayStruggle = IsFighter(clan) && game.BP[clan] >= 1 && HasVictim(square, clan);
+    if (mayStruggle && !Struggle(square, clan)) {
         return;
     }
     if (HasGene(clan, "par")) {

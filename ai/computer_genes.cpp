@@ -12,8 +12,6 @@ namespace plasmos {
 
 namespace {
 
-/// Bits 0 to 19 of a personality name genes.
-constexpr std::uint32_t AllGenes = 0xFFFFF;
 constexpr int GenerousCap = 50;
 constexpr int CloseToVictory = 5;
 constexpr int FailedDraws = 5;
@@ -53,7 +51,7 @@ private:
 
     /// The clan's next favourite after a gene in number order; 0: there is none.
     int NextFavourite(int gene) const {
-        const auto left = static_cast<std::uint32_t>(game.Players[clan_].Personality) & AllGenes &
+        const auto left = static_cast<std::uint32_t>(game.Players[clan_].Personality) & std::uint32_t{AllGenes} &
                           (~0U << static_cast<unsigned>(gene));
         return left == 0 ? 0 : std::countr_zero(left) + 1;
     }

@@ -2,15 +2,17 @@
 #include "ai/computer_move.h"
 #include "rules/computer_clan.h"
 
+#include "ai/prey.h"
+#include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/message_line.h"
 #include "model/narration.h"
-#include "model/presentation.h"
 #include "rules/directions.h"
 #include "rules/feeding.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"
+#include "rules/movement.h"
 
 namespace plasmos {
 
@@ -21,10 +23,6 @@ constexpr int MovePause = 5;
 /// The amoeba in this square jumps to the next one when a 6 leaves it without a candidate.
 constexpr int JumpFrom = 24;
 constexpr int JumpTo = 19;
-
-bool HasSpeed(int clan) {
-    return HasGene(clan, "spe") || HasGene(clan, "per");
-}
 
 /// One pass of the decision: where the amoeba goes, and in which mood.
 class MovePass {
@@ -87,7 +85,7 @@ private:
 
     bool HasPreyIn(int square) const {
         for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-            if (clan != clan_ && game.Occupancy[square][clan] > 0 && !HasGene(clan, "arm")) {
+            if (IsPrey(square, clan_, clan)) {
                 return true;
             }
         }
@@ -106,16 +104,11 @@ private:
         }
     }
 
-    void Pay() {
-        --game.BP[clan_];
-        Show(&Presentation::ShowBP, clan_);
-    }
-
     void MoveActively() {
         FindCandidates();
         if (candidates_.Count() > 0 && Has("mv2")) {
             if (!Has("str") && !second_) {
-                Pay();
+                PayBP(clan_, 1);
             }
             found_ = true;
             const int destination = candidates_[RollDie(candidates_.Count())];
@@ -126,7 +119,7 @@ private:
             Feel(driftSquare_, piece().Name, " moves disconsolately into ", driftSquare_);
         } else {
             if (!Has("str") && !(HasSpeed(clan_) && second_)) {
-                Pay();
+                PayBP(clan_, 1);
             }
             Steer();
         }

@@ -3,10 +3,8 @@
 
 #include <utility>
 
-#include "files/encoding.h"
 #include "files/platform.h"
-#include "files/settings_store.h"
-#include "files/strings.h"
+#include "flow/clan_names.h"
 #include "flow/names.h"
 #include "flow/personalities.h"
 #include "flow/scoring.h"
@@ -27,7 +25,6 @@ namespace {
 
 constexpr int StartingBP = 4;
 constexpr int StartingFood = 2;
-constexpr int LongestName = 20;
 constexpr int UVValues[LastCard + 1] = {6, 8, 9, 9, 10, 10, 10, 11, 12, 13, 14};
 constexpr std::int32_t ClanColours[MaxClans + 1] = {0, 0xFF0000, 0xFF00FF, 0x00FFFF, 0x0000FF, 0x0BB000, 0x0080FF};
 
@@ -44,16 +41,20 @@ void ChooseReplayNumber() {
     }
 }
 
+bool IsClanCount(int count) {
+    return count >= MinClans && count <= MaxClans;
+}
+
 int GetPlayerCount() {
     if (game.RequestedClans != 0) {
         return game.RequestedClans;
     }
     if (game.AutoPlay) {
-        return RollDie(4) + 2;
+        return RollDie(MaxClans - MinClans + 1) + MinClans - 1;
     }
     for (;;) {
         const int count = AskPlayerCount();
-        if (count >= 3 && count <= 6) {
+        if (IsClanCount(count)) {
             ClearMessage();
             return count;
         }
@@ -62,12 +63,7 @@ int GetPlayerCount() {
 }
 
 std::string ClanName(int clan) {
-    auto fallback = Concat("Player ", clan);
-    if (services.Settings == nullptr) {
-        return fallback;
-    }
-    const auto name = FirstCharacters(services.Settings->Get("players", Concat("name", clan), {}), LongestName);
-    return Trim(name).empty() ? fallback : name;
+    return services.Settings != nullptr ? SavedClanName(*services.Settings, clan) : DefaultClanName(clan);
 }
 
 void SetUpClan(int clan) {
@@ -153,13 +149,13 @@ void ShuffleEnvDeck() {
 
 int AskPlayerCount() {
     AmNumfrm form(0, "Choose 3 to 6 players", "How many players would you like for this game of Zymarra?", 0, -1);
-    for (int count = 3; count <= 6; ++count) {
+    for (int count = MinClans; count <= MaxClans; ++count) {
         form.amopt[count].Visible = form.amopt[count].Enabled = true;
     }
     OpenQuestion open(form);
     open.Wait();
     const int count = form.Take();
-    NoteAnswer(form, Numbered(Answer::Kind::Number, count), count >= 3 && count <= 6);
+    NoteAnswer(form, Numbered(Answer::Kind::Number, count), IsClanCount(count));
     return count;
 }
 

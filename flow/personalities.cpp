@@ -1,63 +1,84 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flow/personalities.h"
 
-#include <string_view>
+#include <iterator>
 
 #include "model/dice.h"
+#include "model/genes.h"
 
 namespace plasmos {
 
 namespace {
 
-constexpr int DeckSize = 6;
-constexpr std::int32_t EaterMask = 0x0004A006;
-/// Keeps the bits below 16, from 64 to 2 to the 19th power; the Divider loses its high bits.
-constexpr std::int32_t MaskWithoutEater = 0x000FFFCF;
-
-struct PersonalityCard {
-    std::int32_t Mask;
-    std::string_view Name;
+struct Personality {
+    FixedText<12> Name;
+    std::int32_t Favourites = 0;
 };
 
-constexpr PersonalityCard Cards[DeckSize + 1] = {
-    {0, ""},
-    {EaterMask, "Eater"},
-    {0x0002012A, "Mover"},
-    {-32606, "Divider"},  // a 16-bit value widened with its sign: all the high bits are favourites too
-    {EaterMask, "Eater"},
-    {0x00000650, "Eccentric"},
-    {0x00005002, "Miser"},
+/// A set of genes read as a 16-bit number and widened with its sign. With gene 16, whose bit is the sign,
+/// every bit above is set too: all genes from number 17 up, and the bits that stand for no gene.
+consteval std::int32_t WidenedWithSign(std::int32_t genes) {
+    return static_cast<std::int16_t>(genes);
+}
+
+constexpr Personality Eater = {"Eater", GenesOf({"mv1", "spo", "sfs", "div", "agg"})};
+
+/// The deck. The last card stays out with three clans; two of the Miser's favourites do not exist there.
+constexpr Personality Cards[] = {
+    Eater,
+    {"Mover", GenesOf({"mv1", "spe", "esc", "str", "mv2"})},
+    {"Divider", WidenedWithSign(GenesOf({"mv1", "esc", "ray", "div"}))},  // and "per", "mv2", "agg", "arm"
+    Eater,
+    {"Eccentric", GenesOf({"def", "sub", "ten", "hol"})},
+    {"Miser", GenesOf({"mv1", "fru", "par"})},
+};
+
+constexpr int DeckSize = static_cast<int>(std::size(Cards));
+/// What stays of the favourites where no Eater was dealt; bits that stand for no gene go too.
+constexpr std::int32_t WithoutEater = AllGenes & ~GenesOf({"def", "esc"});
+
+/// The cards that are not dealt yet.
+class Deck {
+public:
+    explicit Deck(int size) : left_(size) {
+        for (int card = 1; card <= DeckSize; ++card) {
+            game.PersonalityTable[card] = Cards[card - 1].Favourites;
+            names_[card] = Cards[card - 1].Name;
+        }
+    }
+
+    /// The last card takes the place of the drawn one.
+    Personality Draw() {
+        const int drawn = RollDie(left_);
+        const Personality card{names_[drawn], game.PersonalityTable[drawn]};
+        game.PersonalityTable[drawn] = game.PersonalityTable[left_];
+        names_[drawn] = names_[left_];
+        --left_;
+        return card;
+    }
+
+private:
+    int left_;
+    Table<FixedText<12>, 0, DeckSize> names_;
 };
 
 }  // namespace
 
 void DealPersonalities() {
-    Table<std::string_view, 0, DeckSize> names;
-    for (int card = 1; card <= DeckSize; ++card) {
-        game.PersonalityTable[card] = Cards[card].Mask;
-        names[card] = Cards[card].Name;
-    }
-    int left = game.NumPlayers == 3 ? DeckSize - 1 : DeckSize;
+    Deck deck(game.NumPlayers == 3 ? DeckSize - 1 : DeckSize);
     bool eaterDealt = false;
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         Clan& player = game.Players[clan];
-        if (!player.IsComputer) {
-            continue;
-        }
-        const int drawn = RollDie(left);
-        player.Personality = game.PersonalityTable[drawn];
-        player.PersonalityName = names[drawn];
-        eaterDealt = eaterDealt || player.Personality == EaterMask;
-        game.PersonalityTable[drawn] = game.PersonalityTable[left];
-        names[drawn] = names[left];
-        --left;
-        if (game.Menu.normmen) {
-            player.Personality |= RayBit;
+        if (player.IsComputer) {
+            const Personality card = deck.Draw();
+            eaterDealt = eaterDealt || card.Name == Eater.Name;
+            player.PersonalityName = card.Name;
+            player.Personality = card.Favourites | (game.Menu.normmen ? GenesOf({"ray"}) : 0);
         }
     }
     for (int clan = 1; clan <= game.NumPlayers && !eaterDealt; ++clan) {
         if (game.Players[clan].IsComputer) {
-            game.Players[clan].Personality &= MaskWithoutEater;
+            game.Players[clan].Personality &= WithoutEater;
         }
     }
 }

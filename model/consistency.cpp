@@ -9,10 +9,7 @@ namespace plasmos {
 
 namespace {
 
-std::string CheckClan(int clan) {
-    if (game.BP[clan] < 0) {
-        return Concat("clan ", clan, " has ", game.BP[clan], " BP");
-    }
+std::string CheckLevel(int clan) {
     int level = 0;
     for (int gene = 1; gene <= GeneCount; ++gene) {
         level += game.Genes[gene][clan] ? game.Catalogue[gene].MutationPoints : 0;
@@ -21,6 +18,10 @@ std::string CheckClan(int clan) {
         return Concat("clan ", clan, " has mutation level ", game.Players[clan].MutationLevel, ", its genes sum to ",
                       level);
     }
+    return {};
+}
+
+std::string CheckPieces(int clan) {
     int pieces = 0;
     for (int amoeba = 1; amoeba <= MaxPieces; ++amoeba) {
         const Piece& piece = game.Amoeba[amoeba][clan];
@@ -38,26 +39,19 @@ std::string CheckClan(int clan) {
     return {};
 }
 
-std::string CheckSquare(int square) {
-    Table<int, 0, MaxClans> count;
-    std::uint32_t spots = 0;
-    int drawn = 0;
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
-            const Piece& piece = game.Amoeba[amoeba][clan];
-            if (piece.Square != square) {
-                continue;
-            }
-            ++count[clan];
-            ++count[0];
-            if (piece.Slot != 0) {
-                ++drawn;
-                spots |= 1U << static_cast<unsigned>(piece.Slot);
-            }
-        }
-        const int food = game.Food[square][clan];
+std::string CheckClan(int clan) {
+    if (game.BP[clan] < 0) {
+        return Concat("clan ", clan, " has ", game.BP[clan], " BP");
+    }
+    std::string fault = CheckLevel(clan);
+    return fault.empty() ? CheckPieces(clan) : fault;
+}
+
+std::string CheckFood(int square) {
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        const int food = game.Food[square][colour];
         if (food < 0 || (food > 0 && !IsValidSquare(square))) {
-            return Concat("square ", square, " holds ", food, " food of clan ", clan);
+            return Concat("square ", square, " holds ", food, " food of clan ", colour);
         }
     }
     for (int colour = game.NumPlayers + 1; colour <= MaxClans; ++colour) {
@@ -65,13 +59,48 @@ std::string CheckSquare(int square) {
             return Concat("square ", square, " holds food of colour ", colour, ", which is not in play");
         }
     }
-    for (int clan = 0; clan <= MaxClans; ++clan) {
-        if (count[clan] != game.Occupancy[square][clan]) {
-            return Concat("square ", square, " counts ", int{game.Occupancy[square][clan]}, " pieces in column ", clan,
-                          " and has ", count[clan]);
+    return {};
+}
+
+/// What lies in a square, counted piece by piece.
+struct Crowd {
+    Table<int, 0, MaxClans> Count;  ///< by clan; column 0 counts every clan's
+    std::uint32_t Spots = 0;        ///< bit n: spot n is taken
+    int Drawn = 0;                  ///< pieces that have a spot
+};
+
+Crowd CrowdOf(int square) {
+    Crowd crowd;
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+            const Piece& piece = game.Amoeba[amoeba][clan];
+            if (piece.Square != square) {
+                continue;
+            }
+            ++crowd.Count[clan];
+            ++crowd.Count[0];
+            if (piece.Slot != 0) {
+                ++crowd.Drawn;
+                crowd.Spots |= 1U << static_cast<unsigned>(piece.Slot);
+            }
         }
     }
-    if (spots != game.SpotsTaken[square] || static_cast<int>(std::bitset<32>(spots).count()) != drawn) {
+    return crowd;
+}
+
+std::string CheckSquare(int square) {
+    if (std::string fault = CheckFood(square); !fault.empty()) {
+        return fault;
+    }
+    const Crowd crowd = CrowdOf(square);
+    for (int clan = 0; clan <= MaxClans; ++clan) {
+        if (crowd.Count[clan] != game.Occupancy[square][clan]) {
+            return Concat("square ", square, " counts ", int{game.Occupancy[square][clan]}, " pieces in column ", clan,
+                          " and has ", crowd.Count[clan]);
+        }
+    }
+    const auto spots = static_cast<int>(std::bitset<32>(crowd.Spots).count());
+    if (crowd.Spots != game.SpotsTaken[square] || spots != crowd.Drawn) {
         return Concat("two pieces share a spot in square ", square, ", or a taken spot is empty");
     }
     return {};

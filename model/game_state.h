@@ -6,17 +6,21 @@
 #include <type_traits>
 
 #include "files/text.h"
+#include "model/board_size.h"
+#include "model/gene_rows.h"
 #include "model/pcg32.h"
 #include "model/table.h"
 
 namespace plasmos {
 
+inline constexpr int MinClans = 3;
 inline constexpr int MaxClans = 6;
 inline constexpr int MaxPieces = 7;
-inline constexpr int MaxSquares = 36;
-inline constexpr int GeneCount = 20;
+inline constexpr int MaxSquares = MaxBoardSquares;
 inline constexpr int LastTurn = 10;
 inline constexpr int LastCard = 10;
+/// Characters of a clan's name.
+inline constexpr int LongestClanName = 20;
 /// Spots for pieces inside one square; spot 0 is "not drawn".
 inline constexpr int MaxSpots = 30;
 /// The score at which a game with the victory limit ends.
@@ -25,20 +29,18 @@ inline constexpr int VictoryScore = 42;
 inline constexpr int SquareUnits = 1200;
 /// The direction "where it wants": no step on the board, the amoeba may choose.
 inline constexpr int WhereItWants = -666;
-/// Personality bit of Ray Protection (gene 8).
-inline constexpr int RayBit = 128;
 /// A draw that has found nothing after so many tries takes the lowest legal square instead.
 inline constexpr int MaxDraws = 10000;
 
 /// One clan.
 struct Clan {
-    int Score = 0;                     ///< space of the score marker; no two clans share one after scoring
-    int MutationLevel = 0;             ///< sum of the mutation points of the genes the clan holds
-    std::int32_t Colour = 0;           ///< 0x00BBGGRR
-    std::int32_t Personality = 0;      ///< bit (gene - 1): a favourite gene of a computer clan
-    std::string_view PersonalityName;  ///< "Eater", "Mover", "Divider", "Eccentric" or "Miser"
+    int Score = 0;                  ///< space of the score marker; no two clans share one after scoring
+    int MutationLevel = 0;          ///< sum of the mutation points of the genes the clan holds
+    std::int32_t Colour = 0;        ///< 0x00BBGGRR
+    std::int32_t Personality = 0;   ///< bit (gene - 1): a favourite gene of a computer clan
+    FixedText<12> PersonalityName;  ///< "Eater", "Mover", "Divider", "Eccentric" or "Miser"; a person has none
     bool IsComputer = false;
-    FixedText<80> Name;  ///< at most 20 characters
+    FixedText<4 * LongestClanName> Name;
 };
 
 /// One amoeba piece.
@@ -73,9 +75,9 @@ struct MenuMarks {
 
 /// What a new game leaves as it is: the board and the switches.
 struct GameSetup {
-    int NumRows = 5;
-    int NumCols = 5;
-    int NumSquares = 25;
+    int NumRows = DefaultSide;
+    int NumCols = DefaultSide;
+    int NumSquares = DefaultSide * DefaultSide;
     Table<bool, 0, MaxSquares> Blocked;
     /// Square next to a square by direction number 1 right, 2 down, 3 left, 4 up; the square itself
     /// where an edge or a block stops the step. Follows from the four fields above.
@@ -140,8 +142,8 @@ struct GameTables {
     std::int64_t Decisions = 0;   ///< Move, Feed, Adapt, BuyGenes, Divide and Attack steps begun
 };
 
-/// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it points
-/// outside but to texts of the program.
+/// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it is a
+/// pointer.
 struct GameState : GameSetup, GameTables {};
 
 static_assert(std::is_trivially_copyable_v<GameState>);

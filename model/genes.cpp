@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/genes.h"
 
+#include <algorithm>
+#include <array>
+
 #include "model/narration.h"
 #include "model/presentation.h"
 #include "model/signature.h"
@@ -9,58 +12,68 @@ namespace plasmos {
 
 namespace {
 
-struct CatalogueEntry {
-    std::string_view Name;
-    int Cost;
-    int PointsFew;   ///< mutation points with 3 or 4 clans
-    int PointsMany;  ///< mutation points with 5 or 6 clans
-    int Supply3, Supply4, Supply56;
-};
-
-constexpr Table<CatalogueEntry, 0, GeneCount> Entries = [] {
-    constexpr CatalogueEntry rows[GeneCount] = {
-        {"Intelligence", 2, 3, 3, 1, 2, 3}, {"Movement 1", 3, 2, 2, 2, 2, 3},
-        {"Spores", 3, 3, 3, 1, 1, 2},       {"Speed", 4, 3, 3, 1, 2, 2},
-        {"Defence", 4, 4, 4, 1, 1, 2},      {"Escape", 4, 4, 4, 1, 2, 2},
-        {"Substitution", 4, 4, 4, 1, 1, 2}, {"Ray Protection", 5, -2, -2, 1, 2, 2},
-        {"Streamlining", 5, 4, 5, 1, 1, 2}, {"Tentacle", 5, 4, 4, 1, 2, 2},
-        {"Holding", 5, 4, 4, 1, 1, 1},      {"Life Expectancy", 5, 5, 5, 1, 2, 2},
-        {"Frugality", 6, 5, 5, 0, 1, 2},    {"Struggle for Survival", 6, 4, 5, 2, 2, 3},
-        {"Parasitism", 6, 5, 5, 0, 1, 2},   {"Division Rate", 6, 5, 5, 1, 2, 2},
-        {"Persistence", 4, 4, 4, 1, 1, 1},  {"Movement 2", 5, 5, 5, 1, 2, 2},
-        {"Aggression", 5, 5, 5, 1, 1, 1},   {"Armor", 6, 6, 6, 1, 1, 1},
-    };
-    Table<CatalogueEntry, 0, GeneCount> entries{};
+constexpr Table<GeneRow, 0, GeneCount> Rows = [] {
+    Table<GeneRow, 0, GeneCount> rows{};
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        entries[gene] = rows[gene - 1];
+        rows[gene] = GeneRows[gene - 1];
     }
-    return entries;
+    return rows;
 }();
 
-bool FamilyAllows(int clan, int gene) {
-    switch (gene) {
-        case GeneId("mv1"): return !HasGene(clan, "mv2");
-        case GeneId("spe"): return !HasGene(clan, "per");
-        case GeneId("sfs"): return !HasGene(clan, "agg");
-        case GeneId("def"):
-        case GeneId("esc"): return !HasGene(clan, "arm");
-        case GeneId("per"): return HasGene(clan, "spe");
-        case GeneId("mv2"): return HasGene(clan, "mv1");
-        case GeneId("agg"): return HasGene(clan, "sfs");
-        case GeneId("arm"): return HasGene(clan, "def") || HasGene(clan, "esc");
-        default: return true;
+/// An upgrade and a gene that it replaces.
+struct FamilyTie {
+    int Upgrade = 0;
+    int Lower = 0;
+};
+
+constexpr std::size_t TieCount = [] {
+    std::size_t count = 0;
+    for (const GeneRow& row : GeneRows) {
+        count += row.Upgrades.empty() ? 0 : 1;
+        count += row.OrElse.empty() ? 0 : 1;
     }
+    return count;
+}();
+
+/// All ties; those of an upgrade in the order of its row.
+constexpr std::array<FamilyTie, TieCount> FamilyTies = [] {
+    std::array<FamilyTie, TieCount> ties;
+    std::size_t count = 0;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        for (const auto code : {Rows[gene].Upgrades, Rows[gene].OrElse}) {
+            if (!code.empty()) {
+                ties[count++] = {gene, GeneNumber(code)};
+            }
+        }
+    }
+    return ties;
+}();
+
+static_assert(std::ranges::none_of(FamilyTies, [](const FamilyTie& tie) { return tie.Lower == 0; }),
+              "an upgrade names a code that no gene has");
+
+bool FamilyAllows(int clan, int gene) {
+    bool needsLower = false;
+    bool hasLower = false;
+    for (const FamilyTie& tie : FamilyTies) {
+        if (tie.Lower == gene && game.Genes[tie.Upgrade][clan]) {
+            return false;
+        }
+        needsLower = needsLower || tie.Upgrade == gene;
+        hasLower = hasLower || (tie.Upgrade == gene && game.Genes[tie.Lower][clan]);
+    }
+    return hasLower || !needsLower;
 }
 
-/// The gene that an upgrade replaces in the current clan; 0: none.
-int ReplacedGene(int upgrade) {
-    switch (upgrade) {
-        case GeneId("per"): return GeneId("spe");
-        case GeneId("mv2"): return GeneId("mv1");
-        case GeneId("agg"): return GeneId("sfs");
-        case GeneId("arm"): return HasGene(game.CurPlayer, "def") ? GeneId("def") : GeneId("esc");
-        default: return 0;
+/// The gene that an upgrade replaces in a clan: the first that it holds, else the last of them; 0: none.
+int ReplacedGene(int clan, int upgrade) {
+    int replaced = 0;
+    for (const FamilyTie& tie : FamilyTies) {
+        if (tie.Upgrade == upgrade && !(replaced != 0 && game.Genes[replaced][clan])) {
+            replaced = tie.Lower;
+        }
     }
+    return replaced;
 }
 
 void LoseTentacle(int clan) {
@@ -71,7 +84,7 @@ void LoseTentacle(int clan) {
 }  // namespace
 
 std::string_view GeneName(int gene) {
-    return gene >= 1 && gene <= GeneCount ? Entries[gene].Name : std::string_view{};
+    return gene >= 1 && gene <= GeneCount ? Rows[gene].Name : std::string_view{};
 }
 
 int CountGenes(int clan) {
@@ -103,7 +116,7 @@ void BuyGene(int gene) {
         Report(game.Players[clan].Name, " just bought: ", GeneName(gene));
     }
     Show(&Presentation::ShowBP, clan);
-    if (const int replaced = ReplacedGene(gene); replaced != 0) {
+    if (const int replaced = ReplacedGene(clan, gene); replaced != 0) {
         DiscardGene(replaced);
     }
     if (gene == GeneId("ten") && !game.Players[clan].IsComputer) {
@@ -123,18 +136,18 @@ void DiscardGene(int gene) {
 }
 
 int StartingSupply(int gene, int clans) {
-    const CatalogueEntry& entry = Entries[gene];
+    const GeneRow& row = Rows[gene];
     if (clans >= 5) {
-        return entry.Supply56;
+        return row.Supply56;
     }
-    return clans == 4 ? entry.Supply4 : entry.Supply3;
+    return clans == 4 ? row.Supply4 : row.Supply3;
 }
 
 void ResetGenes() {
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        const CatalogueEntry& entry = Entries[gene];
-        const int points = game.NumPlayers >= 5 ? entry.PointsMany : entry.PointsFew;
-        game.Catalogue[gene] = {StartingSupply(gene, game.NumPlayers), entry.Cost, points};
+        const GeneRow& row = Rows[gene];
+        const int points = game.NumPlayers >= 5 ? row.PointsMany : row.PointsFew;
+        game.Catalogue[gene] = {StartingSupply(gene, game.NumPlayers), row.Cost, points};
         game.Genes[gene] = {};
     }
 }
@@ -144,10 +157,10 @@ std::string MutationTip(int clan) {
 }
 
 std::string GeneTip(int gene) {
-    const CatalogueEntry& entry = Entries[gene];
+    const GeneRow& row = Rows[gene];
     const bool fewClans = game.NumPlayers == 3 || game.NumPlayers == 4;
-    const int points = gene == GeneId("sfs") && fewClans ? entry.PointsFew : entry.PointsMany;
-    return Concat(entry.Cost, " BP; UV ", points);
+    const int points = gene == GeneId("sfs") && fewClans ? row.PointsFew : row.PointsMany;
+    return Concat(row.Cost, " BP; UV ", points);
 }
 
 }  // namespace plasmos

@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <initializer_list>
+#include <string>
 #include <string_view>
 
 #include "model/game_state.h"
 
 namespace plasmos {
 
-/// The twenty genes by number. Rules ask for them by their three-letter codes.
-inline constexpr std::string_view GeneCodes[GeneCount + 1] = {"",    "int", "mv1", "spo", "spe", "def", "esc",
-                                                              "sub", "ray", "str", "ten", "hol", "lif", "fru",
-                                                              "sfs", "par", "div", "per", "mv2", "agg", "arm"};
+/// The codes of the genes by number, out of their rows. Rules ask for genes by their codes.
+inline constexpr Table<std::string_view, 0, GeneCount> GeneCodes = [] {
+    Table<std::string_view, 0, GeneCount> codes;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        codes[gene] = GeneRows[gene - 1].Code;
+    }
+    return codes;
+}();
 
-/// Gene number 1..20 of a three-letter code (lower case, exact); 0 for any other text.
+/// Gene number 1..GeneCount of a three-letter code (lower case, exact); 0 for any other text.
 constexpr int GeneNumber(std::string_view code) {
     for (int gene = 1; gene <= GeneCount; ++gene) {
         if (GeneCodes[gene] == code) {
@@ -22,19 +28,33 @@ constexpr int GeneNumber(std::string_view code) {
     return 0;
 }
 
+/// The number of a gene code written in the source; a code that no gene has does not compile.
+consteval int GeneId(const char* code) {
+    const int gene = GeneNumber(code);
+    return gene != 0 ? gene : throw code;  // NOLINT(misc-throw-by-value-catch-by-reference): never thrown
+}
+
 /// A gene code written in the source, turned into its number by the compiler.
 struct GeneCode {
-    consteval GeneCode(const char* code) : Number(GeneNumber(code)) {}
+    consteval GeneCode(const char* code) : Number(GeneId(code)) {}
 
     int Number;
 };
 
-/// The number of a gene code written in the source.
-consteval int GeneId(const char* code) {
-    return GeneNumber(code);
+/// Every gene as a set of bits: bit (gene - 1) stands for a gene.
+inline constexpr std::int32_t AllGenes = (1 << GeneCount) - 1;
+static_assert(GeneCount <= 31, "a set of genes has a bit for each");
+
+/// The same for some genes.
+consteval std::int32_t GenesOf(std::initializer_list<GeneCode> genes) {
+    std::int32_t bits = 0;
+    for (const GeneCode gene : genes) {
+        bits |= 1 << (gene.Number - 1);
+    }
+    return bits;
 }
 
-/// Display name of gene 1..20; an empty text for any other number.
+/// Display name of a gene; an empty text for any other number.
 std::string_view GeneName(int gene);
 
 /// Whether a clan holds a gene.
@@ -42,15 +62,18 @@ inline bool HasGene(int clan, GeneCode code) {
     return game.Genes[code.Number][clan];
 }
 
+/// What Ray Protection counts while a clan adapts to the UV level; it really holds -2 points.
+inline constexpr int RayCredit = 4;
+
 /// How many genes a clan holds, Ray Protection included.
 int CountGenes(int clan);
 
 /// Whether a clan may buy a gene now: it does not hold it, a copy is left, it has the BP, and the
-/// family rule allows it (an upgrade needs the lower gene, a lower gene is refused beside its upgrade).
+/// family rule allows it (an upgrade needs a lower gene, a lower gene is refused beside its upgrade).
 bool CanBuyGene(int clan, int gene);
 
-/// Gives a gene to the current clan and charges it. An upgrade discards the gene it replaces;
-/// armour takes "def" if the clan holds it and otherwise "esc".
+/// Gives a gene to the current clan and charges it. An upgrade discards the gene it replaces,
+/// the first lower one of its row that the clan holds.
 void BuyGene(int gene);
 
 /// Takes a gene from the current clan and returns it to the supply.

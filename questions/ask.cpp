@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/board_units.h"
 #include "model/narration.h"
 #include "model/observer.h"
 #include "model/presentation.h"
@@ -81,8 +82,8 @@ void SquareQuestion::Store(const Answer& answer) {
             break;
         case Answer::Kind::Square:
             square_ = answer.Number;
-            game.Reply = (answer.Number - 1) % game.NumCols * SquareUnits + SquareUnits / 2;
-            game.ReplyY = (answer.Number - 1) / game.NumCols * SquareUnits + SquareUnits / 2;
+            game.Reply = MiddleOf(answer.Number).X;
+            game.ReplyY = MiddleOf(answer.Number).Y;
             break;
         default: NoteAnswer(*this, answer, false);
     }

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "files/strings.h"
+#include "model/bio_points.h"
 #include "model/genes.h"
-#include "model/presentation.h"
 #include "questions/ask.h"
 
 namespace plasmos {
@@ -14,8 +14,6 @@ namespace {
 
 constexpr std::int32_t Blue = 0xFF0000;
 constexpr std::int32_t Red = 0x0000FF;
-/// What Ray Protection counts while a clan adapts; it really holds -2 points.
-constexpr int RayCredit = 4;
 constexpr std::size_t MostDigits = 9;
 
 /// Reads BP as they are typed: an optional sign and at most 9 digits, a fraction is cut off.

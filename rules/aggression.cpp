@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/signature.h"
@@ -41,7 +42,7 @@ bool IsAbleToAttack(int clan) {
 std::vector<int> SquaresWithVictims(int clan) {
     std::vector<int> squares;
     for (int square = 1; square <= game.NumSquares; ++square) {
-        if (game.Occupancy[square][clan] > 0 && HasVictim(clan, square)) {
+        if (game.Occupancy[square][clan] > 0 && HasVictim(square, clan)) {
             squares.push_back(square);
         }
     }
@@ -49,7 +50,7 @@ std::vector<int> SquaresWithVictims(int clan) {
 }
 
 /// Which of the clan's pieces in a square attacks; 0: none.
-int ChooseAttacker(int clan, int square) {
+int ChooseAttacker(int square, int clan) {
     AmChoicefrm form(clan, "Aggression", "Which amoeba shall attack?");
     int count = 0;
     int only = 0;
@@ -77,7 +78,7 @@ Attack AttackByPerson(int clan) {
     }
     if (AskYesNo(clan, Concat(game.Players[clan].Name, ": would you like to Aggress another amoeba now?"))) {
         const int square = AskSquare(clan, "Choose the square in which to aggress:", squares);
-        game.CurAmoeba = ChooseAttacker(clan, square);
+        game.CurAmoeba = ChooseAttacker(square, clan);
         if (game.CurAmoeba != 0) {
             AttackAmoeba(0, square, 0);
         }
@@ -92,8 +93,7 @@ Attack AttackByComputer(int clan) {
         return Attack::NobodyAsked;
     }
     game.CurAmoeba = target.Attacker;
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
+    PayBP(clan, 1);
     if (!game.Players[target.Clan].IsComputer) {
         ShowBox(target.Clan, target.IsDamaged ? "You are being attacked!" : "You are being Aggressed!");
     }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/narration.h"
-#include "model/presentation.h"
 #include "questions/ask.h"
 #include "rules/aggression.h"
 #include "rules/computer_clan.h"
@@ -16,11 +16,6 @@ namespace plasmos {
 namespace {
 
 constexpr int DefencePause = 10;
-
-void Pay(int clan) {
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
-}
 
 bool AgreesToDefend(int clan, int amoeba, bool again) {
     if (game.BP[clan] < 1) {
@@ -48,7 +43,7 @@ bool RollDefence() {
 }
 
 bool DefendOnce(int clan, int amoeba) {
-    Pay(clan);
+    PayBP(clan, 1);
     const bool beatenOff = RollDefence();
     if (beatenOff) {
         const Piece& attacker = game.Amoeba[game.CurAmoeba][game.CurPlayer];
@@ -73,7 +68,7 @@ bool AgreesToEscape(int clan, int amoeba) {
 
 void PayForEscape(int clan) {
     if (!HasGene(clan, "str")) {
-        Pay(clan);
+        PayBP(clan, 1);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/presentation.h"
@@ -187,8 +188,7 @@ bool DivideOnce(int clan, int price) {
         return false;
     }
     if (game.AmoebaCount[clan] >= 1) {
-        game.BP[clan] -= price;
-        Show(&Presentation::ShowBP, clan);
+        PayBP(clan, price);
     }
     return CreateAmoeba(clan);
 }
@@ -201,8 +201,7 @@ void DivisionPhase() {
             game.CurPlayer = clan;
             RunStep(Step::Divide, clan, 0, [&] {
                 Show(&Presentation::ShowCurrentClan, clan);
-                game.BP[clan] += DivisionIncome();
-                Show(&Presentation::ShowBP, clan);
+                GainBP(clan, DivisionIncome());
                 if (game.Players[clan].IsComputer) {
                     ComputerDivide(DivisionPrice(clan));
                 } else {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/environment.h"
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/step.h"
@@ -40,8 +41,7 @@ void GiveUpAndPay(const GeneForm& form) {
         }
     }
     if (const int paid = form.PaidBP(); paid >= 1) {
-        game.BP[form.Clan] -= paid;
-        Show(&Presentation::ShowBP, form.Clan);
+        PayBP(form.Clan, paid);
     }
 }
 
@@ -66,8 +66,7 @@ void AdaptPerson(int clan) {
 
 void AdaptComputer(int clan, int excess) {
     if (game.BP[clan] > excess) {
-        game.BP[clan] -= excess;
-        Show(&Presentation::ShowBP, clan);
+        PayBP(clan, excess);
     } else {
         ComputerAdaptEnvironment();
     }

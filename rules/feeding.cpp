@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -73,7 +74,7 @@ bool IsFighter(int clan) {
     return HasGene(clan, "sfs") || HasGene(clan, "agg");
 }
 
-bool IsVictim(int eater, int clan, int square) {
+bool IsVictim(int square, int eater, int clan) {
     if (clan == eater || game.Occupancy[square][clan] == 0) {
         return false;
     }
@@ -82,16 +83,16 @@ bool IsVictim(int eater, int clan, int square) {
     return !armour && !poor;
 }
 
-bool HasVictim(int eater, int square) {
+bool HasVictim(int square, int eater) {
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        if (IsVictim(eater, clan, square)) {
+        if (IsVictim(square, eater, clan)) {
             return true;
         }
     }
     return false;
 }
 
-bool IsHost(int eater, int clan, int square) {
+bool IsHost(int square, int eater, int clan) {
     return clan != eater && game.Occupancy[square][clan] > 0 && game.BP[clan] >= 1;
 }
 
@@ -103,7 +104,7 @@ ParasiteMeal FindParasiteMeal(int square, int clan) {
     const auto before = game.Food[square];
     int colour = NextLentColour(1, square, clan);
     for (int host = 1; host <= game.NumPlayers && meal.HostCount < 2 && meal.Menu == 0; ++host) {
-        if (!IsHost(clan, host, square)) {
+        if (!IsHost(square, clan, host)) {
             continue;
         }
         meal.Hosts[++meal.HostCount] = host;
@@ -137,8 +138,7 @@ void EatSuggestion(int menu, int square) {
 
 void EatAsParasite(const ParasiteMeal& meal, int square) {
     for (int i = 1; i <= meal.HostCount; ++i) {
-        --game.BP[meal.Hosts[i]];
-        Show(&Presentation::ShowBP, meal.Hosts[i]);
+        PayBP(meal.Hosts[i], 1);
     }
     TellOfHosts(meal);
     TakeMeal(meal.Menu, square);

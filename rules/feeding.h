@@ -27,13 +27,13 @@ bool IsFighter(int clan);
 
 /// Whether a clan is a victim for the eater in a square: another clan with a piece there that is not
 /// protected ("sfs" against "arm", or "par" against a clan without BP).
-bool IsVictim(int eater, int clan, int square);
+bool IsVictim(int square, int eater, int clan);
 
 /// Whether a square holds a victim for a clan.
-bool HasVictim(int eater, int square);
+bool HasVictim(int square, int eater);
 
 /// Whether a piece in the square could lend food to a parasite: another clan's with 1 BP.
-bool IsHost(int eater, int clan, int square);
+bool IsHost(int square, int eater, int clan);
 
 /// What parasites find: the menu, and the one or two clans that lend for it.
 struct ParasiteMeal {

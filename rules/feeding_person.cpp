@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include "model/bio_points.h"
 #include "rules/fight.h"
 
 #include "model/genes.h"
@@ -15,10 +16,10 @@ namespace plasmos {
 
 namespace {
 
-int CountHosts(int clan, int square) {
+int CountHosts(int square, int clan) {
     int hosts = 0;
     for (int host = 1; host <= game.NumPlayers && hosts < 2; ++host) {
-        hosts += IsHost(clan, host, square) ? 1 : 0;
+        hosts += IsHost(square, clan, host) ? 1 : 0;
     }
     return hosts;
 }
@@ -49,21 +50,8 @@ int MakeEatStr(const FoodForm& form) {
     return SortMenuDigits(game.MenuAmounts, game.MenuColours);
 }
 
-bool CanParasitize(int clan, int square) {
+bool CanParasitize(int square, int clan) {
     return FindParasiteMeal(square, clan).Menu != 0;
-}
-
-/// The numbers in a list of menus as it is shown.
-std::vector<int> MenusIn(std::string_view list) {
-    std::vector<int> menus;
-    for (const char c : list) {
-        if (c == ' ') {
-            menus.push_back(0);
-        } else if (c != ',') {
-            menus.back() = menus.back() * 10 + (c - '0');
-        }
-    }
-    return menus;
 }
 
 void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
@@ -71,13 +59,13 @@ void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     const int square = form.Square;
     LegalEat(0);
     form.LegalMenuLabel = Concat("Legal menu(s): ", game.LegalMenus);
-    form.LegalMenus = MenusIn(game.LegalMenus);
+    form.LegalMenus = LegalMenusOf(clan);
     form.SuggestedMenu = menu;
     form.SuggestedAmounts = SuggestedAmounts(square, clan);
     form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;
-    form.paroptEnabled = CanParasitize(clan, square);
+    form.paroptEnabled = CanParasitize(square, clan);
     if (form.paroptEnabled) {
-        form.HostCount = Concat(CountHosts(clan, square));
+        form.HostCount = Concat(CountHosts(square, clan));
     }
     form.Text = Concat("Your amoeba may eat the suggested menu in square ", square,
                        ", or using your amoebas' genes you may design your own.");
@@ -176,7 +164,7 @@ private:
         VictimForm victims(form_.Clan, "PARASITE", "Choose your Parasite-victim:", form_.Square);
         const int next = form_.fdtxt[0].Visible ? 2 : 1;
         for (const VictimFigure& figure : victims.Figures) {
-            if (IsHost(form_.Clan, figure.Clan, form_.Square) && figure.Clan != form_.Hosts[1] && next <= 2) {
+            if (IsHost(form_.Square, form_.Clan, figure.Clan) && figure.Clan != form_.Hosts[1] && next <= 2) {
                 victims.Allow(figure.Clan, figure.Amoeba);
             }
         }
@@ -196,7 +184,7 @@ private:
     void Struggle() {
         VictimForm victims(form_.Clan, "SFS", "Choose your Attack-victim:", form_.Square);
         for (const VictimFigure& figure : victims.Figures) {
-            if (IsVictim(form_.Clan, figure.Clan, form_.Square)) {
+            if (IsVictim(form_.Square, form_.Clan, figure.Clan)) {
                 victims.Allow(figure.Clan, figure.Amoeba);
             }
         }
@@ -226,8 +214,7 @@ void EatTyped(const FoodForm& form, int menu) {
 }
 
 void Fight(int square, int clan, const VictimFigure& victim) {
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
+    PayBP(clan, 1);
     bool hungry = true;
     AttackToEat(victim.Clan, square, clan, hungry, victim.Amoeba);
     if (hungry) {
@@ -258,7 +245,7 @@ void FeedByDialog(FoodForm& form) {
 }  // namespace
 
 void FeedAmoeba(int square, int clan) {
-    const bool victim = HasVictim(clan, square);
+    const bool victim = HasVictim(square, clan);
     const int menu = SuggestMenu(square, clan);
     const bool alternative = (IsFighter(clan) || HasGene(clan, "par")) && victim;
     if (menu == 0 && !alternative) {

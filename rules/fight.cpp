@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/fight.h"
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -24,7 +25,7 @@ const Piece& Attacker() {
 }
 
 /// The clan's piece in a square with the lowest (or highest) damage; the lowest number on a tie.
-int PickByDamage(int clan, int square, bool highest) {
+int PickByDamage(int square, int clan, bool highest) {
     int picked = 0;
     for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
         const Piece& piece = game.Amoeba[amoeba][clan];
@@ -66,10 +67,10 @@ void TellVictim(int clan, const Pieces&... pieces) {
 }
 
 /// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
-Victim PickByPerson(int attacker, int square) {
+Victim PickByPerson(int square, int attacker) {
     VictimForm form(attacker, "AGGRESS", "Choose the Attack-victim:", square);
     for (const VictimFigure& figure : form.Figures) {
-        if (IsVictim(attacker, figure.Clan, square)) {
+        if (IsVictim(square, attacker, figure.Clan)) {
             form.Allow(figure.Clan, figure.Amoeba);
         }
     }
@@ -78,8 +79,7 @@ Victim PickByPerson(int attacker, int square) {
     if (picked.empty()) {
         return {};
     }
-    --game.BP[attacker];
-    Show(&Presentation::ShowBP, attacker);
+    PayBP(attacker, 1);
     return {picked.front().Clan, picked.front().Amoeba};
 }
 
@@ -98,15 +98,15 @@ void Outcome(const Victim& victim, int square) {
 
 /// Whom the second attack goes against: the same clan if it still has a piece in the square, else the
 /// lowest-numbered clan that is a victim there; 0: nobody.
-int SecondVictimClan(int clan, int square) {
-    if (!HasVictim(game.CurPlayer, square)) {
+int SecondVictimClan(int square, int clan) {
+    if (!HasVictim(square, game.CurPlayer)) {
         return 0;
     }
     if (game.Occupancy[square][clan] > 0) {
         return clan;
     }
     for (int other = 1; other <= game.NumPlayers; ++other) {
-        if (IsVictim(game.CurPlayer, other, square)) {
+        if (IsVictim(square, game.CurPlayer, other)) {
             return other;
         }
     }
@@ -136,7 +136,7 @@ void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, in
     if (!game.Players[victimClan].IsComputer) {
         ShowBox(victimClan, Concat(game.Players[victimClan].Name, ": You are being attacked!"));
     }
-    const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(victimClan, square, false);
+    const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(square, victimClan, false);
     MoveBeside(victimClan, amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
     Sign(SignedEvent::Attack, attacker, victimClan, amoeba);
     TellVictim(victimClan, Attacker().Name, " of ", game.Players[attacker].Name, " attacks ",
@@ -159,9 +159,9 @@ void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
             if (game.BP[attacker] < 1) {
                 return;
             }
-            victim = PickByPerson(attacker, square);
+            victim = PickByPerson(square, attacker);
         } else if (victim.Amoeba == 0) {
-            victim.Amoeba = PickByDamage(victim.Clan, square, HasGene(victim.Clan, "arm"));
+            victim.Amoeba = PickByDamage(square, victim.Clan, HasGene(victim.Clan, "arm"));
         }
         if (victim.Amoeba == 0) {
             return;
@@ -170,7 +170,7 @@ void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
         if (!gotAway || !HasGene(attacker, "per")) {
             return;
         }
-        victim = {SecondVictimClan(victim.Clan, square), 0};
+        victim = {SecondVictimClan(square, victim.Clan), 0};
         if (victim.Clan == 0) {
             return;
         }

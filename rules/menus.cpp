@@ -2,6 +2,7 @@
 #include "rules/menus.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "model/genes.h"
@@ -11,34 +12,51 @@ namespace plasmos {
 
 namespace {
 
+/// Menus in the order in which they are shown; the first 0 ends them.
+using MenuRow = std::array<int, 5>;
+
 struct LegalMenuRow {
-    std::string_view Standard, WithSub, WithFru;
+    MenuRow Standard, WithSub, WithFru;
 };
 
-/// By number of clans, 3 to 6. Six clans eat like five.
-constexpr Table<LegalMenuRow, 3, 6> LegalMenuTable = [] {
-    Table<LegalMenuRow, 3, 6> rows{};
-    rows[3] = {" 21,", " 4, 31,", " 2, 3, 11,"};
-    rows[4] = {" 111,", " 22, 31,", " 3, 11, 21,"};
-    rows[5] = {" 1111,", " 221, 311,", " 22, 31, 111, 21, 211,"};
-    rows[6] = {" 1111,", " 221, 311,", " 22, 31, 111, 21, 211,"};
+/// By number of clans. Six clans eat like five.
+constexpr Table<LegalMenuRow, MinClans, MaxClans> LegalMenuTable = [] {
+    Table<LegalMenuRow, MinClans, MaxClans> rows{};
+    rows[3] = {{21}, {4, 31}, {2, 3, 11}};
+    rows[4] = {{111}, {22, 31}, {3, 11, 21}};
+    rows[5] = {{1111}, {221, 311}, {22, 31, 111, 21, 211}};
+    rows[6] = rows[5];
     return rows;
 }();
+
+void AddMenus(const MenuRow& row, std::vector<int>& menus) {
+    menus.insert(menus.end(), row.begin(), std::find(row.begin(), row.end(), 0));
+}
 
 constexpr int LargestDigit = 9;
 
 }  // namespace
 
-bool LegalEat(int menu) {
+std::vector<int> LegalMenusOf(int clan) {
     const LegalMenuRow& row = LegalMenuTable[game.NumPlayers];
-    game.LegalMenus = row.Standard;
-    if (HasGene(game.CurPlayer, "sub")) {
-        game.LegalMenus += row.WithSub;
+    std::vector<int> menus;
+    AddMenus(row.Standard, menus);
+    if (HasGene(clan, "sub")) {
+        AddMenus(row.WithSub, menus);
     }
-    if (HasGene(game.CurPlayer, "fru")) {
-        game.LegalMenus += row.WithFru;
+    if (HasGene(clan, "fru")) {
+        AddMenus(row.WithFru, menus);
     }
-    return game.LegalMenus.View().find(Concat(" ", menu, ",")) != std::string_view::npos;
+    return menus;
+}
+
+bool LegalEat(int menu) {
+    const std::vector<int> legal = LegalMenusOf(game.CurPlayer);
+    game.LegalMenus = "";
+    for (const int shown : legal) {
+        game.LegalMenus += Concat(" ", shown, ",");
+    }
+    return std::find(legal.begin(), legal.end(), menu) != legal.end();
 }
 
 int SortMenuDigits(Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
+#include <vector>
 
 #include "model/game_state.h"
 
@@ -10,8 +10,11 @@ namespace plasmos {
 /// A meal is written as a whole number whose digits, largest first, are the pieces eaten of each
 /// distinct foreign colour: 211 is two of one colour and one each of two others.
 
-/// Whether the current clan may eat a menu, with its genes and the number of clans in play. Keeps the
-/// legal menus in `LegalMenus`.
+/// The menus that a clan may eat, with its genes and the number of clans in play, in the order in which
+/// they are shown. What it finds in a square limits them further.
+std::vector<int> LegalMenusOf(int clan);
+
+/// Whether the current clan may eat a menu. Keeps the text of its legal menus in `LegalMenus`.
 bool LegalEat(int menu);
 
 /// Sorts the menu work lists by amount, the largest first, and gives the menu they spell.

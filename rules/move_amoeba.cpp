@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <exception>
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
 #include "model/presentation.h"
@@ -174,8 +175,7 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
         Follow(clan, amoeba, rider, destination);
     }
     if (load.DraggedAmoeba != 0 && Follow(clan, amoeba, {clan, load.DraggedAmoeba}, destination)) {
-        --game.BP[clan];
-        Show(&Presentation::ShowBP, clan);
+        PayBP(clan, 1);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/genes.h"
 #include "rules/directions.h"
 
 namespace plasmos {
@@ -8,6 +9,11 @@ namespace plasmos {
 /// Movement: every amoeba drifts with the current, unless its clan pays to try to move elsewhere, and
 /// feeds at once where it then stands. Clans act in the reverse of the order of play.
 void MovementPhase();
+
+/// Whether a clan may attempt to move twice, the second time free: with Speed or its upgrade.
+inline bool HasSpeed(int clan) {
+    return HasGene(clan, "spe") || HasGene(clan, "per");
+}
 
 /// One amoeba of a person's clan drifts, or moves after the offer; with "spe" or "per" twice.
 void MovePersonsAmoeba(int clan, int amoeba);

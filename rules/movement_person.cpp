@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <vector>
 
+#include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/presentation.h"
@@ -12,10 +13,6 @@
 namespace plasmos {
 
 namespace {
-
-bool HasSpeed(int clan) {
-    return HasGene(clan, "spe") || HasGene(clan, "per");
-}
 
 SquareList WithOwnSquare(SquareList list, int square) {
     if (!list.Has(square)) {
@@ -38,11 +35,6 @@ DriftForecast ForecastDrift(int clan, int amoeba) {
     const int destination = MoveDestination(piece.Square);
     return {destination, Concat(piece.Name, destination != piece.Square ? " will drift into " : " will remain in ",
                                 destination, ".\n")};
-}
-
-void PayForMove(int clan) {
-    --game.BP[clan];
-    Show(&Presentation::ShowBP, clan);
 }
 
 std::string OfferText(int clan, int amoeba, bool first) {
@@ -80,7 +72,7 @@ bool Attempt(int clan, int amoeba, bool first, const DriftForecast& drift) {
     }
     const bool freeAttempt = HasGene(clan, "str") || (!first && HasSpeed(clan));
     if (!freeAttempt) {
-        PayForMove(clan);
+        PayBP(clan, 1);
     }
     MoveAmoeba(clan, amoeba,
                FindPersonsDestination(clan, amoeba, first ? MoveKind::FirstAttempt : MoveKind::SecondAttempt));

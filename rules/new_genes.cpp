@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/new_genes.h"
 
+#include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/presentation.h"
 #include "model/step.h"
@@ -23,8 +24,7 @@ void BuyOrGiveBack(int gene, int clan) {
         return;
     }
     DiscardGene(gene);
-    game.BP[clan] += game.Catalogue[gene].Cost;
-    Show(&Presentation::ShowBP, clan);
+    GainBP(clan, game.Catalogue[gene].Cost);
 }
 
 void BuyPerson(int clan) {

@@ -74,27 +74,23 @@ void CheckBench(const CLI::App& app) {
     }
 }
 
-}  // namespace
+/// What is typed in words and read afterwards.
+struct TypedWords {
+    std::string Replay = "1";
+    std::string Difficulty = "normal";
+    std::string Format = "table";
+    std::string Progress = "auto";
+};
 
-SimOptions ParseOptions(int argc, const char* const* argv) {
-    SimOptions options;
-    std::string replay = "1";
-    std::string difficulty = "normal";
-    std::string format = "table";
-    std::string progress = "auto";
-    const std::map<std::string, ResultFormat> formats{
-        {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
-    const std::map<std::string, ProgressMode> modes{
-        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
-
-    CLI::App app("Plays games of Plasmos without a window.", "plasmos-sim");
+void AddGameOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
     app.add_option("--games", options.Games, "number of games (default 100)")
         ->check(CLI::Range(std::int64_t{1}, MostGames));
-    app.add_option("--replay", replay, "replay number of the first game (default 1)");
-    app.add_option("--clans", options.Clans, "number of clans, 3 to 6 (default: rolled)")->check(CLI::Range(3, 6));
+    app.add_option("--replay", words.Replay, "replay number of the first game (default 1)");
+    app.add_option("--clans", options.Clans, "number of clans, 3 to 6 (default: rolled)")
+        ->check(CLI::Range(MinClans, MaxClans));
     app.add_option("--persons", options.Persons, "seats of the robot person: none, clan 3, or clans 3 and 2")
         ->check(CLI::Range(0, 2));
-    app.add_option("--difficulty", difficulty, "easy or normal (default normal)")
+    app.add_option("--difficulty", words.Difficulty, "easy or normal (default normal)")
         ->check(CLI::IsMember({"easy", "normal"}));
     app.add_flag("--victory", options.Victory, "a game ends when a clan reaches 42 points");
     app.add_option("--rows", options.Rows, "rows of the board, 3 to 9 (default 5)")
@@ -104,17 +100,23 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     app.add_option("--blocks", options.Blocks, "blocked squares, such as 7:12:");
     app.add_option("--robot", options.Robot, "seed of the robot person (default 1)")
         ->check(CLI::Range(std::int64_t{0}, LargestSeed));
+}
+
+void AddRunOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
     app.add_option("--jobs", options.Jobs, "games at a time (default: the number of cores)")
         ->check(CLI::Range(1, MostJobs));
-    app.add_option("--format", format, "table, csv or json (default table)")
+    app.add_option("--format", words.Format, "table, csv or json (default table)")
         ->check(CLI::IsMember({"table", "csv", "json"}));
     app.add_option("--output", options.Output, "file for the results (default: standard output)");
     app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
     app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
     app.add_flag("--check", options.Check, "looks through the whole state after every step");
-    app.add_option("--progress", progress, "auto, always or never (default auto)")
+    app.add_option("--progress", words.Progress, "auto, always or never (default auto)")
         ->check(CLI::IsMember({"auto", "always", "never"}));
+}
+
+void ReadCommandLine(CLI::App& app, int argc, const char* const* argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
@@ -122,18 +124,41 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(OneLine(error.what()) + " (plasmos-sim --help tells what is allowed)");
     }
+}
+
+void CheckNames(const CLI::App& app) {
     for (const char* name : {"--output", "--journal", "--data"}) {
         if (app.count(name) != 0 && app.get_option(name)->as<std::string>().empty()) {
             throw UsageError(Concat(name, ": the name of a ", std::string_view(name) == "--data" ? "folder" : "file",
                                     " is needed, not an empty text"));
         }
     }
-    if (!ParseReplayNumber(replay, options.FirstReplay)) {
-        throw UsageError(Concat("--replay: \"", replay, "\" is no decimal number that a single holds"));
+}
+
+void ReadWords(const TypedWords& words, SimOptions& options) {
+    static const std::map<std::string, ResultFormat> formats{
+        {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
+    static const std::map<std::string, ProgressMode> modes{
+        {"auto", ProgressMode::Auto}, {"always", ProgressMode::Always}, {"never", ProgressMode::Never}};
+    if (!ParseReplayNumber(words.Replay, options.FirstReplay)) {
+        throw UsageError(Concat("--replay: \"", words.Replay, "\" is no decimal number that a single holds"));
     }
-    options.Normal = difficulty == "normal";
-    options.Format = formats.at(format);
-    options.Progress = modes.at(progress);
+    options.Normal = words.Difficulty == "normal";
+    options.Format = formats.at(words.Format);
+    options.Progress = modes.at(words.Progress);
+}
+
+}  // namespace
+
+SimOptions ParseOptions(int argc, const char* const* argv) {
+    SimOptions options;
+    TypedWords words;
+    CLI::App app("Plays games of Plasmos without a window.", "plasmos-sim");
+    AddGameOptions(app, options, words);
+    AddRunOptions(app, options, words);
+    ReadCommandLine(app, argc, argv);
+    CheckNames(app);
+    ReadWords(words, options);
     if (options.Bench && app.count("--games") == 0) {
         options.Games = BenchGames;
     }

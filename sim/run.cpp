@@ -142,62 +142,94 @@ int RunBench(const SimOptions& options) {
     return ExitCode(faulty);
 }
 
+[[noreturn]] void RefuseOnePlaceForBoth(const SimOptions& options) {
+    throw UsageError(
+        Concat("--journal: ", options.Journal, " is where the results go; the journal must have a place of its own"));
+}
+
 /// The same place for both is refused before anything waits for somebody who reads there.
-void RefuseOnePlaceForBoth(const SimOptions& options) {
+void CheckPlaces(const SimOptions& options) {
     const bool same = !options.Journal.empty() && !options.Output.empty() &&
                       (WithoutLinks(options.Journal) == WithoutLinks(options.Output)
                            ? !IdentityOf(options.Journal).KeepsNothing
                            : IdentityOf(options.Journal).IsSameAs(IdentityOf(options.Output)));
     if (same) {
-        throw UsageError(Concat("--journal: ", options.Journal,
-                                " is where the results go; the journal must have a place of its own"));
+        RefuseOnePlaceForBoth(options);
     }
 }
 
-int RunGames(const SimOptions& options) {
-    RefuseOnePlaceForBoth(options);
-    Output output(options.Output, Interrupted);
-    std::optional<Output> journal;
-    if (!options.Journal.empty()) {
-        journal.emplace(options.Journal, Interrupted);
-        if (journal->IsSameAs(output)) {
-            throw UsageError(Concat("--journal: ", options.Journal,
-                                    " is where the results go; the journal must have a place of its own"));
+/// The games of a run on their way to the results and the journal.
+class GameRun {
+public:
+    explicit GameRun(const SimOptions& options)
+        : options_(options), output_(options.Output, Interrupted), writer_(options.Format), progress_(options) {
+        if (!options.Journal.empty()) {
+            journal_.emplace(options.Journal, Interrupted);
+            if (journal_->IsSameAs(output_)) {
+                RefuseOnePlaceForBoth(options);
+            }
         }
     }
-    const auto data = OpenData(options);
-    ResultWriter writer(options.Format);
-    ProgressBar progress(options);
-    output.Write(writer.Begin());
-    const auto start = Clock::now();
-    std::int64_t games = 0;
-    bool faulty = false;
-    SimulateGames(options, data.get(), Interrupted, [&](const GameResult& result) {
-        if (journal) {
-            journal->Write(result.Journal);
+
+    /// Plays the games. True: one of them was faulty, which ended the run.
+    bool Play() {
+        const auto data = OpenData(options_);
+        output_.Write(writer_.Begin());
+        const auto start = Clock::now();
+        SimulateGames(options_, data.get(), Interrupted, [this](const GameResult& result) { return Take(result); });
+        seconds_ = SecondsSince(start);
+        progress_.Clear();
+        Finish();
+        return faulty_;
+    }
+
+    void Tell() const {
+        std::fprintf(stderr, "%" PRId64 " games in %.2f s, %.0f games per second\n", games_, seconds_,
+                     static_cast<double>(games_) / seconds_);
+    }
+
+private:
+    bool Take(const GameResult& result) {
+        if (journal_) {
+            journal_->Write(result.Journal);
         }
-        faulty = !result.Fault.empty();
-        if (faulty) {
-            progress.Clear();
-            TellFault(options, result);
+        faulty_ = !result.Fault.empty();
+        if (faulty_) {
+            progress_.Clear();
+            TellFault(options_, result);
             return false;
         }
-        output.Write(writer.Add(result));
-        ++games;
-        progress.Advance();
+        output_.Write(writer_.Add(result));
+        ++games_;
+        progress_.Advance();
         return true;
-    });
-    const double seconds = SecondsSince(start);
-    progress.Clear();
-    output.Write(writer.End());
-    output.Finish();
-    if (journal) {
-        journal->Finish();
-        journal->Commit();
     }
-    output.Commit();
-    std::fprintf(stderr, "%" PRId64 " games in %.2f s, %.0f games per second\n", games, seconds,
-                 static_cast<double>(games) / seconds);
+
+    void Finish() {
+        output_.Write(writer_.End());
+        output_.Finish();
+        if (journal_) {
+            journal_->Finish();
+            journal_->Commit();
+        }
+        output_.Commit();
+    }
+
+    const SimOptions& options_;
+    Output output_;
+    std::optional<Output> journal_;
+    ResultWriter writer_;
+    ProgressBar progress_;
+    std::int64_t games_ = 0;
+    double seconds_ = 0;
+    bool faulty_ = false;
+};
+
+int RunGames(const SimOptions& options) {
+    CheckPlaces(options);
+    GameRun run(options);
+    const bool faulty = run.Play();
+    run.Tell();
     return ExitCode(faulty);
 }
 

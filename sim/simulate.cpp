@@ -63,7 +63,7 @@ void ReadClans(GameResult& result) {
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         auto& entry = result.ByClan[clan];
         const Clan& player = game.Players[clan];
-        entry.Personality = player.IsComputer ? player.PersonalityName : "person";
+        entry.Personality = player.IsComputer ? player.PersonalityName.View() : "person";
         entry.Score = player.Score;
         entry.Amoebas = game.AmoebaCount[clan];
         entry.Genes = CountGenes(clan);

@@ -16,7 +16,7 @@ namespace plasmos {
 /// How one game ended.
 struct GameResult {
     struct ClanResult {
-        std::string_view Personality;  ///< "person" for a robot's clan
+        FixedText<12> Personality;  ///< "person" for a robot's clan
         int StartPlace = 0;
         int Score = 0;
         int Amoebas = 0;

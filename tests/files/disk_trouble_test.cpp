@@ -3,21 +3,16 @@
 #include <gmock/gmock.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <thread>
 #include <vector>
 
 #include "flow/play_game.h"
 #include "flow/start.h"
-#include "model/consistency.h"
 #include "model/services.h"
-#include "model/trace.h"
-#include "questions/ask.h"
 #include "rules/movement.h"
+#include "tests/files/disk_trouble.h"
 #include "tests/support/most_bytes.h"
-#include "tests/support/on_disk.h"
-#include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
 namespace {
@@ -27,66 +22,6 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-constexpr uid_t Nobody = 65534;
-
-/// Whom permissions stop: another user while it lives, where the tests are run by one they do not stop.
-class AsNobody {
-public:
-    AsNobody() : was_(geteuid()) {
-        if (was_ == 0 && seteuid(Nobody) != 0) {
-            ADD_FAILURE() << "cannot become another user";
-        }
-    }
-    ~AsNobody() {
-        if (geteuid() != was_ && seteuid(was_) != 0) {
-            ADD_FAILURE() << "cannot become the old user again";
-        }
-    }
-    AsNobody(const AsNobody&) = delete;
-    AsNobody& operator=(const AsNobody&) = delete;
-
-private:
-    uid_t was_;
-};
-
-class DiskTrouble : public OnDisk {
-protected:
-    DiskTrouble() {
-        fs::permissions(Home(), fs::perms(0755));
-        game.RequestedClans = 3;
-        game.FastMode = true;
-        board_.AnswerBy([](Question& question) { question.Put(Plain(Answer::Kind::Acknowledge)); });
-    }
-
-    /// What the person is told when a game of computer clans is played with the folder as it is; the
-    /// winner is no news.
-    std::vector<std::string> BoxesOfAGame() {
-        services.Files = &files;
-        board_.Boxes.clear();
-        PlayUnattended();
-        std::vector<std::string> boxes;
-        for (const auto& box : board_.Boxes) {
-            if (box.find(" wins!") == std::string::npos) {
-                boxes.push_back(box);
-            }
-        }
-        return boxes;
-    }
-    /// Two pieces that drift to the right, one square each.
-    void TwoDrift() {
-        NewPosition(3);
-        services.Files = &files;
-        game.Turn = 2;
-        game.Drift = 1;
-        Put(1, 1, 7);
-        Put(2, 1, 9);
-        MovementPhase();
-        EXPECT_EQ(CheckConsistency(), "");
-    }
-
-    ScriptedBoard board_;
-};
 
 TEST_F(DiskTrouble, AForbiddenPlaceForTheFolderIsNamedAndNoGameBegins) {
     fs::permissions(Home(), fs::perms(0555));
@@ -218,84 +153,6 @@ TEST_F(SmallDisk, MovesGoOnWhenThereIsRoomAgain) {
     EXPECT_EQ(game.Amoeba[1][1].Square, 8);
     EXPECT_EQ(game.Amoeba[1][2].Square, 10);
 }
-
-/// Names files that nobody should have, and what the person is told.
-struct NamesRow {
-    std::string_view Name;
-    void (*Lay)(const std::string& path);
-    std::string_view Told;
-};
-void PrintTo(const NamesRow& row, std::ostream* out) {
-    *out << row.Name;
-}
-void Write(const std::string& path, std::string_view bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-class OddNames : public DiskTrouble, public ::testing::WithParamInterface<NamesRow> {};
-
-TEST_P(OddNames, AreToldAndNotRepaired) {
-    files.MakeFolder();
-    fs::permissions(folder, fs::perms(0777));
-    const auto path = files.PathOf(NamesFile);
-    GetParam().Lay(path);
-    std::error_code none;
-    const auto size = fs::file_size(path, none);
-    {
-        const AsNobody nobody;
-        EXPECT_THAT(BoxesOfAGame(), ElementsAre(AllOf(HasSubstr(path), HasSubstr(std::string(GetParam().Told)))));
-    }
-    EXPECT_EQ(fs::file_size(path, none), size);
-    fs::remove_all(path);
-    EXPECT_THAT(BoxesOfAGame(), IsEmpty());
-}
-
-constexpr std::uintmax_t Huge = 100U << 20U;
-
-const NamesRow NamesRows[] = {
-    {"a_pipe", [](const std::string& path) { ASSERT_EQ(mkfifo(path.c_str(), 0666), 0); },
-     "Error #75: Path/File access error"},
-    {"a_folder", [](const std::string& path) { fs::create_directory(path); }, "Error #75: Path/File access error"},
-    {"unreadable",
-     [](const std::string& path) {
-         Write(path, "1 - Otto\n");
-         fs::permissions(path, fs::perms(0));
-     },
-     "Error #70: Permission denied"},
-    {"empty", [](const std::string& path) { Write(path, ""); }, "has 0 names for clan 1 and must have 7"},
-    {"binary",
-     [](const std::string& path) {
-         Write(path, std::string("\x7f"
-                                 "ELF\0\1\2\xff\xfe\n\r\0",
-                                 12));
-     },
-     "has 0 names for clan 1"},
-    {"utf_16",
-     [](const std::string& path) {
-         Write(path, std::string("\xff\xfe"
-                                 "1\0 \0-\0 \0O\0\n\0",
-                                 14));
-     },
-     "has 0 names for clan 1"},
-    {"a_hundred_megabytes_without_an_end",
-     [](const std::string& path) {
-         Write(path, "1 - Otto\n1 - Olga\n");
-         fs::resize_file(path, Huge);
-     },
-     "has 2 names for clan 1"},
-    {"a_hundred_megabytes_of_lines",
-     [](const std::string& path) {
-         std::string lines;
-         while (lines.size() < 1U << 20U) {
-             lines += "6 - Ysak\n";
-         }
-         std::ofstream file(path, std::ios::binary);
-         for (int megabyte = 0; megabyte < 100; ++megabyte) {
-             file << lines;
-         }
-     },
-     "has 0 names for clan 1"},
-};
-INSTANTIATE_TEST_SUITE_P(Names, OddNames, ::testing::ValuesIn(NamesRows), RowName());
 
 TEST_F(DiskTrouble, TwoWritersDoNotGetInEachOthersWay) {
     files.MakeFolder();

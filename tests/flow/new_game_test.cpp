@@ -3,17 +3,12 @@
 
 #include <gmock/gmock.h>
 
-#include <numeric>
-#include <set>
-
 #include "files/settings_store.h"
-#include "flow/names.h"
-#include "flow/personalities.h"
 #include "model/services.h"
 #include "questions/ask.h"
 #include "questions/choice_forms.h"
+#include "tests/flow/begin.h"
 #include "tests/support/game_fixture.h"
-#include "tests/support/memory_files.h"
 #include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
@@ -21,16 +16,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class NewGameTest : public GameTest {
-protected:
-    static void Begin(float replay, int clans) {
-        game.HasRequestedReplay = true;
-        game.RequestedReplay = replay;
-        game.RequestedClans = clans;
-        game.AutoPlay = true;
-        NewGame();
-    }
-};
+class NewGameTest : public GameTest {};
 
 TEST_F(NewGameTest, TheDeckHasItsUvValuesAndDriftsByDie) {
     NewPosition(3, 4, 6);
@@ -67,89 +53,6 @@ TEST_F(NewGameTest, UvAndDriftAreShuffledIndependently) {
     }
     EXPECT_THAT(uv, ElementsAre(10, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9));
     EXPECT_EQ(game.UVLevel, 10) << "card 0 is in force until the first environment step";
-}
-
-/// The dice of dealing and what the clans get. Clan 3 is a person's in every row.
-struct DealRow {
-    std::string_view Name;
-    int Clans;
-    bool Normal;
-    std::vector<int> Rolls;
-    std::vector<std::string> Names;
-    std::vector<std::int32_t> Masks;
-};
-void PrintTo(const DealRow& row, std::ostream* out) {
-    *out << row.Name;
-}
-class Deals : public GameRows<DealRow> {};
-
-TEST_P(Deals, Personalities) {
-    NewPosition(GetParam().Clans);
-    Person(3);
-    game.Menu.normmen = GetParam().Normal;
-    const Script rolls(GetParam().Rolls);
-    DealPersonalities();
-    std::vector<std::string> names;
-    std::vector<std::int32_t> masks;
-    for (int clan = 1; clan <= GetParam().Clans; ++clan) {
-        if (game.Players[clan].IsComputer) {
-            names.emplace_back(game.Players[clan].PersonalityName);
-            masks.push_back(game.Players[clan].Personality);
-        }
-    }
-    EXPECT_EQ(names, GetParam().Names);
-    EXPECT_EQ(masks, GetParam().Masks);
-}
-
-const DealRow DealRows[] = {
-    {"three_clans_draw_from_five_cards", 3, false, {1, 4}, {"Eater", "Eater"}, {0x4A006, 0x4A006}},
-    {"the_last_card_takes_the_place_of_the_drawn_one",
-     4,
-     false,
-     {1, 1, 1},
-     {"Eater", "Miser", "Eccentric"},
-     {0x4A006, 0x5002, 0x650}},
-    {"the_divider_keeps_its_high_bits_beside_an_eater",
-     4,
-     false,
-     {3, 1, 2},
-     {"Divider", "Eater", "Mover"},
-     {-32606, 0x4A006, 0x2012A}},
-    {"without_an_eater_favourites_are_thinned_out",
-     4,
-     false,
-     {2, 3, 3},
-     {"Mover", "Divider", "Eccentric"},
-     {0x2010A, 0xF8082, 0x640}},
-    {"normal_difficulty_adds_ray_protection",
-     4,
-     true,
-     {1, 2, 3},
-     {"Eater", "Mover", "Divider"},
-     {0x4A086, 0x201AA, -32606 | 0x80}},
-    {"normal_difficulty_without_an_eater",
-     4,
-     true,
-     {2, 5, 4},
-     {"Mover", "Eccentric", "Eater"},
-     {0x201AA, 0x6D0, 0x4A086}},
-};
-INSTANTIATE_TEST_SUITE_P(NewGame, Deals, ::testing::ValuesIn(DealRows), RowName());
-
-TEST_F(NewGameTest, TheMiserIsNeverDealtWithThreeClans) {
-    std::set<std::string_view> three;
-    std::set<std::string_view> six;
-    for (int replay = 1; replay <= 300; ++replay) {
-        for (const int clans : {3, 6}) {
-            Begin(static_cast<float>(replay), clans);
-            for (int clan = 1; clan <= clans; ++clan) {
-                (clans == 3 ? three : six).insert(game.Players[clan].PersonalityName);
-            }
-        }
-    }
-    EXPECT_EQ(three.count("Miser"), 0U);
-    EXPECT_EQ(three.size(), 4U);
-    EXPECT_EQ(six.count("Miser"), 1U);
 }
 
 TEST_F(NewGameTest, EveryClanStartsAlike) {
@@ -241,85 +144,6 @@ TEST_F(NewGameTest, ClanNamesComeFromTheSettings) {
     EXPECT_EQ(game.Players[4].Name, "Thirty characters ar");
     services.Settings = nullptr;
 }
-
-TEST_F(NewGameTest, NoTwoPiecesOfAClanShareAName) {
-    Begin(77, 6);
-    for (int clan = 1; clan <= 6; ++clan) {
-        std::set<std::string_view> names;
-        for (int piece = 1; piece <= 6; ++piece) {
-            names.insert(game.Amoeba[piece][clan].Name.View());
-        }
-        EXPECT_EQ(names.size(), 6U);
-        EXPECT_EQ(names.count(""), 0U);
-    }
-}
-
-TEST_F(NewGameTest, NamesAreDrawnFromWhatIsLeftInTheOrderOfTheFile) {
-    NewPosition(3);
-    std::vector<int> rolls(21, 1);
-    rolls[0] = 14;
-    rolls[1] = 2;
-    const Script script(rolls);
-    LoadAmoebaNames();
-    EXPECT_EQ(game.Amoeba[1][1].Name, "Otto");
-    EXPECT_EQ(game.Amoeba[2][1].Name, "Offa");
-    EXPECT_EQ(game.Amoeba[3][1].Name, "Oddr");
-    EXPECT_EQ(game.Amoeba[1][2].Name, "Baterich");
-    EXPECT_EQ(game.Amoeba[7][3].Name, "Grendel");
-}
-
-TEST_F(NewGameTest, NamesOfTheFileAreDealtFitForALine) {
-    MemoryFiles files;
-    const std::string euro = "\u20AC";
-    std::string longName;
-    while (longName.size() < 200) {
-        longName += euro;
-    }
-    files.Files["zynames.txt"] = "1 - a\u2028b\n1 - \u202E\n1 - " + longName +
-                                 "\n1 - <b>c</b>\n1 - d\te\n1 - f\u0085\n1 - " + std::string(3000, 'x') +
-                                 "\n1 - \u2066g\u2069h\n1 - i\n";
-    NewPosition(3);
-    game.NumPlayers = 1;
-    const Script script(std::vector<int>(7, 1));
-    LoadAmoebaNames();
-    EXPECT_EQ(game.Amoeba[1][1].Name, "a b");
-    EXPECT_EQ(game.Amoeba[2][1].Name.View(), longName.substr(0, 60)) << "a line of blanks has no name";
-    EXPECT_EQ(game.Amoeba[3][1].Name, "<b>c</b>");
-    EXPECT_EQ(game.Amoeba[4][1].Name, "d e");
-    EXPECT_EQ(game.Amoeba[5][1].Name, "f");
-    EXPECT_EQ(game.Amoeba[6][1].Name.View(), std::string(60, 'x'));
-    EXPECT_EQ(game.Amoeba[7][1].Name, "g h");
-}
-
-struct NameLineRow {
-    std::string_view Name;
-    std::string_view Line;
-    int Clan;
-    std::string_view Given;
-};
-void PrintTo(const NameLineRow& row, std::ostream* out) {
-    *out << row.Name;
-}
-class NameLines : public GameRows<NameLineRow> {};
-
-TEST_P(NameLines, AreRead) {
-    const NameLine line = ParseNameLine(GetParam().Line);
-    EXPECT_EQ(line.Clan, GetParam().Clan);
-    EXPECT_EQ(line.Name, GetParam().Given);
-}
-
-const NameLineRow NameLineRows[] = {
-    {"the_form_of_the_file", "1 - Oddr", 1, "Oddr"},
-    {"blanks_around", "   6 -   Yorick the Long  ", 6, "Yorick the Long"},
-    {"without_a_blank_before_the_name", "2 -Bruno", 2, "Bruno"},
-    {"clan_7", "7 - Nobody", 0, ""},
-    {"clan_0", "0 - Nobody", 0, ""},
-    {"without_a_hyphen", "1 Oddr", 0, ""},
-    {"without_a_name", "3 - ", 0, ""},
-    {"empty", "", 0, ""},
-    {"a_remark", "# names", 0, ""},
-};
-INSTANTIATE_TEST_SUITE_P(NewGame, NameLines, ::testing::ValuesIn(NameLineRows), RowName());
 
 TEST_F(NewGameTest, TheStartingOrderIsShuffledByOneDieAPlace) {
     Begin(3, 4);

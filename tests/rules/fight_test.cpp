@@ -4,8 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "rules/move_amoeba.h"
-#include "tests/support/game_fixture.h"
-#include "tests/support/scripted_board.h"
+#include "tests/rules/fights.h"
 
 namespace plasmos::testing {
 namespace {
@@ -14,33 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr int Spot = 9;
-
-/// A1 of clan 1, a computer clan, fights in square 13.
-class Fights : public GameTest {
-protected:
-    Fights() {
-        NewPosition(4);
-        Put(1, 1, 13, 10);
-        game.BP[2] = game.BP[3] = game.BP[4] = 3;
-    }
-    /// Pieces of a clan in 13 with their damage; the first is number 1.
-    static void Victims(int clan, std::initializer_list<int> damage) {
-        int amoeba = 0;
-        for (const int each : damage) {
-            Put(clan, ++amoeba, 13);
-            game.Amoeba[amoeba][clan].Damage = each;
-        }
-    }
-    static bool IsGone(int clan, int amoeba) { return game.Amoeba[amoeba][clan].Square == 0; }
-
-    bool Eats(int clan, int amoeba = 0) {
-        bool hungry = false;
-        AttackToEat(clan, 13, 1, hungry, amoeba);
-        return !hungry;
-    }
-
-    ScriptedBoard board;
-};
 
 class Eating : public Fights {};
 
@@ -282,63 +254,6 @@ TEST_F(Attacks, ArmourHurtIsNoReasonToAttackAgain) {
     Give(2, "arm");
     AttackAmoeba(2, 13, 0);
     EXPECT_EQ(game.Amoeba[1][2].Damage, 1);
-}
-
-class PersonsAttack : public Fights {
-protected:
-    PersonsAttack() {
-        Person(1);
-        Give(1, "agg");
-        game.BP[1] = 2;
-        Put(1, 2, 13);
-        Victims(2, {0, 0});
-        Victims(3, {0});
-    }
-};
-
-TEST_F(PersonsAttack, PicksItsVictimAndPays) {
-    board.Then(Pick({{2, 2}}));
-    AttackAmoeba(0, 13, 0);
-    EXPECT_THAT(board.Questions[0].Offered, ElementsAre(21, 22, 31)) << "its own piece cannot be marked";
-    EXPECT_TRUE(IsGone(2, 2));
-    EXPECT_EQ(game.BP[1], 1);
-    EXPECT_TRUE(game.DialogMode.Empty());
-}
-
-TEST_F(PersonsAttack, APickOfNobodyEndsItUnpaid) {
-    board.Then(Pick({}));
-    AttackAmoeba(0, 13, 0);
-    EXPECT_EQ(game.BP[1], 2);
-    EXPECT_THAT(board.LogLines, IsEmpty());
-}
-
-TEST_F(PersonsAttack, TheProtectedCannotBeMarked) {
-    Give(1, "par");
-    game.BP[2] = 0;
-    board.Then(Pick({{3, 1}}));
-    AttackAmoeba(0, 13, 0);
-    EXPECT_THAT(board.Questions[0].Offered, ElementsAre(31)) << "the poor are safe from parasites";
-}
-
-TEST_F(PersonsAttack, PersistencePicksAndPaysAgain) {
-    Give(1, "per");
-    Give(2, "def");
-    board.Then({Pick({{2, 2}}), Pick({{3, 1}})});
-    Script script({1, 2});
-    AttackAmoeba(0, 13, 0);
-    EXPECT_TRUE(IsGone(3, 1));
-    EXPECT_EQ(game.BP[1], 0);
-}
-
-TEST_F(PersonsAttack, PersistenceWithoutAnotherBPIsOver) {
-    Give(1, "per");
-    Give(2, "def");
-    game.BP[1] = 1;
-    board.Then(Pick({{2, 2}}));
-    Script script({1, 2});
-    AttackAmoeba(0, 13, 0);
-    EXPECT_EQ(game.BP[1], 0);
-    EXPECT_EQ(board.Questions.size(), 1U);
 }
 
 }  // namespace

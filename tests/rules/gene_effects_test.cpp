@@ -150,7 +150,7 @@ const GeneRow GeneRows[] = {
     {"parasitism_borrows_what_is_missing", "par", 1, [](bool)
      { Feed(13, {0, 1, 1, 0}); return DamageAfterFeeding({}); }, 1, 0},
     {"parasitism_spares_the_poor", "par", 1, [](bool)
-     { Put(1, 1, 13); Put(2, 1, 13); return HasVictim(1, 13) ? 1 : 0; }, 1, 0},
+     { Put(1, 1, 13); Put(2, 1, 13); return HasVictim(13, 1) ? 1 : 0; }, 1, 0},
     {"division_rate_divides_for_less", "div", 1, [](bool) { return DivisionPrice(1); }, 6, 4},
     {"persistence_defends_itself_twice", "per", 2, [](bool holds)
      { Give(2, "def"); return SurvivesAnAttack(holds ? Rolls{2, 1, 1, 2} : Rolls{2, 1}); }, 0, 1},

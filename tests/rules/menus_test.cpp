@@ -46,6 +46,20 @@ TEST_P(LegalMenus, AreThese) {
     EXPECT_EQ(game.LegalMenus.View(), row.Legal);
 }
 
+TEST_P(LegalMenus, AreListedAsTheyAreShown) {
+    const LegalRow& row = GetParam();
+    NewPosition(row.Clans);
+    for (const auto code : row.Genes) {
+        Give(3, code);
+    }
+    game.CurPlayer = 1;
+    std::string shown;
+    for (const int menu : LegalMenusOf(3)) {
+        shown += Concat(" ", menu, ",");
+    }
+    EXPECT_EQ(shown, row.Legal);
+}
+
 // clang-format off
 const LegalRow LegalRows[] = {
     {"three_clans_eat_21", 3, {}, " 21,", {21}, {0, 1, 2, 4, 11, 12, 31, 111, 211}},

@@ -47,7 +47,7 @@ void NewPosition(int clans, int rows, int cols, std::string_view blocks) {
 
 void Person(int clan) {
     game.Players[clan].IsComputer = false;
-    game.Players[clan].PersonalityName = {};
+    game.Players[clan].PersonalityName = "";
 }
 
 void Put(int clan, int amoeba, int square, int slot) {

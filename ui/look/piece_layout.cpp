@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/board_units.h"
 #include "model/game_state.h"
 
 namespace plasmos {
@@ -80,14 +81,13 @@ std::vector<Lying> PiecesIn(int square) {
 }  // namespace
 
 QPointF SquareCorner(int square) {
-    const int place = std::max(square - 1, 0);
-    const int row = place / game.NumCols;
-    const int column = place % game.NumCols;
-    return QPointF(column, row) * SquareUnits;
+    const BoardPoint corner = CornerOf(std::max(square, 1));
+    return QPoint(corner.X, corner.Y);
 }
 
 QPointF SquareMiddle(int square) {
-    return SquareCorner(square) + QPointF(SquareUnits / 2.0, SquareUnits / 2.0);
+    const BoardPoint middle = MiddleOf(std::max(square, 1));
+    return QPoint(middle.X, middle.Y);
 }
 
 QPointF SpotCentre(int spot, int square, double radius) {

@@ -11,17 +11,12 @@
 #include "files/game_files.h"
 #include "files/runtime_error.h"
 #include "files/settings_store.h"
+#include "model/game_state.h"
 #include "ui/look/card.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
 namespace plasmos {
-
-namespace {
-
-constexpr int LongestName = 20;
-
-}  // namespace
 
 OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files)
     : QDialog(parent), settings_(settings), files_(files), model_(settings), tbsOptions_(new QTabWidget(this)) {
@@ -108,7 +103,7 @@ QWidget* OptionsDialog::MakeNamesPage() {
         const auto index = static_cast<std::size_t>(clan);
         auto* name = new QLineEdit(ToQt(model_.Names[index]), page);
         name->setObjectName(QStringLiteral("pname%1").arg(clan));
-        name->setMaxLength(LongestName);
+        name->setMaxLength(LongestClanName);
         connect(name, &QLineEdit::textChanged, this,
                 [this, index](const QString& text) { model_.Names[index] = text.toStdString(); });
         pname_[index] = name;

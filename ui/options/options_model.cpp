@@ -4,23 +4,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "files/encoding.h"
 #include "files/game_files.h"
 #include "files/runtime_error.h"
 #include "files/settings_store.h"
-#include "files/strings.h"
 #include "files/text.h"
+#include "flow/clan_names.h"
 #include "flow/start.h"
 
 namespace plasmos {
 
 namespace {
-
-constexpr int LongestName = 20;
-
-std::string DefaultName(int clan) {
-    return Concat("Player ", clan);
-}
 
 int CeilDivide(int number, int by) {
     return (number + by - 1) / by;
@@ -40,8 +33,7 @@ OptionsModel::OptionsModel(const SettingsStore& settings) {
         markers_.push_back({(square - 1) % cols_ * Unit, (square - 1) / cols_ * Unit});
     }
     for (int clan = 1; clan <= 6; ++clan) {
-        const auto name = FirstCharacters(settings.Get("players", Concat("name", clan), {}), LongestName);
-        Names[static_cast<std::size_t>(clan)] = Trim(name).empty() ? DefaultName(clan) : name;
+        Names[static_cast<std::size_t>(clan)] = SavedClanName(settings, clan);
     }
 }
 
@@ -218,11 +210,9 @@ std::string OptionsModel::SaveBoard(SettingsStore& settings, GameFiles& files) c
     return settings.Save("board", "blockno", Concat(Blocks())) ? fault : CannotSave(settings);
 }
 
-// A name that is the default one is not written; an earlier one stays in the store.
 std::string OptionsModel::SaveNames(SettingsStore& settings) const {
     for (int clan = 1; clan <= 6; ++clan) {
-        const std::string name = FirstCharacters(Names[static_cast<std::size_t>(clan)], LongestName);
-        if (name != DefaultName(clan) && !settings.Save("players", Concat("name", clan), name)) {
+        if (!SaveClanName(settings, clan, Names[static_cast<std::size_t>(clan)])) {
             return CannotSave(settings);
         }
     }

@@ -2,19 +2,16 @@
 //
 // The window is closed in the middle of games: each one unwinds at once and the program ends with 0.
 
-#include <QAction>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
-#include <csignal>
 #include <cstdlib>
 #include <cstring>
-#include <functional>
 
 #include "files/game_files.h"
 #include "model/services.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
+#include "tests/ui/support/closing_board.h"
 #include "tests/ui/support/program.h"
 #include "tests/ui/support/scene.h"
 #include "ui/app/auto_person.h"
@@ -22,57 +19,6 @@
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
-
-namespace {
-
-/// How the end comes.
-enum class Way { Close, Quit, End, Signal, Application };
-constexpr Way Ways[] = {Way::Close, Way::Quit, Way::End, Way::Signal, Way::Application};
-
-/// Counts waits and pauses, and brings the end about at one of them.
-class ClosingBoard : public UBoard {
-public:
-    int At = 0;  ///< 0: never
-    Way How = Way::Close;
-    int Count = 0;
-    QElapsedTimer Since;
-    std::function<void()> OnAt;  ///< happens instead of an end
-
-    void Wait() override {
-        Next();
-        UBoard::Wait();
-    }
-    void Pause(int units) override {
-        Next();
-        UBoard::Pause(units);
-    }
-
-private:
-    void Next() {
-        if (++Count != At) {
-            return;
-        }
-        if (OnAt) {
-            OnAt();
-        } else {
-            SetSpeed(0.2);
-            QMetaObject::invokeMethod(
-                this, [this] { BringAbout(); }, Qt::QueuedConnection);
-        }
-    }
-    void BringAbout() {
-        Since.start();
-        switch (How) {
-            case Way::Close: close(); return;
-            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(); return;
-            case Way::End: EndProgram(); return;
-            case Way::Signal: std::raise(SIGTERM); return;
-            case Way::Application: QCoreApplication::quit(); return;
-        }
-    }
-};
-
-}  // namespace
 
 class ClosingTest : public QObject {
     Q_OBJECT

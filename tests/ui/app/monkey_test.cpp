@@ -16,6 +16,7 @@
 #include "model/pcg32.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
+#include "tests/ui/support/enrich.h"
 #include "tests/ui/support/scene.h"
 #include "ui/app/auto_person.h"
 #include "ui/board/puddle_view.h"
@@ -168,13 +169,7 @@ void MonkeyTest::playsAbout() {
         }
         if (game.Turn == 1 && !enriched && seed % 2 == 0) {
             enriched = true;
-            for (const char* code : {"hol", "ten", "par", "sfs"}) {
-                const int gene = GeneNumber(code);
-                if (!game.Genes[gene][3] && game.Catalogue[gene].Supply >= 1) {
-                    Give(3, code);
-                }
-            }
-            game.BP[3] += 30;
+            Enrich(3, {"hol", "ten", "par", "sfs"}, 30);
         }
         if (const auto fault = CheckConsistency(); game.Turn >= 1 && game.Turn <= LastTurn && !fault.empty()) {
             scene.Fail(Concat("seed ", seed, ", ", acts, " acts before calm: ", fault));

@@ -2,11 +2,7 @@
 //
 // Whole games in the window, from Go to the winner.
 
-#include <QAction>
-#include <QDir>
-#include <QFile>
 #include <QTextEdit>
-#include <QWindow>
 #include <array>
 #include <cstring>
 
@@ -17,6 +13,8 @@
 #include "questions/question.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
+#include "tests/ui/support/enrich.h"
+#include "tests/ui/support/meddle.h"
 #include "tests/ui/support/scene.h"
 #include "ui/app/auto_person.h"
 #include "ui/board/puddle_view.h"
@@ -73,43 +71,12 @@ void SetUp(Scene& scene, const Row& row, int replay) {
     }
 }
 
-/// Gives the persons' clans genes and BP, so that every kind of question comes up.
-void Enrich() {
+/// Every kind of question comes up then.
+void EnrichPersons() {
     for (int clan = 2; clan <= 3; ++clan) {
-        if (game.Players[clan].IsComputer) {
-            continue;
+        if (!game.Players[clan].IsComputer) {
+            Enrich(clan, {"agg", "hol", "ten", "str"}, 60);
         }
-        for (const char* code : {"agg", "hol", "ten", "str"}) {
-            const int gene = GeneNumber(code);
-            if (!game.Genes[gene][clan] && game.Catalogue[gene].Supply >= 1) {
-                Give(clan, code);
-            }
-        }
-        game.BP[clan] += 60;
-        Show(&Presentation::ShowBP, clan);
-    }
-}
-
-/// What a person does that must not answer: the game stands as it stood.
-void Meddle(Scene& scene, const Question& question) {
-    const GameState before = game;
-    if (question.Kind != QuestionKind::Square) {
-        scene.ClickSquare(1 + scene.Asked() % game.NumSquares);
-    }
-    if (question.Kind != QuestionKind::YesNo) {
-        for (const char* name : {"yesb", "nob"}) {
-            if (scene.Sees(QString::fromLatin1(name))) {
-                scene.Click(QString::fromLatin1(name));
-            }
-        }
-        QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Y);
-        QTest::keyClick(scene.Board().windowHandle(), Qt::Key_N);
-    }
-    scene.Board().gob_Click();
-    scene.Board().watch_Click();
-    scene.Menu(QStringLiteral("watchmen"));
-    if (std::memcmp(&before, &game, sizeof(GameState)) != 0) {
-        scene.Fail("something has answered or changed: " + question.Text);
     }
 }
 
@@ -134,7 +101,7 @@ private:
             Meddle(scene, question);
             if (row.Rich && game.Turn == 1 && !rich_) {
                 rich_ = true;
-                Enrich();
+                EnrichPersons();
             }
             if (question.Kind == QuestionKind::Number && question.Clan == 0) {
                 scene.Click(QStringLiteral("amopt%1").arg(row.Clans));

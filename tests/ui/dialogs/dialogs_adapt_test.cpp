@@ -2,51 +2,12 @@
 //
 // The gene dialog while a person adapts to the UV level.
 
-#include <QLabel>
-
 #include "model/consistency.h"
 #include "rules/environment.h"
-#include "rules/new_genes.h"
-#include "tests/ui/support/position.h"
+#include "tests/ui/support/adapting.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
-
-namespace {
-
-const std::string Changed =
-    "The environment has changed.\nYou must pay the difference in BP between your amoebas' mutation-point value and "
-    "the environmental UV-level, and/or discard genes until the difference is reduced to 0 or below.";
-const std::string Refused =
-    "You must make up the difference between the current environmental UV-level and the sum mutation-point value of "
-    "your amoebas' genes by discarding genes and/or spending BP until the difference (\"UV cost\") is 0";
-const std::string Offer = "Clan Player 3, you have %1 BP.\nWould you like to buy new Genes?";
-
-QString Box(const char* code) {
-    return QStringLiteral("gcheck%1").arg(GeneNumber(code));
-}
-
-std::string OfferWith(int bp) {
-    return QString::fromStdString(Offer).arg(bp).toStdString();
-}
-
-bool IsBlue(Scene& scene) {
-    return scene.Find(QStringLiteral("UVdiff"))->palette().color(QPalette::WindowText) == QColor(0, 0, 255);
-}
-
-}  // namespace
-
-/// A clan with "def", "esc" and "sub", 12 points, under a UV level of 8.
-class AdaptScene : public PositionScene {
-public:
-    explicit AdaptScene(int bp) {
-        Give(3, {"def", "esc", "sub"});
-        game.BP[3] = bp;
-        game.EnvDeck[1] = {8, 1};
-    }
-    QString Cost() { return Text(QStringLiteral("UVdiff")); }
-    void ThenGenes(std::function<void()> act) { Then(QuestionKind::Genes, std::move(act)); }
-};
 
 class DialogsAdaptTest : public QObject {
     Q_OBJECT
@@ -60,12 +21,6 @@ private slots:
     void rayProtectionCountsFour();
     void withoutBp();
     void atTheLevelNothingHappens();
-    void doneIsRefused();
-    void theTextForBp_data();
-    void theTextForBp();
-    void theResetButton();
-    void closingIsDone_data();
-    void closingIsDone();
     void twoPersonsOneAfterTheOther();
 };
 
@@ -214,154 +169,6 @@ void DialogsAdaptTest::atTheLevelNothingHappens() {
     QCOMPARE(scene.Asked(), 0);
     QCOMPARE(game.BP[3], 3);
     QCOMPARE(scene.Text(QStringLiteral("UVlab")), QStringLiteral("12"));
-}
-
-void DialogsAdaptTest::doneIsRefused() {
-    AdaptScene scene(3);
-    scene.ThenGenes([&] {
-        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("3"));
-        scene.Click(QStringLiteral("doneb"));
-        QCOMPARE(game.BP[3], 3);
-    });
-    scene.Then(QuestionKind::Box, [&] {
-        QCOMPARE(scene.Text(QStringLiteral("boxlab")).toStdString(), Refused);
-        QVERIFY(!scene.Enabled(QStringLiteral("gcheck5")));
-        if (scene.Sees(Box("def"))) {
-            scene.Press(scene.Find(Box("def")));
-        }
-        scene.Click(QStringLiteral("okb"));
-    });
-    scene.ThenGenes([&] {
-        QCOMPARE(scene.Cost(), QStringLiteral("4"));
-        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("0"));
-        QVERIFY(!scene.Sees(QStringLiteral("resetb")));
-        QVERIFY(scene.Ticked(Box("def")) && scene.Ticked(Box("esc")) && scene.Ticked(Box("sub")));
-        scene.Click(Box("def"));
-        scene.Click(QStringLiteral("doneb"));
-    });
-    PHASE(scene, EnvironmentPhase());
-    QCOMPARE(game.BP[3], 3);
-    QCOMPARE(HeldGenes(3), std::string("esc sub"));
-}
-
-void DialogsAdaptTest::theTextForBp_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("becomes");
-    QTest::addColumn<QString>("cost");
-    QTest::addColumn<int>("left");
-    QTest::newRow("all of them") << "3"
-                                 << "3"
-                                 << "-3" << 0;
-    QTest::newRow("a plus") << "+2"
-                            << "+2"
-                            << "-2" << 1;
-    QTest::newRow("a fraction is cut off") << "2.9"
-                                           << "2.9"
-                                           << "-2" << 1;
-    QTest::newRow("blanks") << " 1 "
-                            << " 1 "
-                            << "-1" << 2;
-    QTest::newRow("negative: neither paid nor refunded") << "-2"
-                                                         << "-2"
-                                                         << "2" << 3;
-    QTest::newRow("letters") << "abc"
-                             << "0"
-                             << "0" << 3;
-    QTest::newRow("too large") << "4"
-                               << "0"
-                               << "0" << 3;
-    QTest::newRow("empty") << ""
-                           << "0"
-                           << "0" << 3;
-    QTest::newRow("forty digits") << "1111111111111111111111111111111111111111"
-                                  << "0"
-                                  << "0" << 3;
-    QTest::newRow("ten digits") << "0000000001"
-                                << "0"
-                                << "0" << 3;
-    QTest::newRow("a hexadecimal") << "0x2"
-                                   << "0"
-                                   << "0" << 3;
-    QTest::newRow("an exponent") << "1e0"
-                                 << "0"
-                                 << "0" << 3;
-    QTest::newRow("two signs") << "+-1"
-                               << "0"
-                               << "0" << 3;
-}
-
-void DialogsAdaptTest::theTextForBp() {
-    QFETCH(QString, text);
-    QFETCH(QString, becomes);
-    QFETCH(QString, cost);
-    QFETCH(int, left);
-    AdaptScene scene(3);
-    scene.ThenGenes([&] {
-        scene.Click(Box("def"));
-        if (text.isEmpty()) {
-            scene.Type(QStringLiteral("EnvBP"), text);
-        } else {
-            scene.Paste(QStringLiteral("EnvBP"), text);
-        }
-        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), becomes);
-        QCOMPARE(scene.Cost(), cost);
-        if (cost == QStringLiteral("2")) {
-            scene.Click(Box("esc"));
-            QCOMPARE(scene.Text(QStringLiteral("EnvBP")), becomes);
-        }
-        scene.Click(QStringLiteral("doneb"));
-    });
-    PHASE(scene, EnvironmentPhase());
-    QCOMPARE(game.BP[3], left);
-}
-
-void DialogsAdaptTest::theResetButton() {
-    AdaptScene scene(3);
-    scene.ThenGenes([&] {
-        scene.Click(Box("def"));
-        scene.Click(Box("sub"));
-        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("1"));
-        QCOMPARE(scene.Cost(), QStringLiteral("-5"));
-        scene.Click(QStringLiteral("resetb"));
-        QCOMPARE(scene.Cost(), QStringLiteral("4"));
-        QCOMPARE(scene.Text(QStringLiteral("EnvBP")), QStringLiteral("0"));
-        QVERIFY(scene.Ticked(Box("def")) && scene.Ticked(Box("sub")));
-        QVERIFY(!scene.Sees(QStringLiteral("resetb")));
-        scene.Click(Box("sub"));
-        QVERIFY(scene.Sees(QStringLiteral("resetb")));
-        QCOMPARE(scene.Cost(), QStringLiteral("0"));
-        scene.Click(QStringLiteral("doneb"));
-    });
-    PHASE(scene, EnvironmentPhase());
-    QCOMPARE(HeldGenes(3), std::string("def esc"));
-    QCOMPARE(game.BP[3], 3);
-}
-
-void DialogsAdaptTest::closingIsDone_data() {
-    QTest::addColumn<bool>("key");
-    QTest::newRow("the cross") << false;
-    QTest::newRow("Escape") << true;
-}
-
-void DialogsAdaptTest::closingIsDone() {
-    QFETCH(bool, key);
-    const auto close = [key](Scene& scene) {
-        key ? scene.Key(QStringLiteral("doneb"), Qt::Key_Escape) : scene.Click(QStringLiteral("closeb"));
-    };
-    AdaptScene scene(3);
-    scene.ThenGenes([&] { close(scene); });
-    scene.ThenBox(Refused);
-    scene.ThenGenes([&] {
-        scene.Click(Box("sub"));
-        close(scene);
-    });
-    PHASE(scene, EnvironmentPhase());
-    QCOMPARE(HeldGenes(3), std::string("def esc"));
-    game.BP[3] = 9;
-    scene.ThenYes(OfferWith(9));
-    scene.ThenGenes([&] { close(scene); });
-    PHASE(scene, NewGenesPhase());
-    QCOMPARE(game.BP[3], 9);
 }
 
 void DialogsAdaptTest::twoPersonsOneAfterTheOther() {

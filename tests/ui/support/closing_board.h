@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMetaObject>
+#include <csignal>
+#include <functional>
+
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+/// How the end comes.
+enum class Way { Close, Quit, End, Signal, Application };
+inline constexpr Way Ways[] = {Way::Close, Way::Quit, Way::End, Way::Signal, Way::Application};
+
+/// Counts waits and pauses, and brings the end about at one of them.
+class ClosingBoard : public UBoard {
+public:
+    int At = 0;  ///< 0: never
+    Way How = Way::Close;
+    int Count = 0;
+    QElapsedTimer Since;
+    std::function<void()> OnAt;  ///< happens instead of an end
+
+    void Wait() override {
+        Next();
+        UBoard::Wait();
+    }
+    void Pause(int units) override {
+        Next();
+        UBoard::Pause(units);
+    }
+
+private:
+    void Next() {
+        if (++Count != At) {
+            return;
+        }
+        if (OnAt) {
+            OnAt();
+        } else {
+            SetSpeed(0.2);
+            QMetaObject::invokeMethod(
+                this, [this] { BringAbout(); }, Qt::QueuedConnection);
+        }
+    }
+    void BringAbout() {
+        Since.start();
+        switch (How) {
+            case Way::Close: close(); return;
+            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(); return;
+            case Way::End: EndProgram(); return;
+            case Way::Signal: std::raise(SIGTERM); return;
+            case Way::Application: QCoreApplication::quit(); return;
+        }
+    }
+};
+
+}  // namespace plasmos::testing
