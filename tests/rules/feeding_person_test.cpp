@@ -289,7 +289,7 @@ TEST_F(PersonsParasite, IsToldWhenThereIsNoFurtherHost) {
     Feed(13, {0, 1, 0, 0});
     std::string told;
     const auto look = Do("look, then eat", [&](Question& question) {
-        told = board.Message();
+        told = game.Message.String();
         dynamic_cast<FoodForm&>(question).fdtxt_Change(2, "1");
         dynamic_cast<FoodForm&>(question).eatb_Click();
     });

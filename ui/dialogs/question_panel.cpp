@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "model/presentation.h"
+#include "model/game_state.h"
 #include "questions/ask.h"
 #include "questions/choice_forms.h"
 #include "questions/food_form.h"
@@ -52,8 +52,9 @@ void RefuseRepeats(QWidget* control) {
     control->installEventFilter(new RepeatFilter(control));
 }
 
-QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QString& title)
+QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Question& question, const QString& title)
     : Card(parent),
+      state_(state),
       question_(question),
       clan_(question.Clan),
       title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
@@ -108,7 +109,7 @@ int QuestionPanel::HeightWith(bool message, int width) const {
 }
 
 void QuestionPanel::ShowMessage(bool on) {
-    const QString text = ToQt(Board().Message());
+    const QString text = ToQt(state_.Message);
     if (message_->text() != text) {
         message_->setText(text);
     }
@@ -211,14 +212,17 @@ bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
 
 namespace {
 
-std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
+std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, const GameState& state, Question& question) {
     switch (question.Kind) {
-        case QuestionKind::Number: return std::make_unique<NumberPanel>(parent, static_cast<AmNumfrm&>(question));
-        case QuestionKind::Amoeba: return std::make_unique<AmoebaPanel>(parent, static_cast<AmChoicefrm&>(question));
-        case QuestionKind::Food: return std::make_unique<FoodPanel>(parent, static_cast<FoodForm&>(question));
-        case QuestionKind::Victim: return std::make_unique<VictimPanel>(parent, static_cast<VictimForm&>(question));
-        case QuestionKind::Genes: return std::make_unique<GenePanel>(parent, static_cast<GeneForm&>(question));
-        case QuestionKind::Box: return std::make_unique<BoxPanel>(parent, static_cast<BoxQuestion&>(question));
+        case QuestionKind::Number:
+            return std::make_unique<NumberPanel>(parent, state, static_cast<AmNumfrm&>(question));
+        case QuestionKind::Amoeba:
+            return std::make_unique<AmoebaPanel>(parent, state, static_cast<AmChoicefrm&>(question));
+        case QuestionKind::Food: return std::make_unique<FoodPanel>(parent, state, static_cast<FoodForm&>(question));
+        case QuestionKind::Victim:
+            return std::make_unique<VictimPanel>(parent, state, static_cast<VictimForm&>(question));
+        case QuestionKind::Genes: return std::make_unique<GenePanel>(parent, state, static_cast<GeneForm&>(question));
+        case QuestionKind::Box: return std::make_unique<BoxPanel>(parent, state, static_cast<BoxQuestion&>(question));
         case QuestionKind::YesNo:
         case QuestionKind::Square: break;
     }
@@ -227,8 +231,8 @@ std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
 
 }  // namespace
 
-std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
-    auto panel = PanelFor(parent, question);
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, const GameState& state, Question& question) {
+    auto panel = PanelFor(parent, state, question);
     if (panel) {
         panel->TakeControls();
     }
