@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <charconv>
 #include <concepts>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace plasmos {
 
@@ -15,7 +17,7 @@ namespace plasmos {
 template <int Capacity>
 class FixedText {
 public:
-    static_assert(Capacity < 256);
+    static_assert(Capacity < 65536);
 
     constexpr FixedText() = default;
     constexpr FixedText(std::string_view text) { *this = text; }
@@ -27,7 +29,7 @@ public:
             --length;
         }
         std::copy_n(text.begin(), length, text_);
-        length_ = static_cast<unsigned char>(length);
+        length_ = static_cast<Length>(length);
         return *this;
     }
 
@@ -42,7 +44,7 @@ public:
         const auto room = static_cast<std::size_t>(Capacity - length_);
         const auto added = std::min(more.size(), room);
         std::copy_n(more.begin(), added, text_ + length_);
-        length_ = static_cast<unsigned char>(length_ + added);
+        length_ = static_cast<Length>(length_ + added);
         return *this;
     }
 
@@ -51,9 +53,11 @@ public:
     friend constexpr bool operator==(const FixedText& a, const char* b) { return a.View() == b; }
 
 private:
+    using Length = std::conditional_t<(Capacity < 256), std::uint8_t, std::uint16_t>;
+
     static constexpr bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
-    unsigned char length_ = 0;
+    Length length_ = 0;
     char text_[Capacity]{};
 };
 

@@ -123,7 +123,7 @@ void RecordFoodHistory() {
 
 void ScorePhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "Scoring");
+        BeginPhase("Scoring");
         RunStep(Step::Score, 0, 0, [] {
             for (int place = 1; place <= game.NumPlayers; ++place) {
                 ScoreClan(ClanAtPlace(place));

@@ -11,16 +11,22 @@ struct BoardPoint {
     int Y = 0;
 };
 
-/// The top left corner of a square of the current board.
-inline BoardPoint CornerOf(int square) {
+/// The top left corner of a square of a game's board, the current one's where none is named.
+inline BoardPoint CornerOf(const GameState& state, int square) {
     const int place = square - 1;
-    return {place % game.NumCols * SquareUnits, place / game.NumCols * SquareUnits};
+    return {place % state.NumCols * SquareUnits, place / state.NumCols * SquareUnits};
+}
+inline BoardPoint CornerOf(int square) {
+    return CornerOf(game, square);
 }
 
 /// The middle of a square: a click there is meant for it.
-inline BoardPoint MiddleOf(int square) {
-    const BoardPoint corner = CornerOf(square);
+inline BoardPoint MiddleOf(const GameState& state, int square) {
+    const BoardPoint corner = CornerOf(state, square);
     return {corner.X + SquareUnits / 2, corner.Y + SquareUnits / 2};
+}
+inline BoardPoint MiddleOf(int square) {
+    return MiddleOf(game, square);
 }
 
 }  // namespace plasmos

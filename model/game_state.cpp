@@ -41,6 +41,7 @@ constinit thread_local GameState game = NewState();
 
 void ResetTables() {
     static_cast<GameTables&>(game) = EmptyTables;
+    game.Message = "";
 }
 
 void SetBoard(int rows, int cols, std::string_view blocks) {

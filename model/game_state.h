@@ -29,6 +29,8 @@ inline constexpr int VictoryScore = 42;
 inline constexpr int SquareUnits = 1200;
 /// The direction "where it wants": no step on the board, the amoeba may choose.
 inline constexpr int WhereItWants = -666;
+/// Bytes of the longest text in the message line: lines with the longest names, one below the other.
+inline constexpr int MessageBytes = 1500;
 /// A draw that has found nothing after so many tries takes the lowest legal square instead.
 inline constexpr int MaxDraws = 10000;
 
@@ -102,6 +104,8 @@ struct GameTables {
     int UVLevel = 0;
     float ReplayNo = 0;  ///< the seed of this game's dice
     bool GameOver = false;
+    /// "Movement", "Environment", "New genes", "Division", "Aggression" or "Scoring"; "" before the first.
+    FixedText<12> Phase;
 
     int Reply = 0;   ///< 6 yes, 7 no, a click's x, or a number chosen
     int ReplyY = 0;  ///< a click's y; not 0 when a victim has been picked
@@ -123,6 +127,9 @@ struct GameTables {
     Table<Table<int, 0, MaxClans>, 0, MaxSquares> Food;   ///< [square][clan's colour]
     Table<Table<Table<int, 0, LastTurn>, 0, MaxClans>, 0, MaxSquares> FoodHistory;
     Table<Table<Piece, 0, MaxClans>, 0, MaxPieces> Amoeba;  ///< [piece][clan]
+    /// [gene][clan]: which of the game's purchases the gene was, from 1; 0: never bought.
+    Table<Table<int, 0, MaxClans>, 0, GeneCount> BoughtAs;
+    int Purchases = 0;  ///< genes bought in this game
     /// Pieces per square and clan; column 0 counts every clan's. Kept by PutPiece and LiftPiece.
     Table<Table<std::int8_t, 0, MaxClans>, 0, MaxSquares> Occupancy;
     Table<std::uint32_t, 0, MaxSquares> SpotsTaken;  ///< bit n: spot n of the square is taken
@@ -142,9 +149,14 @@ struct GameTables {
     std::int64_t Decisions = 0;   ///< Move, Feed, Adapt, BuyGenes, Divide and Attack steps begun
 };
 
+/// What stands in the message line of whoever reads it. A new game empties it.
+struct GameMessage {
+    FixedText<MessageBytes> Message;  ///< lines parted by "\n"; a game that nobody reads has none
+};
+
 /// The one game. Every rule reads and writes it by name. A copy is the game as it stood: nothing in it is a
 /// pointer.
-struct GameState : GameSetup, GameTables {};
+struct GameState : GameSetup, GameTables, GameMessage {};
 
 static_assert(std::is_trivially_copyable_v<GameState>);
 
@@ -158,14 +170,22 @@ void ResetTables();
 /// them 1..rows x columns. Raises error 5 where the bounds are left.
 void SetBoard(int rows, int cols, std::string_view blocks = {});
 
+// What is asked of a state can be asked of any; without one it is the current game's.
+
 /// Whether a square is one of the board's and not covered by a block.
+inline bool IsValidSquare(const GameState& state, int square) {
+    return square >= 1 && square <= state.NumSquares && !state.Blocked[square];
+}
 inline bool IsValidSquare(int square) {
-    return square >= 1 && square <= game.NumSquares && !game.Blocked[square];
+    return IsValidSquare(game, square);
 }
 
 /// The clan at a place of the order of play, 1..NumPlayers.
+inline int ClanAtPlace(const GameState& state, int place) {
+    return state.PlayOrder[place];
+}
 inline int ClanAtPlace(int place) {
-    return game.PlayOrder[place];
+    return ClanAtPlace(game, place);
 }
 
 /// Puts a piece on a square and a spot (0: not drawn) and counts it there.

@@ -87,10 +87,10 @@ std::string_view GeneName(int gene) {
     return gene >= 1 && gene <= GeneCount ? Rows[gene].Name : std::string_view{};
 }
 
-int CountGenes(int clan) {
+int CountGenes(const GameState& state, int clan) {
     int count = 0;
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        count += game.Genes[gene][clan] ? 1 : 0;
+        count += state.Genes[gene][clan] ? 1 : 0;
     }
     return count;
 }
@@ -110,6 +110,7 @@ void BuyGene(int gene) {
     game.Players[clan].MutationLevel += record.MutationPoints;
     --record.Supply;
     game.Genes[gene][clan] = true;
+    game.BoughtAs[gene][clan] = ++game.Purchases;
     Sign(SignedEvent::Purchase, clan, gene);
     Show(&Presentation::ShowGenes, clan);
     if (game.Players[clan].IsComputer) {
@@ -152,13 +153,13 @@ void ResetGenes() {
     }
 }
 
-std::string MutationTip(int clan) {
-    return Concat("Mutation level: ", game.Players[clan].MutationLevel);
+std::string MutationTip(const GameState& state, int clan) {
+    return Concat("Mutation level: ", state.Players[clan].MutationLevel);
 }
 
-std::string GeneTip(int gene) {
+std::string GeneTip(const GameState& state, int gene) {
     const GeneRow& row = Rows[gene];
-    const bool fewClans = game.NumPlayers == 3 || game.NumPlayers == 4;
+    const bool fewClans = state.NumPlayers == 3 || state.NumPlayers == 4;
     const int points = gene == GeneId("sfs") && fewClans ? row.PointsFew : row.PointsMany;
     return Concat(row.Cost, " BP; UV ", points);
 }

@@ -58,15 +58,21 @@ consteval std::int32_t GenesOf(std::initializer_list<GeneCode> genes) {
 std::string_view GeneName(int gene);
 
 /// Whether a clan holds a gene.
+inline bool HasGene(const GameState& state, int clan, GeneCode code) {
+    return state.Genes[code.Number][clan];
+}
 inline bool HasGene(int clan, GeneCode code) {
-    return game.Genes[code.Number][clan];
+    return HasGene(game, clan, code);
 }
 
 /// What Ray Protection counts while a clan adapts to the UV level; it really holds -2 points.
 inline constexpr int RayCredit = 4;
 
 /// How many genes a clan holds, Ray Protection included.
-int CountGenes(int clan);
+int CountGenes(const GameState& state, int clan);
+inline int CountGenes(int clan) {
+    return CountGenes(game, clan);
+}
 
 /// Whether a clan may buy a gene now: it does not hold it, a copy is left, it has the BP, and the
 /// family rule allows it (an upgrade needs a lower gene, a lower gene is refused beside its upgrade).
@@ -86,11 +92,17 @@ void ResetGenes();
 int StartingSupply(int gene, int clans);
 
 /// "Mutation level: " and a clan's level, the tool tip of its gene list.
-std::string MutationTip(int clan);
+std::string MutationTip(const GameState& state, int clan);
+inline std::string MutationTip(int clan) {
+    return MutationTip(game, clan);
+}
 
 /// "2 BP; UV 3": cost and mutation points of a gene as the gene dialog shows them. They are those of
 /// a game of 5 or 6 clans; with fewer clans only "Struggle for Survival" is shown with its 4 points,
 /// "Streamlining" keeps its 5.
-std::string GeneTip(int gene);
+std::string GeneTip(const GameState& state, int gene);
+inline std::string GeneTip(int gene) {
+    return GeneTip(game, gene);
+}
 
 }  // namespace plasmos

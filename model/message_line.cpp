@@ -20,14 +20,22 @@ void StartTime(int units) {
     game.PauseOwed = game.MessageUnits = units;
 }
 
+/// Where nobody reads there is no text either.
+void Put(std::string_view text, int clan) {
+    if (Board().WantsText()) {
+        game.Message = text;
+    }
+    Board().ShowMessage(text, clan);
+}
+
 bool LeavesMessage(std::string_view text) {
-    const std::string before = Board().Message();
+    const std::string_view before = game.Message;
     return text.size() > before.size() && text[before.size()] == '\n' && text.substr(0, before.size()) == before;
 }
 
 void Replace(std::string_view text, int clan, int units) {
     LetMessageBeRead();
-    Board().ShowMessage(text, clan);
+    Put(text, clan);
     StartTime(units);
 }
 
@@ -38,7 +46,7 @@ void ShowStatement(std::string_view text, int clan) {
 }
 
 void AddStatement(std::string_view text, int clan) {
-    Board().ShowMessage(BelowMessage(text), clan);
+    Put(BelowMessage(text), clan);
     StartTime(std::max(game.MessageUnits, UnitsFor(clan)));
 }
 
@@ -50,14 +58,14 @@ void Concern(int clan) {
 
 void ShowQuestionText(std::string_view text, int clan) {
     if (LeavesMessage(text)) {
-        Board().ShowMessage(text.substr(text.front() == '\n' ? 1 : 0), clan);
+        Put(text.substr(text.front() == '\n' ? 1 : 0), clan);
     } else {
         Replace(text, clan, 0);
     }
 }
 
 void PutBackMessage(const std::string& before, int clan) {
-    if (Board().Message() != before) {
+    if (game.Message != before) {
         Replace(before, clan, 0);
     }
 }
@@ -67,8 +75,7 @@ void ClearMessage() {
 }
 
 std::string BelowMessage(std::string_view text) {
-    const std::string before = Board().Message();
-    return before.empty() ? std::string(text) : Concat(before, "\n", text);
+    return game.Message.Empty() ? std::string(text) : Concat(game.Message, "\n", text);
 }
 
 void LetMessageBeRead() {

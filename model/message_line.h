@@ -8,10 +8,10 @@
 
 namespace plasmos {
 
-// The message line. Whatever replaces its text goes through here, and first makes up the pause that the
-// text is still owed: a statement stands for 4 pause units, one that concerns a person's clan for 10, and
-// the pauses that the rules take while it stands count. What a question shows is read when it is answered
-// and owes nothing. In fast mode and without a window nothing is made up.
+// The message line, whose text the state holds. Whatever replaces its text goes through here, and first makes up the
+// pause that the text is still owed: a statement stands for 4 pause units, one that concerns a person's clan for 10,
+// and the pauses that the rules take while it stands count. What a question shows is read when it is answered and owes
+// nothing. In fast mode and without a window nothing is made up.
 
 /// Time to read what a computer clan tells in, in pause units.
 inline constexpr int TellingPause = 4;
@@ -33,6 +33,11 @@ void ShowQuestionText(std::string_view text, int clan);
 
 /// A text that stood there before a question has it again.
 void PutBackMessage(const std::string& before, int clan);
+
+/// A game begins: no text stands there any more, whatever is shown.
+inline void ForgetMessage() {
+    game.Message = "";
+}
 
 /// The message line without text.
 void ClearMessage();

@@ -27,15 +27,13 @@ public:
     virtual bool WantsText() const { return true; }
 
     // ---- the message line and the log ----
-    /// Replaces the text of the message line. The colours are those of the clan; 0: no clan's.
+    /// Replaces the text of the message line, which the state holds. The colours are those of the clan; 0: no clan's.
     virtual void ShowMessage(std::string_view /*text*/, int /*clan*/) {}
-    /// The text of the message line as it stands.
-    virtual std::string Message() const { return {}; }
     /// Empties the log and begins it with the game's header line.
     virtual void StartLog(std::string_view /*header*/) {}
     /// One line of narration for the log, about a clan; 0: about none alone.
     virtual void Log(std::string_view /*line*/, int /*clan*/) {}
-    /// A phase of the turn begins ("Movement", "Environment", ...); Turn is set.
+    /// A phase of the turn begins ("Movement", "Environment", ...); Turn and Phase are set.
     virtual void ShowPhase(std::string_view /*phase*/) {}
 
     // ---- labels ----
@@ -101,6 +99,12 @@ void Show(void (Presentation::*what)(Parameters...), Arguments&&... arguments) {
     if (services.Window != nullptr) {
         (services.Window->*what)(std::forward<Arguments>(arguments)...);
     }
+}
+
+/// A phase of the turn begins.
+inline void BeginPhase(std::string_view phase) {
+    game.Phase = phase;
+    Show(&Presentation::ShowPhase, phase);
 }
 
 }  // namespace plasmos

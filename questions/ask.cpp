@@ -152,23 +152,23 @@ bool AskYesNo(int clan, const std::string& text, int about) {
 }
 
 bool AskYesNoBelow(int clan, const std::string& text) {
-    const std::string before = Board().Message();
+    const std::string before = game.Message.String();
     ShowQuestionText(BelowMessage(text), clan);
     const bool yes = WaitForYes(clan, text, 0);
     PutBackMessage(before, game.CurPlayer);
     return yes;
 }
 
-int SquareAt(int x, int y) {
+int SquareAt(const GameState& state, int x, int y) {
     if (x < 0 || y < 0) {
         return 0;
     }
     const int col = x / SquareUnits;
     const int row = y / SquareUnits;
-    if (col >= game.NumCols || row >= game.NumRows) {
+    if (col >= state.NumCols || row >= state.NumRows) {
         return 0;
     }
-    return row * game.NumCols + col + 1;
+    return row * state.NumCols + col + 1;
 }
 
 int AskSquare(int clan, const std::string& text, const std::vector<int>& offered) {

@@ -119,7 +119,10 @@ bool AskYesNoBelow(int clan, const std::string& text);
 int AskSquare(int clan, const std::string& text, const std::vector<int>& offered);
 
 /// The square at a point in board units; 0: no square there.
-int SquareAt(int x, int y);
+int SquareAt(const GameState& state, int x, int y);
+inline int SquareAt(int x, int y) {
+    return SquareAt(game, x, y);
+}
 
 /// A message box for the person who plays a clan (0: for whoever sits at the screen). In games of
 /// computer clans only it is a line of the log.

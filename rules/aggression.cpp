@@ -148,7 +148,7 @@ void RemoveAmoeba(int clan, int amoeba) {
 
 void AggressionPhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "Aggression");
+        BeginPhase("Aggression");
         RunStep(Step::Deaths, 0, 0, [] { BuryTheDead(); });
         if (SomebodyIsAbleToAttack()) {
             RunStep(Step::Attack, 0, 0, [] { AttackOnce(); });

@@ -195,7 +195,7 @@ bool DivideOnce(int clan, int price) {
 
 void DivisionPhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "Division");
+        BeginPhase("Division");
         for (int place = 1; place <= game.NumPlayers; ++place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;

@@ -91,14 +91,14 @@ void Adapt(int clan) {
 
 }  // namespace
 
-std::string_view DirectionText(int direction) {
+std::string_view DirectionText(const GameState& state, int direction) {
     if (direction == 1)
         return "Right";
-    if (direction == game.NumCols)
+    if (direction == state.NumCols)
         return "Down";
     if (direction == -1)
         return "Left";
-    if (direction == -game.NumCols)
+    if (direction == -state.NumCols)
         return "Up";
     if (direction == 0)
         return "in place";
@@ -107,7 +107,7 @@ std::string_view DirectionText(int direction) {
 
 void EnvironmentPhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "Environment");
+        BeginPhase("Environment");
         RunStep(Step::Environment, 0, 0, [] { TurnCard(); });
         for (int place = 1; place <= game.NumPlayers; ++place) {
             Adapt(ClanAtPlace(place));

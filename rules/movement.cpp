@@ -38,7 +38,7 @@ void ActAmoeba(int clan, int amoeba) {
 
 void MovementPhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "Movement");
+        BeginPhase("Movement");
         for (int place = game.NumPlayers; place >= 1; --place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;

@@ -121,7 +121,7 @@ int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) 
     for (int place = 1; place <= offered.Count(); ++place) {
         squares.push_back(offered[place]);
     }
-    const std::string before = Board().Message();
+    const std::string before = game.Message.String();
     const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares);
     PutBackMessage(before, clan);
     return chosen;

@@ -64,7 +64,7 @@ bool OffersGenes(int clan) {
 
 void NewGenesPhase() {
     GuardPhase([] {
-        Show(&Presentation::ShowPhase, "New genes");
+        BeginPhase("New genes");
         for (int place = 1; place <= game.NumPlayers; ++place) {
             const int clan = ClanAtPlace(place);
             game.CurPlayer = clan;

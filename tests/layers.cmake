@@ -2,7 +2,8 @@
 #
 # Checks that includes point one way, between the rooms of the core and between those of the window; and
 # that what lies below the window includes no header of Qt. What the rules show in the message line, and
-# their pauses, go through its unit. Run with -D SOURCES=<folder of the sources>.
+# their pauses, go through its unit. What the window is made of shows the state it is given; only the window
+# itself and the programs name the current game. Run with -D SOURCES=<folder of the sources>.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -67,6 +68,20 @@ foreach(layer questions rules ai flow)
         foreach(line IN LISTS lines)
             message("${shown}: model/message_line.h lets a line be read first: ${line}")
             math(EXPR faults "${faults} + 1")
+        endforeach()
+    endforeach()
+endforeach()
+foreach(layer ui/look ui/board ui/dialogs ui/strip ui/options)
+    file(GLOB files ${SOURCES}/${layer}/*.h ${SOURCES}/${layer}/*.cpp)
+    foreach(file IN LISTS files)
+        file(RELATIVE_PATH shown ${SOURCES} ${file})
+        file(STRINGS ${file} lines REGEX "game")
+        foreach(line IN LISTS lines)
+            string(REGEX REPLACE "\"[^\"]*\"|//.*" "" code "${line}")
+            if(code MATCHES "(^|[^A-Za-z_0-9])game([^A-Za-z_0-9]|$)")
+                message("${shown}: a part of the window shows the state it is given: ${line}")
+                math(EXPR faults "${faults} + 1")
+            endif()
         endforeach()
     endforeach()
 endforeach()

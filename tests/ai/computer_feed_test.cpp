@@ -160,9 +160,9 @@ TEST_F(ComputerMeal, OfEqualAmountsTheHighestScoresAreEaten) {
 
 TEST_F(ComputerMeal, StarvingIsANewLineAndOneDamage) {
     game.Amoeba[1][1].Damage = 1;
-    board.ShowMessage("A1 moves resignedly into 13", 1);
+    game.Message = "A1 moves resignedly into 13";
     ComputerFeedAmoeba(1, 1, 13);
-    EXPECT_EQ(board.Message(), "A1 moves resignedly into 13\nA1 starves in 13");
+    EXPECT_EQ(game.Message, "A1 moves resignedly into 13\nA1 starves in 13");
     EXPECT_THAT(board.LogLines, ElementsAre("A1 starves in 13"));
     EXPECT_EQ(game.Amoeba[1][1].Damage, 2);
     EXPECT_EQ(game.Amoeba[1][1].Square, 13) << "it dies in the aggression step";

@@ -54,7 +54,7 @@ TEST_P(ComputerMove, GoesByTheRules) {
     EXPECT_EQ(game.Amoeba[1][1].Square, row.Lands);
     EXPECT_EQ(row.BP - game.BP[1], row.Paid);
     EXPECT_EQ(board.LogLines, row.Lines);
-    EXPECT_EQ(board.Message(), row.Lines.back());
+    EXPECT_EQ(game.Message, row.Lines.back());
 }
 
 /// Clan 1 can eat in these squares.

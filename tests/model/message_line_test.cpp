@@ -83,10 +83,10 @@ protected:
 TEST_F(Standing, ThePauseComesBeforeTheNextLineIsShown) {
     std::string shown;
     Say("First");
-    board.OnPause = [&] { shown = board.Message(); };
+    board.OnPause = [&] { shown = game.Message.String(); };
     Say("Next");
     EXPECT_EQ(shown, "First");
-    EXPECT_EQ(board.Message(), "Next");
+    EXPECT_EQ(game.Message, "Next");
 }
 
 TEST_F(Standing, ThePauseComesBeforeABoxOpens) {
@@ -101,13 +101,13 @@ TEST_F(Standing, AQuestionBelowIsAskedInItsOwnWordsAndGoesAgain) {
     Say("First");
     std::string shown;
     board.Then(Do("look", [&](Question&) {
-        shown = board.Message();
+        shown = game.Message.String();
         yesb_Click();
     }));
     EXPECT_TRUE(AskYesNoBelow(3, "Really?"));
     EXPECT_EQ(board.Questions[0].Text, "Really?");
     EXPECT_EQ(shown, "First\nReally?");
-    EXPECT_EQ(board.Message(), "First");
+    EXPECT_EQ(game.Message, "First");
 }
 
 TEST_F(Standing, BelowNothingTheQuestionIsAlone) {
@@ -121,7 +121,7 @@ TEST_F(Standing, AGameThatIsLeftInThePauseUnwinds) {
     board.OnPause = [] { throw GameLeft{}; };
     EXPECT_THROW(Say("Next"), GameLeft);
     board.OnPause = {};
-    EXPECT_EQ(board.Message(), "First");
+    EXPECT_EQ(game.Message, "First");
     board.Pauses.clear();
     NewPosition(3);
     Say("Another game");

@@ -30,11 +30,11 @@ TEST_F(Choosing, OffersTheNeighboursOnceEach) {
 
 TEST_F(Choosing, AddsToTheMessageAndPutsItBack) {
     Put(2, 3, 13);
-    board.ShowMessage("B3 will drift into 14.", 2);
+    game.Message = "B3 will drift into 14.";
     board.Then(Square(8));
     ChooseSquare(2, 3, true);
     EXPECT_EQ(board.Questions[0].Text, "B3 will drift into 14.\nChoose a square for B3 to Move into:");
-    EXPECT_EQ(board.Message(), "B3 will drift into 14.");
+    EXPECT_EQ(game.Message, "B3 will drift into 14.");
 }
 
 TEST_F(Choosing, WithAnEmptyMessageBeginsWithTheQuestion) {

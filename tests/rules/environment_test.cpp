@@ -123,7 +123,7 @@ TEST_F(EnvironmentTest, APersonSeesTheDifferenceAndItsBp) {
                     "The environment has changed.\nYou must pay the difference in BP between your "
                     "amoebas' mutation-point value and the environmental UV-level, and/or discard genes "
                     "until the difference is reduced to 0 or below.")));
-    EXPECT_EQ(board.Message(), "");
+    EXPECT_EQ(game.Message, "");
 }
 
 TEST_F(EnvironmentTest, APersonWithoutBpSeesNoFieldForIt) {

@@ -79,7 +79,7 @@ TEST_F(PersonsParasite, IsToldWhenThereIsNoFurtherHost) {
     Feed(13, {0, 1, 0, 0});
     std::string told;
     const auto look = Do("look, then eat", [&](Question& question) {
-        told = board.Message();
+        told = game.Message.String();
         question.Put(TypedInto(Answer::Kind::Field, 2, "1"));
         question.Put(WithAmounts(Answer::Kind::Eat, {}));
     });

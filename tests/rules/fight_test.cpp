@@ -156,7 +156,7 @@ TEST_F(Attacks, TearTheLeastDamagedToPieces) {
     EXPECT_TRUE(IsGone(2, 2));
     EXPECT_THAT(FoodOn(13), ElementsAre(2, 2, 2, 2)) << "twice what an eaten amoeba leaves";
     EXPECT_THAT(board.LogLines, ElementsAre("A1 picking a fight with B2 in 13", "B2 torn viciously to pieces!!!"));
-    EXPECT_EQ(board.Message(), "A1 picking a fight with B2 in 13\nB2 torn viciously to pieces!!!");
+    EXPECT_EQ(game.Message, "A1 picking a fight with B2 in 13\nB2 torn viciously to pieces!!!");
     EXPECT_THAT(board.Pauses, ElementsAre(15, 15));
     EXPECT_EQ(game.BP[1], 0) << "the aggression step has paid";
 }

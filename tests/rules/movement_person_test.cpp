@@ -61,7 +61,7 @@ TEST_P(PersonsMove, GoesByTheRules) {
     }
     EXPECT_EQ(asked, row.Asked);
     EXPECT_EQ(board.LogLines, row.Told);
-    EXPECT_EQ(board.Message(), "") << "nothing is left in the message line";
+    EXPECT_EQ(game.Message, "") << "nothing is left in the message line";
 }
 
 const std::string Drifting = "A1 will drift into 14.\n";

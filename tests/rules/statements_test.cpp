@@ -155,7 +155,7 @@ protected:
     /// Says no and remembers what stood in the message line.
     Line LookAndRefuse() {
         return Do("LookAndRefuse", [this](Question& question) {
-            Shown.push_back(board.Message());
+            Shown.push_back(game.Message.String());
             question.Put(NoAnswer());
         });
     }

@@ -19,7 +19,6 @@ public:
 
     bool WantsText() const override { return true; }
     void ShowMessage(std::string_view text, int clan) override;
-    std::string Message() const override { return message_; }
     void Pause(int units) override;
     void Wait() override;
 

@@ -106,8 +106,7 @@ bool ScriptedBoard::HasLogLine(const std::string& line) const {
 }
 
 void ScriptedBoard::ShowMessage(std::string_view text, int /*clan*/) {
-    message_ = std::string(text);
-    Messages.push_back(message_);
+    Messages.emplace_back(text);
 }
 
 void ScriptedBoard::Pause(int units) {

@@ -108,7 +108,6 @@ public:
     bool HasLogLine(const std::string& line) const;
 
     void ShowMessage(std::string_view text, int clan) override;
-    std::string Message() const override { return message_; }
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int) override { LogLines.emplace_back(line); }
     void ShowPhase(std::string_view phase) override { Phases.emplace_back(phase); }
@@ -127,7 +126,6 @@ private:
     std::deque<Line> script_;
     std::function<void(Question&)> policy_;
     std::vector<Question*> open_;
-    std::string message_;
     std::string failure_;
     bool dismissBoxes_ = true;
     int unanswered_ = 0;  ///< answers given in a row that ended no question

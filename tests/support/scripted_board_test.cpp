@@ -95,11 +95,11 @@ TEST_F(Scripts, AQuestionInsideAQuestionIsAnsweredFirst) {
 
 TEST_F(Scripts, TheMessageLineAndTheLogAreRemembered) {
     TellPerson(3, "You may not go there.");
-    EXPECT_EQ(board.Message(), "You may not go there.");
+    EXPECT_EQ(game.Message, "You may not go there.");
     EXPECT_TRUE(board.HasLogLine("You may not go there."));
     EXPECT_THAT(board.Pauses, ElementsAre(10));
     ClearMessage();
-    EXPECT_EQ(board.Message(), "");
+    EXPECT_EQ(game.Message, "");
     EXPECT_THAT(board.Messages, ElementsAre("You may not go there.", ""));
 }
 

@@ -39,7 +39,7 @@ AutoPerson::Touch AutoPerson::At(const std::string& name, bool last) {
 AutoPerson::Touch AutoPerson::AtSquare(int square) {
     last_.clear();
     auto* puddle = board_.findChild<PuddleView*>();
-    return {puddle, puddle->PointAt(SquareMiddle(square)).toPoint(), true};
+    return {puddle, puddle->PointAt(SquareMiddle(game, square)).toPoint(), true};
 }
 
 // Whatever somebody else has typed or chosen before, the dialog comes to an end.

@@ -30,7 +30,7 @@ void PuddleView::mouseReleaseEvent(QMouseEvent* event) {
 
 void PuddleView::mouseMoveEvent(QMouseEvent* event) {
     const QPoint units = UnitsAt(event->position());
-    SetHover(SquareAt(units.x(), units.y()));
+    SetHover(SquareAt(*state_, units.x(), units.y()));
 }
 
 void PuddleView::leaveEvent(QEvent*) {
@@ -49,9 +49,9 @@ void PuddleView::MoveCursor(int columns, int rows) {
     if (cursor_ == 0) {
         cursor_ = start;
     } else {
-        const int column = std::clamp((cursor_ - 1) % game.NumCols + columns, 0, game.NumCols - 1);
-        const int row = std::clamp((cursor_ - 1) / game.NumCols + rows, 0, game.NumRows - 1);
-        cursor_ = row * game.NumCols + column + 1;
+        const int column = std::clamp((cursor_ - 1) % state_->NumCols + columns, 0, state_->NumCols - 1);
+        const int row = std::clamp((cursor_ - 1) / state_->NumCols + rows, 0, state_->NumRows - 1);
+        cursor_ = row * state_->NumCols + column + 1;
     }
     update();
 }
@@ -66,7 +66,7 @@ void PuddleView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
         case Qt::Key_Space:
             if (cursor_ > 0 && !event->isAutoRepeat() && OnSquarePoint) {
-                const QPoint middle = SquareMiddle(cursor_).toPoint();
+                const QPoint middle = SquareMiddle(*state_, cursor_).toPoint();
                 OnSquarePoint(middle.x(), middle.y());
             }
             return;

@@ -19,8 +19,8 @@ namespace {
 constexpr double Gap = 14;
 constexpr double Corner = 90;
 
-QRectF SquareRect(int square) {
-    return QRectF(SquareCorner(square), QSizeF(SquareUnits, SquareUnits)).adjusted(Gap, Gap, -Gap, -Gap);
+QRectF SquareRect(const GameState& state, int square) {
+    return QRectF(SquareCorner(state, square), QSizeF(SquareUnits, SquareUnits)).adjusted(Gap, Gap, -Gap, -Gap);
 }
 
 /// How food is stacked: where a square is small on the screen, one bigger cube stands for its colour.
@@ -37,11 +37,11 @@ Stacks StacksOf(const QPainter& painter) {
 }
 
 /// Left foot of a colour's stack.
-QPointF StackFoot(const Stacks& stacks, int square, int clan) {
+QPointF StackFoot(const GameState& state, const Stacks& stacks, int square, int clan) {
     constexpr double Left = 62;
     const double most = stacks.High > 1 ? 150 : 185;
-    const double room = (SquareUnits - 2 * Left - stacks.Cube) / std::max(game.NumPlayers - 1, 1);
-    return SquareCorner(square) + QPointF(Left + std::min(most, room) * (clan - 1), SquareUnits - 52);
+    const double room = (SquareUnits - 2 * Left - stacks.Cube) / std::max(state.NumPlayers - 1, 1);
+    return SquareCorner(state, square) + QPointF(Left + std::min(most, room) * (clan - 1), SquareUnits - 52);
 }
 
 }  // namespace
@@ -78,17 +78,17 @@ void DrawWater(QPainter& painter, const QRectF& puddle) {
     painter.drawRoundedRect(puddle.adjusted(11, 11, -11, -11), 122, 122);
 }
 
-void DrawGlass(QPainter& painter, int square) {
-    QLinearGradient glass(SquareRect(square).topLeft(), SquareRect(square).bottomRight());
+void DrawGlass(const GameState& state, QPainter& painter, int square) {
+    QLinearGradient glass(SquareRect(state, square).topLeft(), SquareRect(state, square).bottomRight());
     glass.setColorAt(0, QColor(255, 255, 255, 46));
     glass.setColorAt(1, QColor(255, 255, 255, 20));
     painter.setBrush(glass);
     painter.setPen(QPen(QColor(255, 255, 255, 130), 10));
-    painter.drawRoundedRect(SquareRect(square), Corner, Corner);
+    painter.drawRoundedRect(SquareRect(state, square), Corner, Corner);
 }
 
-void DrawStone(QPainter& painter, int square) {
-    const QPointF corner = SquareCorner(square);
+void DrawStone(const GameState& state, QPainter& painter, int square) {
+    const QPointF corner = SquareCorner(state, square);
     QPainterPath stone(corner + QPointF(170, 260));
     stone.cubicTo(corner + QPointF(330, 40), corner + QPointF(820, 60), corner + QPointF(1010, 190));
     stone.cubicTo(corner + QPointF(1180, 420), corner + QPointF(1170, 820), corner + QPointF(1020, 960));
@@ -111,18 +111,18 @@ void DrawStone(QPainter& painter, int square) {
     painter.drawPath(shine);
 }
 
-void DrawSquareNumber(QPainter& painter, int square) {
+void DrawSquareNumber(const GameState& state, QPainter& painter, int square) {
     painter.setFont(LookFont(100, true));
     painter.setPen(QColor(0x1F, 0x55, 0x5E, 220));
-    const QRectF corner(SquareCorner(square) + QPointF(62, 46), QSizeF(300, 130));
+    const QRectF corner(SquareCorner(state, square) + QPointF(62, 46), QSizeF(300, 130));
     painter.drawText(corner, Qt::AlignLeft | Qt::AlignTop, QString::number(square));
 }
 
-void DrawFood(QPainter& painter, int square) {
+void DrawFood(const GameState& state, QPainter& painter, int square) {
     const Stacks stacks = StacksOf(painter);
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        const QPointF foot = StackFoot(stacks, square, clan);
-        const int shown = std::min(game.Food[square][clan], stacks.High);
+    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
+        const QPointF foot = StackFoot(state, stacks, square, clan);
+        const int shown = std::min(state.Food[square][clan], stacks.High);
         if (shown == 0) {
             painter.setPen(QPen(QColor(255, 255, 255, 70), 12, Qt::SolidLine, Qt::RoundCap));
             painter.drawLine(foot + QPointF(24, -8), foot + QPointF(stacks.Cube - 24, -8));
@@ -134,10 +134,10 @@ void DrawFood(QPainter& painter, int square) {
     }
 }
 
-void DrawFoodCounts(QPainter& painter, int square) {
+void DrawFoodCounts(const GameState& state, QPainter& painter, int square) {
     const Stacks stacks = StacksOf(painter);
-    for (int clan = 1; clan <= game.NumPlayers && !game.Blocked[square]; ++clan) {
-        const int count = game.Food[square][clan];
+    for (int clan = 1; clan <= state.NumPlayers && !state.Blocked[square]; ++clan) {
+        const int count = state.Food[square][clan];
         if (count <= stacks.High) {
             continue;
         }
@@ -145,7 +145,7 @@ void DrawFoodCounts(QPainter& painter, int square) {
         const QString text = (stacks.High > 1 && !tight ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
         const double letters = stacks.Letters * (stacks.High == 1 && tight ? 0.72 : 1);
         const double wide = letters * (0.75 * static_cast<double>(text.size())) + 8;
-        const QPointF foot = StackFoot(stacks, square, clan);
+        const QPointF foot = StackFoot(state, stacks, square, clan);
         const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
                          foot.y() - (stacks.Cube + 6) * stacks.High - letters - 4, wide, letters + 2);
         painter.setPen(Qt::NoPen);
@@ -157,8 +157,8 @@ void DrawFoodCounts(QPainter& painter, int square) {
     }
 }
 
-void DrawOffer(QPainter& painter, int square, bool bright) {
-    const QRectF rect = SquareRect(square);
+void DrawOffer(const GameState& state, QPainter& painter, int square, bool bright) {
+    const QRectF rect = SquareRect(state, square);
     painter.setBrush(QColor(255, 248, 214, bright ? 150 : 92));
     const double widths[] = {92, 66, 44};
     for (const double width : widths) {
@@ -170,8 +170,8 @@ void DrawOffer(QPainter& painter, int square, bool bright) {
     painter.drawRoundedRect(rect, Corner, Corner);
 }
 
-void DrawSpokenOf(QPainter& painter, int square) {
-    const QRectF rect = SquareRect(square);
+void DrawSpokenOf(const GameState& state, QPainter& painter, int square) {
+    const QRectF rect = SquareRect(state, square);
     painter.setBrush(QColor(255, 255, 255, 60));
     painter.setPen(QPen(QColor(255, 255, 255, 235), 34));
     painter.drawRoundedRect(rect, Corner, Corner);
@@ -183,10 +183,10 @@ void DrawSpokenOf(QPainter& painter, int square) {
     painter.drawRoundedRect(rect, Corner, Corner);
 }
 
-void DrawHover(QPainter& painter, int square) {
+void DrawHover(const GameState& state, QPainter& painter, int square) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(255, 255, 255, 210), 16));
-    painter.drawRoundedRect(SquareRect(square), Corner, Corner);
+    painter.drawRoundedRect(SquareRect(state, square), Corner, Corner);
 }
 
 }  // namespace plasmos

@@ -7,25 +7,27 @@ class QPainter;
 
 namespace plasmos {
 
-/// What the puddle looks like, drawn from the state in board units (SquareUnits to a square).
+struct GameState;
+
+/// What the puddle of a state looks like, drawn in board units (SquareUnits to a square).
 
 /// The water under everything.
 void DrawWater(QPainter& painter, const QRectF& puddle);
 /// The glass of one square with its gridlines.
-void DrawGlass(QPainter& painter, int square);
+void DrawGlass(const GameState& state, QPainter& painter, int square);
 /// The stone that covers a blocked square.
-void DrawStone(QPainter& painter, int square);
+void DrawStone(const GameState& state, QPainter& painter, int square);
 /// The square's number in its corner, small and bold.
-void DrawSquareNumber(QPainter& painter, int square);
+void DrawSquareNumber(const GameState& state, QPainter& painter, int square);
 /// Cubes stacked by colour.
-void DrawFood(QPainter& painter, int square);
+void DrawFood(const GameState& state, QPainter& painter, int square);
 /// The count above every stack that is higher than it shows.
-void DrawFoodCounts(QPainter& painter, int square);
+void DrawFoodCounts(const GameState& state, QPainter& painter, int square);
 /// The amber glow of an offered square; brighter under the pointer or the arrow keys.
-void DrawOffer(QPainter& painter, int square, bool bright);
+void DrawOffer(const GameState& state, QPainter& painter, int square, bool bright);
 /// Dashes around the square that a question speaks of.
-void DrawSpokenOf(QPainter& painter, int square);
+void DrawSpokenOf(const GameState& state, QPainter& painter, int square);
 /// A thin frame for the square under the pointer.
-void DrawHover(QPainter& painter, int square);
+void DrawHover(const GameState& state, QPainter& painter, int square);
 
 }  // namespace plasmos

@@ -10,13 +10,20 @@
 
 namespace plasmos {
 
-/// The board picture, `Picture1`: the puddle with squares, stones, food and pieces, drawn from the state.
+struct GameState;
+
+/// The board picture, `Picture1`: the puddle with squares, stones, food and pieces, drawn from the state
+/// it is given. What the moment marks - offered squares, the outlined piece - stays when another state is shown.
 /// Points are handed over in board units, SquareUnits to a square whatever its size on the screen.
 class PuddleView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PuddleView(QWidget* parent);
+    PuddleView(QWidget* parent, const GameState& state);
+
+    /// Shows another state, which is to live as long as it is shown. Nothing glides or fades any more.
+    void ShowState(const GameState& state);
+    const GameState& State() const { return *state_; }
 
     /// The mouse is released, or Enter pressed on a square, at a point in board units.
     std::function<void(int x, int y)> OnSquarePoint;
@@ -74,6 +81,7 @@ private:
     void MoveCursor(int columns, int rows);
     void Tick();
 
+    const GameState* state_;
     bool gridlines_ = true;
     bool numbers_ = false;
     bool pressed_ = false;

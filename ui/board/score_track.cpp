@@ -17,10 +17,10 @@ namespace {
 constexpr int Spaces = 60;
 
 /// Spaces along the top; as many along the bottom, the rest along the two sides.
-int SpacesAcross() {
+int SpacesAcross(const GameState& state) {
     const int half = Spaces / 2;
     const int across =
-        static_cast<int>(std::lround(static_cast<double>(half) * game.NumCols / (game.NumCols + game.NumRows)));
+        static_cast<int>(std::lround(static_cast<double>(half) * state.NumCols / (state.NumCols + state.NumRows)));
     return std::clamp(across, 4, half - 4);
 }
 
@@ -30,9 +30,16 @@ int SpaceOf(int score) {
 
 }  // namespace
 
-ScoreTrack::ScoreTrack(QWidget* parent) : QWidget(parent), puddle_(new PuddleView(this)) {
+ScoreTrack::ScoreTrack(QWidget* parent, const GameState& state)
+    : QWidget(parent), state_(&state), puddle_(new PuddleView(this, state)) {
     setObjectName(QStringLiteral("ScoreTrack"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ScoreTrack::ShowState(const GameState& state) {
+    state_ = &state;
+    puddle_->ShowState(state);
+    BoardChanged();
 }
 
 void ScoreTrack::BoardChanged() {
@@ -48,8 +55,9 @@ void ScoreTrack::resizeEvent(QResizeEvent*) {
 void ScoreTrack::Arrange() {
     lane_ = std::clamp(std::min(width(), height()) / 30.0, 17.0, 34.0);
     const double margin = 2 * (lane_ + 9);
-    const double square = std::floor(std::min((width() - margin) / game.NumCols, (height() - margin) / game.NumRows));
-    const QSizeF puddle(std::max(square, 8.0) * game.NumCols, std::max(square, 8.0) * game.NumRows);
+    const double square =
+        std::floor(std::min((width() - margin) / state_->NumCols, (height() - margin) / state_->NumRows));
+    const QSizeF puddle(std::max(square, 8.0) * state_->NumCols, std::max(square, 8.0) * state_->NumRows);
     const QPoint corner(static_cast<int>((width() - puddle.width()) / 2),
                         static_cast<int>((height() - puddle.height()) / 2));
     puddle_->setGeometry(QRect(corner, puddle.toSize()));
@@ -58,7 +66,7 @@ void ScoreTrack::Arrange() {
 }
 
 QRectF ScoreTrack::SpaceRect(int space) const {
-    const int across = SpacesAcross();
+    const int across = SpacesAcross(*state_);
     const int down = Spaces / 2 - across;
     const QRectF inner = frame_.adjusted(lane_ + 3, lane_ + 3, -lane_ - 3, -lane_ - 3);
     const double width = inner.width() / across;
@@ -95,8 +103,8 @@ void ScoreTrack::DrawSpaces(QPainter& painter) const {
 
 void ScoreTrack::DrawMarkers(QPainter& painter) const {
     std::array<int, Spaces + 1> standing{};
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        const int score = game.Players[clan].Score;
+    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
+        const int score = state_->Players[clan].Score;
         if (score < 1) {
             continue;
         }

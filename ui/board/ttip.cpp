@@ -22,14 +22,14 @@ constexpr QPoint Beside(20, -2);
 
 }  // namespace
 
-std::string TipTextAt(int x, int y) {
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
-            const Piece& piece = game.Amoeba[amoeba][clan];
+std::string TipTextAt(const GameState& state, int x, int y) {
+    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
+        for (int amoeba = 1; amoeba <= state.MaxAmoeba; ++amoeba) {
+            const Piece& piece = state.Amoeba[amoeba][clan];
             if (piece.Square == 0) {
                 continue;
             }
-            const QRectF marker = MarkerOf(clan, amoeba);
+            const QRectF marker = MarkerOf(state, clan, amoeba);
             const bool across = marker.left() < x && x <= marker.right();
             const bool down = marker.top() + Band < y && y <= marker.bottom() + Band;
             if (!marker.isEmpty() && across && down) {
@@ -63,7 +63,7 @@ void ToolTips::ttTimer_Timer() {
     const QWidget* under = QApplication::widgetAt(cursor);
     const bool over = puddle_->isVisible() && (under == puddle_ || under == TTwin_);
     const QPoint units = puddle_->UnitsAt(puddle_->mapFromGlobal(QPointF(cursor)));
-    ShowTip(over ? TipTextAt(units.x(), units.y()) : std::string());
+    ShowTip(over ? TipTextAt(puddle_->State(), units.x(), units.y()) : std::string());
 }
 
 void ToolTips::Stop() {

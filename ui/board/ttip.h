@@ -8,11 +8,12 @@
 namespace plasmos {
 
 class PuddleView;
+struct GameState;
 
-/// The text for the amoeba whose marker lies under a point in board units, "3- Blue3 (1)": its number,
+/// The text for the amoeba of a state whose marker lies under a point in board units, "3- Blue3 (1)": its number,
 /// its name, and how often it has starved. Empty where there is none. The band that counts lies 40
 /// units below the marker, on purpose.
-std::string TipTextAt(int x, int y);
+std::string TipTextAt(const GameState& state, int x, int y);
 
 /// The small window that follows the pointer over an amoeba.
 class ToolTips : public QObject {

@@ -62,8 +62,8 @@ QLabel* MakeText(QWidget* parent, const char* name, int pixels) {
     return label;
 }
 
-NumberPanel::NumberPanel(QWidget* parent, AmNumfrm& form)
-    : QuestionPanel(parent, form, TitleOf(form.Caption, "How many?")),
+NumberPanel::NumberPanel(QWidget* parent, const GameState& state, AmNumfrm& form)
+    : QuestionPanel(parent, state, form, TitleOf(form.Caption, "How many?")),
       form_(form),
       question_(MakeText(this, "amlab", 14)) {
     Body()->addWidget(question_);
@@ -102,8 +102,8 @@ QWidget* NumberPanel::FirstControl() {
     return FirstEnabled(options_);
 }
 
-AmoebaPanel::AmoebaPanel(QWidget* parent, AmChoicefrm& form)
-    : QuestionPanel(parent, form, TitleOf(form.Caption, "Which amoeba?")),
+AmoebaPanel::AmoebaPanel(QWidget* parent, const GameState& state, AmChoicefrm& form)
+    : QuestionPanel(parent, state, form, TitleOf(form.Caption, "Which amoeba?")),
       form_(form),
       question_(MakeText(this, "amlab", 14)),
       none_(MakeButton(QStringLiteral("amoptb"), ToQt(AmChoicefrm::amoptb), false)) {
@@ -149,8 +149,8 @@ QWidget* AmoebaPanel::FirstControl() {
     return FirstEnabled(options_);
 }
 
-BoxPanel::BoxPanel(QWidget* parent, BoxQuestion& box)
-    : QuestionPanel(parent, box, QStringLiteral("Plasmos")),
+BoxPanel::BoxPanel(QWidget* parent, const GameState& state, BoxQuestion& box)
+    : QuestionPanel(parent, state, box, QStringLiteral("Plasmos")),
       box_(box),
       text_(MakeText(this, "boxlab", 14)),
       ok_(MakeButton(QStringLiteral("okb"), QStringLiteral("OK"), true)) {

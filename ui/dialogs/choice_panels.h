@@ -12,7 +12,7 @@ namespace plasmos {
 /// How many: one button for each number 0 to 7.
 class NumberPanel : public QuestionPanel {
 public:
-    NumberPanel(QWidget* parent, AmNumfrm& form);
+    NumberPanel(QWidget* parent, const GameState& state, AmNumfrm& form);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override;
@@ -26,7 +26,7 @@ private:
 /// Which amoeba: one button for each piece, and None.
 class AmoebaPanel : public QuestionPanel {
 public:
-    AmoebaPanel(QWidget* parent, AmChoicefrm& form);
+    AmoebaPanel(QWidget* parent, const GameState& state, AmChoicefrm& form);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override;
@@ -41,7 +41,7 @@ private:
 /// A message with OK.
 class BoxPanel : public QuestionPanel {
 public:
-    BoxPanel(QWidget* parent, BoxQuestion& box);
+    BoxPanel(QWidget* parent, const GameState& state, BoxQuestion& box);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override { return ok_; }

@@ -39,8 +39,8 @@ QString TitleOf(const FoodForm& form) {
 
 }  // namespace
 
-FoodPanel::FoodPanel(QWidget* parent, FoodForm& form)
-    : QuestionPanel(parent, form, TitleOf(form)),
+FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
+    : QuestionPanel(parent, state, form, TitleOf(form)),
       form_(form),
       suggest_(MakeButton(QStringLiteral("suggestb"), QString(), false)),
       hosts_(MakeText(this, "hostlab", 12)),
@@ -167,11 +167,11 @@ void FoodPanel::RereadRow(int field) {
     row.More->setEnabled(source.Enabled && form_.Amount(field) < source.InSquare);
     if (IsLent(field)) {
         const int host = form_.Hosts[field == FirstLent ? 1 : 2];
-        row.Name->setText(host >= 1 ? QStringLiteral("lent by %1").arg(ToQt(game.Players[host].Name.View()))
+        row.Name->setText(host >= 1 ? QStringLiteral("lent by %1").arg(ToQt(State().Players[host].Name.View()))
                                     : QStringLiteral("lent piece"));
         row.Count->clear();
     } else {
-        row.Name->setText(field <= game.NumPlayers ? ToQt(game.Players[field].Name.View()) : QString());
+        row.Name->setText(field <= State().NumPlayers ? ToQt(State().Players[field].Name.View()) : QString());
         row.Count->setText(QString::number(source.InSquare));
     }
     if (row.Entry->text() != ToQt(source.Text)) {

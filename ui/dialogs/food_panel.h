@@ -13,7 +13,7 @@ namespace plasmos {
 /// What to eat, or what a tentacle carries: an entry field for each colour in the square.
 class FoodPanel : public QuestionPanel {
 public:
-    FoodPanel(QWidget* parent, FoodForm& form);
+    FoodPanel(QWidget* parent, const GameState& state, FoodForm& form);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override;

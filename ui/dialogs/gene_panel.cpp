@@ -4,7 +4,6 @@
 #include <QGridLayout>
 
 #include "model/game_state.h"
-#include "model/presentation.h"
 #include "ui/dialogs/choice_panels.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
@@ -28,8 +27,8 @@ QString TitleOf(const GeneForm& form) {
 
 }  // namespace
 
-GenePanel::GenePanel(QWidget* parent, GeneForm& form)
-    : QuestionPanel(parent, form, TitleOf(form)),
+GenePanel::GenePanel(QWidget* parent, const GameState& state, GeneForm& form)
+    : QuestionPanel(parent, state, form, TitleOf(form)),
       form_(form),
       text_(MakeText(this, "genelab", 12)),
       payLabel_(MakeText(this, "payLab", 13)),
@@ -115,7 +114,7 @@ void GenePanel::MakeFoot() {
 void GenePanel::Reread() {
     rereading_ = true;
     text_->setText(ToQt(form_.Text));
-    text_->setVisible(Board().Message() != form_.Text);  // the message says it already
+    text_->setVisible(State().Message != form_.Text);  // the message says it already
     for (int gene = 1; gene <= GeneCount; ++gene) {
         const GeneForm::CheckBox& source = form_.gcheck[gene];
         QCheckBox* box = boxes_[static_cast<std::size_t>(gene)];

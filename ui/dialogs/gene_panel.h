@@ -13,7 +13,7 @@ namespace plasmos {
 /// Genes given up and BP paid for the UV level, or genes bought.
 class GenePanel : public QuestionPanel {
 public:
-    GenePanel(QWidget* parent, GeneForm& form);
+    GenePanel(QWidget* parent, const GameState& state, GeneForm& form);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override;

@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "model/presentation.h"
+#include "model/game_state.h"
 #include "questions/visit.h"
 #include "ui/dialogs/choice_panels.h"
 #include "ui/dialogs/food_panel.h"
@@ -48,8 +48,9 @@ void RefuseRepeats(QWidget* control) {
     control->installEventFilter(new RepeatFilter(control));
 }
 
-QuestionPanel::QuestionPanel(QWidget* parent, const Question& question, const QString& title)
+QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Question& question, const QString& title)
     : Card(parent),
+      state_(state),
       question_(question),
       clan_(question.Clan),
       title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
@@ -104,7 +105,7 @@ int QuestionPanel::HeightWith(bool message, int width) const {
 }
 
 void QuestionPanel::ShowMessage(bool on) {
-    const QString text = ToQt(Board().Message());
+    const QString text = ToQt(state_.Message);
     if (message_->text() != text) {
         message_->setText(text);
     }
@@ -207,22 +208,23 @@ bool QuestionPanel::eventFilter(QObject* watched, QEvent* event) {
 
 namespace {
 
-std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, Question& question) {
+std::unique_ptr<QuestionPanel> PanelFor(QWidget* parent, const GameState& state, Question& question) {
     using Panel = std::unique_ptr<QuestionPanel>;
-    return Visit(question,
-                 Overloaded{[](YesNoQuestion&) { return Panel(); }, [](SquareQuestion&) { return Panel(); },
-                            [&](AmNumfrm& form) -> Panel { return std::make_unique<NumberPanel>(parent, form); },
-                            [&](AmChoicefrm& form) -> Panel { return std::make_unique<AmoebaPanel>(parent, form); },
-                            [&](FoodForm& form) -> Panel { return std::make_unique<FoodPanel>(parent, form); },
-                            [&](VictimForm& form) -> Panel { return std::make_unique<VictimPanel>(parent, form); },
-                            [&](GeneForm& form) -> Panel { return std::make_unique<GenePanel>(parent, form); },
-                            [&](BoxQuestion& box) -> Panel { return std::make_unique<BoxPanel>(parent, box); }});
+    return Visit(
+        question,
+        Overloaded{[](YesNoQuestion&) { return Panel(); }, [](SquareQuestion&) { return Panel(); },
+                   [&](AmNumfrm& form) -> Panel { return std::make_unique<NumberPanel>(parent, state, form); },
+                   [&](AmChoicefrm& form) -> Panel { return std::make_unique<AmoebaPanel>(parent, state, form); },
+                   [&](FoodForm& form) -> Panel { return std::make_unique<FoodPanel>(parent, state, form); },
+                   [&](VictimForm& form) -> Panel { return std::make_unique<VictimPanel>(parent, state, form); },
+                   [&](GeneForm& form) -> Panel { return std::make_unique<GenePanel>(parent, state, form); },
+                   [&](BoxQuestion& box) -> Panel { return std::make_unique<BoxPanel>(parent, state, box); }});
 }
 
 }  // namespace
 
-std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question) {
-    auto panel = PanelFor(parent, question);
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, const GameState& state, Question& question) {
+    auto panel = PanelFor(parent, state, question);
     if (panel) {
         panel->TakeControls();
     }

@@ -16,6 +16,7 @@ namespace plasmos {
 
 class ArrowKeys;
 class ScrollBody;
+struct GameState;
 
 /// A dialog of the rules, shown in the strip beside the board. It shows what its question holds, hands
 /// the person's input to the question's handlers, and reads the question again.
@@ -23,7 +24,7 @@ class ScrollBody;
 /// Its body scrolls where room is short; the foot with what answers stays in sight.
 class QuestionPanel : public Card {
 public:
-    QuestionPanel(QWidget* parent, const Question& question, const QString& title);
+    QuestionPanel(QWidget* parent, const GameState& state, const Question& question, const QString& title);
 
     /// Takes everything from the question.
     virtual void Reread() = 0;
@@ -70,8 +71,10 @@ protected:
     static void OrderTabs(const std::vector<QWidget*>& controls);
     void SetTitle(const QString& title) { title_->setText(title); }
     int Clan() const { return clan_; }
+    const GameState& State() const { return state_; }
 
 private:
+    const GameState& state_;
     const Question& question_;
     int clan_;
     bool retired_ = false;
@@ -87,7 +90,7 @@ private:
 /// Keeps double clicks and repeated keys from an answering control.
 void RefuseRepeats(QWidget* control);
 
-/// The panel for a question, or none for those that the message line asks.
-std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, Question& question);
+/// The panel for a question of a state, or none for those that the message line asks.
+std::unique_ptr<QuestionPanel> MakePanel(QWidget* parent, const GameState& state, Question& question);
 
 }  // namespace plasmos

@@ -38,7 +38,7 @@ void FigureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double radius = std::min(width(), height()) / 2.0 - 5;
-    const int damage = game.Amoeba[Figure.Amoeba][Figure.Clan].Damage;
+    const int damage = state_.Amoeba[Figure.Amoeba][Figure.Clan].Damage;
     const QPointF centre = QRectF(rect()).center();
     if (hasFocus() || (underMouse() && Figure.Markable)) {
         painter.setPen(Qt::NoPen);
@@ -48,8 +48,8 @@ void FigureButton::paintEvent(QPaintEvent*) {
     DrawBlob(painter, BlobLook{Figure.Clan, Figure.Amoeba, damage, Figure.Marked, !Figure.Markable, 1}, centre, radius);
 }
 
-VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
-    : QuestionPanel(parent, form, ToQt(form.Text)),
+VictimPanel::VictimPanel(QWidget* parent, const GameState& state, VictimForm& form)
+    : QuestionPanel(parent, state, form, ToQt(form.Text)),
       form_(form),
       vfamlab_(MakeText(this, "vfamlab", 14)),
       doneb_(MakeButton(QStringLiteral("doneb"), QStringLiteral("Done"), true)) {
@@ -60,7 +60,7 @@ VictimPanel::VictimPanel(QWidget* parent, VictimForm& form)
     const int across = form.Figures.size() > 14 ? 8 : 6;
     const int side = form.Figures.size() > 14 ? 38 : 52;
     for (std::size_t i = 0; i < form.Figures.size(); ++i) {
-        auto* figure = new FigureButton(picture);
+        auto* figure = new FigureButton(picture, state);
         figure->setObjectName(QStringLiteral("figure%1").arg(i));
         figure->setFixedSize(side, side);
         figure->setProperty("tag", ToQt(form.Figures[i].Tag()));
@@ -87,7 +87,7 @@ void VictimPanel::Reread() {
         figures_[i]->Figure = source;
         figures_[i]->setEnabled(source.Markable);
         figures_[i]->setToolTip(PlainTip(
-            ToQt(Concat(game.Amoeba[source.Amoeba][source.Clan].Name, " of ", game.Players[source.Clan].Name))));
+            ToQt(Concat(State().Amoeba[source.Amoeba][source.Clan].Name, " of ", State().Players[source.Clan].Name))));
         figures_[i]->update();
     }
     vfamlab_->setText(ToQt(form_.vfamlab));

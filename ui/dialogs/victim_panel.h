@@ -12,19 +12,22 @@ namespace plasmos {
 /// One piece of the square, drawn as on the board.
 class FigureButton : public QAbstractButton {
 public:
-    explicit FigureButton(QWidget* parent) : QAbstractButton(parent) {}
+    FigureButton(QWidget* parent, const GameState& state) : QAbstractButton(parent), state_(state) {}
 
     VictimFigure Figure;
     QSize sizeHint() const override { return {52, 52}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    const GameState& state_;
 };
 
 /// Which amoeba to attack, to live off, or to let ride: a picture of the square.
 class VictimPanel : public QuestionPanel {
 public:
-    VictimPanel(QWidget* parent, VictimForm& form);
+    VictimPanel(QWidget* parent, const GameState& state, VictimForm& form);
     void Reread() override;
     void CloseAsked() override;
     QWidget* FirstControl() override;

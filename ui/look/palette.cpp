@@ -47,15 +47,15 @@ QColor FromBgr(std::int32_t colour) {
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
-QColor LabelBackground(int clan) {
-    return clan >= 1 && clan <= MaxClans ? FromBgr(game.Players[clan].Colour) : QColor(look::Card);
+QColor LabelBackground(const GameState& state, int clan) {
+    return clan >= 1 && clan <= MaxClans ? FromBgr(state.Players[clan].Colour) : QColor(look::Card);
 }
 
-QColor LabelText(int clan) {
+QColor LabelText(const GameState& state, int clan) {
     if (clan < 1 || clan > MaxClans) {
         return {look::Ink};
     }
-    return game.Players[clan].Colour == Blue ? QColor(255, 255, 0) : QColor(Qt::black);
+    return state.Players[clan].Colour == Blue ? QColor(255, 255, 0) : QColor(Qt::black);
 }
 
 QPainterPath SignPath(int clan, QPointF centre, double radius) {

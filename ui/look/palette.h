@@ -14,6 +14,8 @@ class QPainter;
 
 namespace plasmos {
 
+struct GameState;
+
 /// The shades in which one clan is drawn.
 struct ClanShades {
     QColor Light;  ///< the lit side of a blob
@@ -30,8 +32,8 @@ QColor FromBgr(std::int32_t colour);
 
 /// Background and text of labels that speak for a clan: the clan's colour with black, or with yellow
 /// where the colour is blue. Clan 0: white and dark grey.
-QColor LabelBackground(int clan);
-QColor LabelText(int clan);
+QColor LabelBackground(const GameState& state, int clan);
+QColor LabelText(const GameState& state, int clan);
 
 /// The clan's sign as a shape: circle, triangle, square, diamond, cross, star.
 QPainterPath SignPath(int clan, QPointF centre, double radius);

@@ -65,11 +65,11 @@ void PushApart(std::vector<Lying>& pieces, double radius) {
     }
 }
 
-std::vector<Lying> PiecesIn(int square) {
+std::vector<Lying> PiecesIn(const GameState& state, int square) {
     std::vector<Lying> pieces;
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
-            const Piece& piece = game.Amoeba[amoeba][clan];
+    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
+        for (int amoeba = 1; amoeba <= state.MaxAmoeba; ++amoeba) {
+            const Piece& piece = state.Amoeba[amoeba][clan];
             if (piece.Square == square && piece.Slot >= 1 && piece.Slot <= MaxSpots) {
                 pieces.push_back({clan, amoeba, {}});
             }
@@ -80,13 +80,13 @@ std::vector<Lying> PiecesIn(int square) {
 
 }  // namespace
 
-QPointF SquareCorner(int square) {
-    const BoardPoint corner = CornerOf(std::max(square, 1));
+QPointF SquareCorner(const GameState& state, int square) {
+    const BoardPoint corner = CornerOf(state, std::max(square, 1));
     return QPoint(corner.X, corner.Y);
 }
 
-QPointF SquareMiddle(int square) {
-    const BoardPoint middle = MiddleOf(std::max(square, 1));
+QPointF SquareMiddle(const GameState& state, int square) {
+    const BoardPoint middle = MiddleOf(state, std::max(square, 1));
     return QPoint(middle.X, middle.Y);
 }
 
@@ -101,20 +101,20 @@ QPointF SpotCentre(int spot, int square, double radius) {
     return Inside(centre, radius);
 }
 
-QRectF MarkerOf(int clan, int amoeba) {
-    const Piece& piece = game.Amoeba[amoeba][clan];
-    if (piece.Square < 1 || piece.Square > game.NumSquares || piece.Slot < 1 || piece.Slot > MaxSpots) {
+QRectF MarkerOf(const GameState& state, int clan, int amoeba) {
+    const Piece& piece = state.Amoeba[amoeba][clan];
+    if (piece.Square < 1 || piece.Square > state.NumSquares || piece.Slot < 1 || piece.Slot > MaxSpots) {
         return {};
     }
-    std::vector<Lying> pieces = PiecesIn(piece.Square);
+    std::vector<Lying> pieces = PiecesIn(state, piece.Square);
     const double radius = RadiusFor(pieces.size());
     for (Lying& lying : pieces) {
-        lying.Centre = SpotCentre(game.Amoeba[lying.Amoeba][lying.Clan].Slot, piece.Square, radius);
+        lying.Centre = SpotCentre(state.Amoeba[lying.Amoeba][lying.Clan].Slot, piece.Square, radius);
     }
     PushApart(pieces, radius);
     for (const Lying& lying : pieces) {
         if (lying.Clan == clan && lying.Amoeba == amoeba) {
-            const QPointF corner = SquareCorner(piece.Square) + lying.Centre - QPointF(radius, radius);
+            const QPointF corner = SquareCorner(state, piece.Square) + lying.Centre - QPointF(radius, radius);
             return {corner, QSizeF(2 * radius, 2 * radius)};
         }
     }

@@ -20,19 +20,19 @@ constexpr double LeastCard = 45;
 constexpr double LineHeight = 24;
 constexpr double LineHeads = 14;
 
-QString Kind(int clan) {
-    if (!game.Players[clan].IsComputer) {
+QString Kind(const Clan& clan) {
+    if (!clan.IsComputer) {
         return QStringLiteral("you");
     }
-    return ToQt(game.Players[clan].PersonalityName);
+    return ToQt(clan.PersonalityName);
 }
 
 }  // namespace
 
-ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
+ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent), state_(&state) {
     for (int i = 0; i < MaxClans; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        GeneLists[index] = new GeneChips(this, i + 1);
+        GeneLists[index] = new GeneChips(this, state, i + 1);
         GeneLists[index]->setObjectName(QStringLiteral("genelist%1").arg(i));
         bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
         orderlab[index] = new PillLabel(this);
@@ -41,23 +41,31 @@ ClanPanel::ClanPanel(QWidget* parent) : QWidget(parent) {
         bplab[index]->setToolTip(QStringLiteral("Bio-points"));
         orderlab[index]->setToolTip(QStringLiteral("Score"));
     }
-    ShowAll(true);
+    ShowAll();
+}
+
+void ClanPanel::ShowState(const GameState& state) {
+    state_ = &state;
+    for (GeneChips* chips : GeneLists) {
+        chips->ShowState(state);
+    }
+    ShowAll();
 }
 
 bool ClanPanel::Shown() const {
-    return game.NumPlayers >= 1 && game.NumPlayers <= MaxClans && ClanAtPlace(game.NumPlayers) >= 1;
+    return state_->NumPlayers >= 1 && state_->NumPlayers <= MaxClans && ClanAtPlace(*state_, state_->NumPlayers) >= 1;
 }
 
 int ClanPanel::FullHeight() const {
-    return static_cast<int>((FullCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
+    return static_cast<int>((FullCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
 }
 
 int ClanPanel::LeastHeight() const {
-    return static_cast<int>((LeastCard + Gap) * game.NumPlayers - (game.NumPlayers > 0 ? Gap : 0));
+    return static_cast<int>((LeastCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
 }
 
 int ClanPanel::ShortHeight() const {
-    return static_cast<int>(game.NumPlayers > 0 ? LineHeads + LineHeight * game.NumPlayers : 0);
+    return static_cast<int>(state_->NumPlayers > 0 ? LineHeads + LineHeight * state_->NumPlayers : 0);
 }
 
 bool ClanPanel::InLines() const {
@@ -65,7 +73,7 @@ bool ClanPanel::InLines() const {
 }
 
 double ClanPanel::CardHeight() const {
-    return std::min(FullCard, (height() - Gap * (game.NumPlayers - 1)) / std::max(game.NumPlayers, 1));
+    return std::min(FullCard, (height() - Gap * (state_->NumPlayers - 1)) / std::max(state_->NumPlayers, 1));
 }
 
 QRectF ClanPanel::CardRect(int place) const {
@@ -82,7 +90,7 @@ ClanPanel::Columns ClanPanel::ColumnsOf() const {
 }
 
 void ClanPanel::ShowBP(int clan) {
-    bplab[static_cast<std::size_t>(clan - 1)]->setText(QString::number(game.BP[clan]));
+    bplab[static_cast<std::size_t>(clan - 1)]->setText(QString::number(state_->BP[clan]));
     update();
 }
 
@@ -90,13 +98,13 @@ void ClanPanel::ShowOrder() {
     if (!Shown()) {
         return;
     }
-    for (int place = 1; place <= game.NumPlayers; ++place) {
-        const int clan = ClanAtPlace(place);
+    for (int place = 1; place <= state_->NumPlayers; ++place) {
+        const int clan = ClanAtPlace(*state_, place);
         QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
-        label->setText(QString::number(game.Players[clan].Score));
+        label->setText(QString::number(state_->Players[clan].Score));
         QPalette palette = label->palette();
-        palette.setColor(QPalette::Window, LabelBackground(clan));
-        palette.setColor(QPalette::WindowText, LabelText(clan));
+        palette.setColor(QPalette::Window, LabelBackground(*state_, clan));
+        palette.setColor(QPalette::WindowText, LabelText(*state_, clan));
         label->setPalette(palette);
     }
     Arrange();
@@ -104,7 +112,7 @@ void ClanPanel::ShowOrder() {
 }
 
 void ClanPanel::ShowGenes(int clan) {
-    GeneLists[static_cast<std::size_t>(clan - 1)]->Follow();
+    GeneLists[static_cast<std::size_t>(clan - 1)]->Reread();
     update();
 }
 
@@ -113,11 +121,10 @@ void ClanPanel::ShowCurrentClan(int clan) {
     update();
 }
 
-void ClanPanel::ShowAll(bool forget) {
+void ClanPanel::ShowAll() {
     for (int clan = 1; clan <= MaxClans; ++clan) {
-        GeneChips* chips = GeneLists[static_cast<std::size_t>(clan - 1)];
-        forget ? chips->Forget() : chips->Follow();
-        if (clan <= game.NumPlayers) {
+        ShowGenes(clan);
+        if (clan <= state_->NumPlayers) {
             ShowBP(clan);
         }
     }
@@ -133,14 +140,14 @@ void ClanPanel::resizeEvent(QResizeEvent*) {
 void ClanPanel::Arrange() {
     const Columns at = ColumnsOf();
     for (int place = 1; place <= MaxClans; ++place) {
-        const bool used = Shown() && place <= game.NumPlayers;
+        const bool used = Shown() && place <= state_->NumPlayers;
         orderlab[static_cast<std::size_t>(place - 1)]->setVisible(used);
-        bplab[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= game.NumPlayers);
+        bplab[static_cast<std::size_t>(place - 1)]->setVisible(Shown() && place <= state_->NumPlayers);
         GeneLists[static_cast<std::size_t>(place - 1)]->setVisible(used && !InLines());
         if (!used) {
             continue;
         }
-        const auto clan = static_cast<std::size_t>(ClanAtPlace(place) - 1);
+        const auto clan = static_cast<std::size_t>(ClanAtPlace(*state_, place) - 1);
         const QRectF card = CardRect(place);
         const double figures = card.top() + (InLines() ? 0 : Roomy() ? 22 : 19);
         orderlab[static_cast<std::size_t>(place - 1)]->setGeometry(
@@ -164,15 +171,15 @@ void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double to
     painter.setFont(LookFont(16, true));
     painter.setPen(QColor(look::Ink));
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("%1/%2").arg(game.AmoebaCount[clan]).arg(game.MaxAmoeba));
-    const int level = game.Players[clan].MutationLevel;
-    painter.setPen(level > game.UVLevel ? QColor(look::Alarm) : QColor(look::Ink));
+                     QStringLiteral("%1/%2").arg(state_->AmoebaCount[clan]).arg(state_->MaxAmoeba));
+    const int level = state_->Players[clan].MutationLevel;
+    painter.setPen(level > state_->UVLevel ? QColor(look::Alarm) : QColor(look::Ink));
     painter.drawText(QRectF(at.Mutation, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("%1%2").arg(level).arg(level > game.UVLevel ? QStringLiteral("!") : QString()));
+                     QStringLiteral("%1%2").arg(level).arg(level > state_->UVLevel ? QStringLiteral("!") : QString()));
 }
 
 void ClanPanel::DrawCard(QPainter& painter, int place) const {
-    const int clan = ClanAtPlace(place);
+    const int clan = ClanAtPlace(*state_, place);
     const ClanShades& shades = ShadesOf(clan);
     const QRectF card = CardRect(place).adjusted(1, 1, -1, -1);
     const bool acting = clan == current_;
@@ -191,23 +198,24 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
     const QFont nameFont = LookFont(Roomy() ? 14 : 12, true);
     painter.setFont(nameFont);
     painter.setPen(QColor(look::Ink));
-    const QString name = QFontMetricsF(nameFont).elidedText(ToQt(game.Players[clan].Name.View()), Qt::ElideRight, wide);
+    const QString name =
+        QFontMetricsF(nameFont).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide);
     painter.drawText(QPointF(left, card.top() + (Roomy() ? 22 : 17)), name);
     painter.setFont(LookFont(Roomy() ? 11.5 : 10));
     painter.setPen(QColor(look::Faint));
     if (Roomy()) {
-        painter.drawText(QPointF(left, card.top() + 39), Kind(clan));
+        painter.drawText(QPointF(left, card.top() + 39), Kind(state_->Players[clan]));
     } else {
         const double after = QFontMetricsF(nameFont).horizontalAdvance(name) + 6;
         painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                         Kind(clan));
+                         Kind(state_->Players[clan]));
     }
     const double top = CardRect(place).top();
     DrawFigures(painter, clan, top + (Roomy() ? 17 : 15), top + (Roomy() ? 22 : 19));
 }
 
 void ClanPanel::DrawLine(QPainter& painter, int place) const {
-    const int clan = ClanAtPlace(place);
+    const int clan = ClanAtPlace(*state_, place);
     const QRectF line = CardRect(place);
     if (clan == current_) {
         painter.setPen(QPen(ShadesOf(clan).Body, 2));
@@ -220,7 +228,7 @@ void ClanPanel::DrawLine(QPainter& painter, int place) const {
     painter.setFont(font);
     painter.setPen(QColor(look::Ink));
     painter.drawText(QRectF(line.left() + 30, line.top(), wide, line.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(font).elidedText(ToQt(game.Players[clan].Name.View()), Qt::ElideRight, wide));
+                     QFontMetricsF(font).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide));
     DrawFigures(painter, clan, LineHeads - 3, line.top());
 }
 
@@ -230,7 +238,7 @@ void ClanPanel::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (int place = 1; place <= game.NumPlayers; ++place) {
+    for (int place = 1; place <= state_->NumPlayers; ++place) {
         InLines() ? DrawLine(painter, place) : DrawCard(painter, place);
     }
 }

@@ -8,22 +8,25 @@
 namespace plasmos {
 
 class GeneChips;
+struct GameState;
 
-/// One card per clan in the order of play.
+/// One card per clan in the order of play, from the state it is given.
 class ClanPanel : public QWidget {
 public:
-    explicit ClanPanel(QWidget* parent);
+    ClanPanel(QWidget* parent, const GameState& state);
 
     std::array<QLabel*, 6> bplab;         ///< by clan - 1
     std::array<QLabel*, 6> orderlab;      ///< by place - 1
     std::array<GeneChips*, 6> GeneLists;  ///< by clan - 1
 
+    /// Shows another state, which is to live as long as it is shown; the clan that acts stays as it was told.
+    void ShowState(const GameState& state);
     void ShowBP(int clan);
     void ShowOrder();
     void ShowGenes(int clan);
     void ShowCurrentClan(int clan);
-    /// Takes everything from the state; forgetting begins a new game.
-    void ShowAll(bool forget);
+    /// Takes everything from the state.
+    void ShowAll();
 
     /// Height of the cards as they are meant, of the lowest cards, and of a line for each clan, which tells
     /// the figures and leaves the genes away.
@@ -51,6 +54,7 @@ private:
     void DrawFigures(QPainter& painter, int clan, double heads, double top) const;
     void DrawLine(QPainter& painter, int place) const;
 
+    const GameState* state_;
     int current_ = 0;
 };
 

@@ -70,10 +70,10 @@ void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degre
 
 }  // namespace
 
-std::vector<QPointF> LevelMarks(const QRectF& bar) {
+std::vector<QPointF> LevelMarks(const GameState& state, const QRectF& bar) {
     std::vector<QPointF> marks;
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        const double level = OnBar(bar, game.Players[clan].MutationLevel);
+    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
+        const double level = OnBar(bar, state.Players[clan].MutationLevel);
         marks.push_back(FreePlace(marks, QPointF(level, bar.bottom() + 2 + MarkRadius), bar.center().x()));
     }
     return marks;
@@ -99,37 +99,56 @@ void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius)
     }
 }
 
-EnvironmentView::EnvironmentView(QWidget* parent)
+EnvironmentView::EnvironmentView(QWidget* parent, const GameState& state)
     : Card(parent),
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, look::Ink)),
       driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
-      UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)) {
+      UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)),
+      state_(&state) {
     driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
     UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));
     driftlab->setContextMenuPolicy(Qt::PreventContextMenu);
     UVlab->setContextMenuPolicy(Qt::PreventContextMenu);
 }
 
-void EnvironmentView::ShowPhase(const QString& phase) {
-    phase_ = phase;
+void EnvironmentView::ShowState(const GameState& state) {
+    state_ = &state;
+    Clear();
+    if (state.Turn > 0) {
+        ShowTurn();
+        ShowPhase();
+    }
+    if (state.UVLevel > 0) {
+        ShowDrift();
+        ShowUV();
+    }
+}
+
+void EnvironmentView::ShowTurn() {
+    turnlab->setText(ToQt(Concat("Turn ", std::min(state_->Turn, LastTurn))));
+    update();
+}
+
+void EnvironmentView::ShowPhase() {
+    phaseTold_ = true;
     update();
 }
 
 void EnvironmentView::Clear() {
     turnlab->clear();
-    phase_.clear();
+    phaseTold_ = false;
     driftlab->clear();
     UVlab->clear();
     update();
 }
 
 void EnvironmentView::ShowDrift() {
-    driftlab->SetText(ToQt(DirectionText(game.Drift)));
+    driftlab->SetText(ToQt(DirectionText(*state_, state_->Drift)));
     update();
 }
 
 void EnvironmentView::ShowUV() {
-    UVlab->SetText(QString::number(game.UVLevel));
+    UVlab->SetText(QString::number(state_->UVLevel));
     update();
 }
 
@@ -146,17 +165,17 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
     for (int turn = 1; turn <= LastTurn; ++turn) {
         const QPointF centre(Pad + 8 + step * (turn - 1), 48);
         painter.setPen(QPen(QColor(look::Teal), 1.4));
-        painter.setBrush(turn <= game.Turn ? QColor(look::Teal) : QColor(Qt::white));
+        painter.setBrush(turn <= state_->Turn ? QColor(look::Teal) : QColor(Qt::white));
         painter.drawEllipse(centre, step * 0.36, step * 0.36);
     }
-    if (game.NumPlayers > 0) {
+    if (state_->NumPlayers > 0) {
         painter.setFont(LookFont(11));
         painter.setPen(QColor(look::Faint));
         QStringList words;
-        if (!phase_.isEmpty()) {
-            words << phase_;
+        if (phaseTold_ && !state_->Phase.Empty()) {
+            words << ToQt(state_->Phase);
         }
-        words << QStringLiteral("replay %1").arg(ToQt(ReplayText(game.ReplayNo)));
+        words << QStringLiteral("replay %1").arg(ToQt(ReplayText(state_->ReplayNo)));
         painter.drawText(QPointF(Pad + 3, 76), words.join(QStringLiteral(" · ")));
     }
 }
@@ -167,7 +186,7 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
     if (!driftlab->text().isEmpty()) {
-        DrawDriftArrow(painter, game.Drift, QPointF(DriftLeft() + 17, 51), 14);
+        DrawDriftArrow(painter, state_->Drift, QPointF(DriftLeft() + 17, 51), 14);
     }
 }
 
@@ -180,10 +199,10 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(levels);
     painter.drawRoundedRect(bar, 5, 5);
-    if (game.NumPlayers == 0) {
+    if (state_->NumPlayers == 0) {
         return;
     }
-    const double uv = OnBar(bar, game.UVLevel);
+    const double uv = OnBar(bar, state_->UVLevel);
     QPainterPath pointer(QPointF(uv, bar.top() - 1));
     pointer.lineTo(uv - 6, bar.top() - 10);
     pointer.lineTo(uv + 6, bar.top() - 10);
@@ -191,8 +210,8 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     painter.setBrush(QColor(look::Ink));
     painter.drawPath(pointer);
     painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
-    const std::vector<QPointF> marks = LevelMarks(bar);
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+    const std::vector<QPointF> marks = LevelMarks(*state_, bar);
+    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
         DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
     }
 }

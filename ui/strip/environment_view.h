@@ -8,19 +8,24 @@
 
 namespace plasmos {
 
-/// Turn, drift and UV level, the last against every clan's mutation level.
+struct GameState;
+
+/// Turn, drift and UV level of the state it is given, the last against every clan's mutation level.
 class EnvironmentView : public Card {
 public:
-    explicit EnvironmentView(QWidget* parent);
+    EnvironmentView(QWidget* parent, const GameState& state);
 
     QLabel* turnlab;
     FitLabel* driftlab;
     FitLabel* UVlab;
 
-    void ShowPhase(const QString& phase);
+    /// Shows another state, which is to live as long as it is shown.
+    void ShowState(const GameState& state);
     /// No game is shown.
     void Clear();
-    /// Shows the drift and the UV level of the state.
+    /// Shows the turn, its phase, the drift and the UV level of the state.
+    void ShowTurn();
+    void ShowPhase();
     void ShowDrift();
     void ShowUV();
 
@@ -34,15 +39,17 @@ private:
     void DrawTurns(QPainter& painter) const;
     void DrawArrow(QPainter& painter) const;
     void DrawLevels(QPainter& painter) const;
-    QString phase_;
 
     double DriftLeft() const { return width() * 0.41; }
     double UvLeft() const { return width() * 0.69; }
+
+    const GameState* state_;
+    bool phaseTold_ = false;
 };
 
 /// Where the marks of clan 1, 2, ... stand under the bar of levels: at the clan's mutation level, below
 /// each other where they would cover each other, and aside where there is no more room below.
-std::vector<QPointF> LevelMarks(const QRectF& bar);
+std::vector<QPointF> LevelMarks(const GameState& state, const QRectF& bar);
 
 /// The arrow of a drift direction (a square offset) in a circle; a dot in place, a star of arrows where
 /// the amoeba may choose.

@@ -30,18 +30,26 @@ QFont ChipFont(int form) {
 
 }  // namespace
 
-GeneChips::GeneChips(QWidget* parent, int clan) : QWidget(parent), clan_(clan) {
+GeneChips::GeneChips(QWidget* parent, const GameState& state, int clan) : QWidget(parent), state_(&state), clan_(clan) {
     setObjectName(QStringLiteral("genelist%1").arg(clan - 1));
 }
 
-void GeneChips::Follow() {
-    std::erase_if(genes_, [this](int gene) { return !game.Genes[gene][clan_]; });
+void GeneChips::ShowState(const GameState& state) {
+    state_ = &state;
+    Reread();
+}
+
+void GeneChips::Reread() {
+    genes_.clear();
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (game.Genes[gene][clan_] && std::find(genes_.begin(), genes_.end(), gene) == genes_.end()) {
+        if (state_->Genes[gene][clan_]) {
             genes_.push_back(gene);
         }
     }
-    setToolTip(ToQt(MutationTip(clan_)));
+    const auto& bought = state_->BoughtAs;
+    std::stable_sort(genes_.begin(), genes_.end(),
+                     [&](int one, int other) { return bought[one][clan_] < bought[other][clan_]; });
+    setToolTip(ToQt(MutationTip(*state_, clan_)));
     setAccessibleDescription(Names());
     update();
 }
@@ -52,11 +60,6 @@ QString GeneChips::Names() const {
         names << ToQt(GeneName(gene));
     }
     return names.join(QStringLiteral(", "));
-}
-
-void GeneChips::Forget() {
-    genes_.clear();
-    Follow();
 }
 
 // False: the chips of this form do not fit.

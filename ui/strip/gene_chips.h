@@ -6,17 +6,19 @@
 
 namespace plasmos {
 
+struct GameState;
+
 /// The visible list of a clan's genes in the order of purchase. Names are shortened to their codes
 /// where they would not fit; where even these do not, the last one says how many more there are, and
 /// its tool tip names them all.
 class GeneChips : public QWidget {
 public:
-    GeneChips(QWidget* parent, int clan);
+    GeneChips(QWidget* parent, const GameState& state, int clan);
 
-    /// Takes the clan's genes from the state: what is new goes to the end.
-    void Follow();
-    /// Begins a new game.
-    void Forget();
+    /// Shows the clan's genes in another state, which is to live as long as it is shown.
+    void ShowState(const GameState& state);
+    /// Takes the clan's genes from the state.
+    void Reread();
     const std::vector<int>& Genes() const { return genes_; }
 
 protected:
@@ -36,6 +38,7 @@ private:
     std::vector<Chip> Chips() const;
     QString Names() const;
 
+    const GameState* state_;
     int clan_;
     std::vector<int> genes_;
 };

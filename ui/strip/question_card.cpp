@@ -16,10 +16,10 @@ constexpr int Pad = 14;
 constexpr int HeadHeight = 24;
 constexpr int ButtonHeight = 32;
 
-void SetLabelColours(QLabel* label, int clan) {
+void SetLabelColours(const GameState& state, QLabel* label, int clan) {
     QPalette palette = label->palette();
-    palette.setColor(QPalette::Window, LabelBackground(clan));
-    palette.setColor(QPalette::WindowText, LabelText(clan));
+    palette.setColor(QPalette::Window, LabelBackground(state, clan));
+    palette.setColor(QPalette::WindowText, LabelText(state, clan));
     label->setPalette(palette);
 }
 
@@ -35,7 +35,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
 
 }  // namespace
 
-QuestionCard::QuestionCard(QWidget* parent)
+QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     : Card(parent),
       playerlab(new PillLabel(this)),
       msglab(new FitLabel(this, 15, 10)),
@@ -43,6 +43,7 @@ QuestionCard::QuestionCard(QWidget* parent)
       autotenlab(MakePill(this, "autotenlab", "auto-tentacle")),
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
+      state_(state),
       hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, look::Ink)) {
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
@@ -68,7 +69,7 @@ void QuestionCard::ShowMessage(const QString& text, int clan) {
 
 void QuestionCard::ShowClan(int clan) {
     playerClan_ = clan;
-    playerlab->setText(clan > 0 ? ToQt(game.Players[clan].Name.View()) : QString());
+    playerlab->setText(clan > 0 ? ToQt(state_.Players[clan].Name.View()) : QString());
     playerlab->setVisible(clan > 0);
     Recolour();
     Arrange();
@@ -92,11 +93,11 @@ void QuestionCard::ShowHint(const QString& hint) {
 }
 
 void QuestionCard::Recolour() {
-    SetLabelColours(msglab, messageClan_);
-    SetLabelColours(playerlab, playerClan_);
-    SetLabelColour(hint_, LabelText(messageClan_));
+    SetLabelColours(state_, msglab, messageClan_);
+    SetLabelColours(state_, playerlab, playerClan_);
+    SetLabelColour(hint_, LabelText(state_, messageClan_));
     const bool coloured = messageClan_ != 0;
-    SetColours(LabelBackground(messageClan_), coloured ? ShadesOf(messageClan_).Dark : QColor(look::CardEdge));
+    SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : QColor(look::CardEdge));
 }
 
 int QuestionCard::HeightFor(int width, bool tight) const {

@@ -7,11 +7,13 @@
 
 namespace plasmos {
 
+struct GameState;
+
 /// The message line in the colours of the clan it speaks to, with the current clan's name and the
 /// buttons Yes and No, which answer only while they are asked for.
 class QuestionCard : public Card {
 public:
-    explicit QuestionCard(QWidget* parent);
+    QuestionCard(QWidget* parent, const GameState& state);
 
     QLabel* playerlab;
     FitLabel* msglab;
@@ -41,6 +43,7 @@ private:
     void Recolour();
     void Arrange();
 
+    const GameState& state_;
     QLabel* hint_;
     int messageClan_ = 0;
     int playerClan_ = 0;

@@ -24,14 +24,22 @@ constexpr int PleasantLog = 130;
 
 }  // namespace
 
-SideStrip::SideStrip(QWidget* parent)
+SideStrip::SideStrip(QWidget* parent, const GameState& state)
     : QWidget(parent),
-      Environment(new EnvironmentView(this)),
-      Start(new StartCard(this)),
-      Question(new QuestionCard(this)),
-      Clans(new ClanPanel(this)),
-      Log(new LogView(this)) {
+      Environment(new EnvironmentView(this, state)),
+      Start(new StartCard(this, state)),
+      Question(new QuestionCard(this, state)),
+      Clans(new ClanPanel(this, state)),
+      Log(new LogView(this)),
+      state_(&state) {
     SetPlaying(false);
+}
+
+void SideStrip::ShowState(const GameState& state) {
+    state_ = &state;
+    Environment->ShowState(state);
+    Clans->ShowState(state);
+    Arrange();
 }
 
 void SideStrip::SetPlaying(bool playing) {
@@ -64,7 +72,7 @@ bool SideStrip::ShowsEnvironment() const {
     if (!playing_) {
         // After a game the final scores are worth more than the last light.
         const int scores = Start->HeightFor(width()) + Clans->ShortHeight() + Gap;
-        return game.NumPlayers > 0 && height() >= environment + scores;
+        return state_->NumPlayers > 0 && height() >= environment + scores;
     }
     if (panels_.empty()) {
         return true;

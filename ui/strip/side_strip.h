@@ -12,12 +12,13 @@ class LogView;
 class QuestionCard;
 class QuestionPanel;
 class StartCard;
+struct GameState;
 
 /// The strip beside the board: environment, question or start, open dialogs, clans, log. What does not
 /// fit below an open dialog makes room for it.
 class SideStrip : public QWidget {
 public:
-    explicit SideStrip(QWidget* parent);
+    SideStrip(QWidget* parent, const GameState& state);
 
     EnvironmentView* Environment;
     StartCard* Start;
@@ -25,6 +26,9 @@ public:
     ClanPanel* Clans;
     LogView* Log;
 
+    /// Shows environment and clans of another state, which is to live as long as it is shown. What is asked and told
+    /// stays.
+    void ShowState(const GameState& state);
     /// A game is on: the question card takes the place of the start card.
     void SetPlaying(bool playing);
     /// The open dialogs, the topmost last.
@@ -40,6 +44,7 @@ private:
     int ArrangeHead();
     int ArrangePanels(int top);
 
+    const GameState* state_;
     bool playing_ = false;
     std::vector<QuestionPanel*> panels_;
 };

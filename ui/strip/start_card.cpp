@@ -22,11 +22,12 @@ const char* const Welcome =
 
 }  // namespace
 
-StartCard::StartCard(QWidget* parent)
+StartCard::StartCard(QWidget* parent, const GameState& state)
     : Card(parent),
       gob(new QPushButton(QStringLiteral("Go"), this)),
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
       txtReplay(new QLineEdit(this)),
+      state_(state),
       title_(MakeLabel(this, QStringLiteral("titlelab"), 21, true, look::Ink)),
       text_(new FitLabel(this, 13, 10)),
       replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, look::Faint)) {
@@ -78,7 +79,7 @@ void StartCard::paintEvent(QPaintEvent* event) {
         return;
     }
     const double pitch = std::min(52.0, (width() - 2.0 * Pad) / MaxClans);
-    const int clans = winner_ > 0 ? game.NumPlayers : MaxClans;
+    const int clans = winner_ > 0 ? state_.NumPlayers : MaxClans;
     for (int clan = 1; clan <= clans; ++clan) {
         const QPointF centre(Pad + pitch * (clan - 0.5), 66);
         BlobLook blob{clan, clan, 0, clan == winner_, winner_ != 0 && clan != winner_, 1};

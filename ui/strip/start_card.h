@@ -8,10 +8,12 @@
 
 namespace plasmos {
 
+struct GameState;
+
 /// What greets the person between two games: Go, the replay number, and a game to watch.
 class StartCard : public Card {
 public:
-    explicit StartCard(QWidget* parent);
+    StartCard(QWidget* parent, const GameState& state);
 
     QPushButton* gob;
     QPushButton* watchb;
@@ -31,6 +33,7 @@ private:
 
     static constexpr int Roomy = 420;
 
+    const GameState& state_;
     QLabel* title_;
     FitLabel* text_;
     QLabel* replayLabel_;

@@ -16,6 +16,7 @@
 #include "flow/play_game.h"
 #include "flow/start.h"
 #include "model/game_state.h"
+#include "model/message_line.h"
 #include "model/services.h"
 #include "questions/ask.h"
 #include "ui/board/puddle_view.h"
@@ -45,8 +46,8 @@ constexpr int FarthestPixel = 100000;
 class TableTop : public QWidget {
 public:
     TableTop(QWidget* parent, ScoreTrack*& track, SideStrip*& strip) : QWidget(parent) {
-        track_ = track = new ScoreTrack(this);
-        strip_ = strip = new SideStrip(this);
+        track_ = track = new ScoreTrack(this, game);
+        strip_ = strip = new SideStrip(this, game);
     }
 
 protected:
@@ -153,11 +154,11 @@ void UBoard::SetPlaying(bool playing) {
     leaving_ = false;
     fault_ = nullptr;
     if (playing) {
-        message_.clear();
+        ForgetMessage();
         strip_->Question->ShowMessage(QString(), 0);
         strip_->Question->ShowClan(0);
         strip_->Environment->Clear();
-        strip_->Clans->ShowAll(true);
+        strip_->Clans->ShowAll();
     } else {
         strip_->Start->txtReplay->clear();
         strip_->Start->txtReplay->show();
@@ -173,13 +174,19 @@ void UBoard::SetPlaying(bool playing) {
     EnableStart();
 }
 
+void UBoard::ShowState(const GameState& state) {
+    GiveBack();
+    track_->ShowState(state);
+    strip_->ShowState(state);
+}
+
 // Another board: the pieces of the game before have no place on it.
 void UBoard::ClearBoard() {
     ResetTables();
     track_->Puddle()->Settle();
     track_->BoardChanged();
     strip_->Environment->Clear();
-    strip_->Clans->ShowAll(true);
+    strip_->Clans->ShowAll();
     strip_->Start->ShowResult(QString(), 0);
     strip_->Arrange();
 }

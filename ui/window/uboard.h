@@ -44,6 +44,10 @@ public:
     /// Runs a game, or a part of one, the way the start buttons do.
     void Play(const std::function<void()>& play);
 
+    /// Shows board, clans and environment of a state, which is to live as long as it is shown; of the current game
+    /// with ShowState(game). What is asked, told and marked stays.
+    void ShowState(const GameState& state);
+
     /// Pauses and animations: 1 as they are meant, 0 none.
     void SetSpeed(double factor) { speed_ = factor; }
 
@@ -57,7 +61,6 @@ public:
 
     // ---- what the rules need ----
     void ShowMessage(std::string_view text, int clan) override;
-    std::string Message() const override { return message_; }
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int clan) override;
     void ShowPhase(std::string_view phase) override;
@@ -139,7 +142,6 @@ private:
     ToolTips* tips_ = nullptr;
     QTimer zyTimer_;
     QString borrowed_;
-    std::string message_;
     QPointer<OptionsDialog> options_;
     EventWait wait_;
     std::exception_ptr fault_;  ///< thrown by a question's handler; the rules get it

@@ -24,7 +24,6 @@ constexpr int GlideMilliseconds = 280;
 }  // namespace
 
 void UBoard::ShowMessage(std::string_view text, int clan) {
-    message_ = text;
     strip_->Question->ShowMessage(ToQt(text), clan);
     strip_->Arrange();
 }
@@ -39,7 +38,7 @@ void UBoard::Log(std::string_view line, int clan) {
 
 void UBoard::ShowPhase(std::string_view phase) {
     strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
-    strip_->Environment->ShowPhase(ToQt(phase));
+    strip_->Environment->ShowPhase();
 }
 
 void UBoard::ShowCaption(std::string_view caption) {
@@ -47,8 +46,7 @@ void UBoard::ShowCaption(std::string_view caption) {
 }
 
 void UBoard::ShowTurn() {
-    strip_->Environment->turnlab->setText(ToQt(Concat("Turn ", game.Turn)));
-    strip_->Environment->update();
+    strip_->Environment->ShowTurn();
 }
 
 void UBoard::ShowBP(int clan) {

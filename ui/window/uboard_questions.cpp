@@ -62,7 +62,7 @@ Question* UBoard::TopQuestion() const {
 }
 
 void UBoard::Open(Question& question) {
-    auto panel = MakePanel(strip_, question);
+    auto panel = MakePanel(strip_, game, question);
     if (panel) {
         panel->OnHandled = [this] { wait_.Wake(); };
         panel->OnFault = [this](std::exception_ptr fault) {

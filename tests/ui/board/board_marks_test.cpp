@@ -101,7 +101,7 @@ void BoardMarksTest::everyLevelIsSeen() {
         game.Players[clan].MutationLevel = levels[clan - 1];
     }
     const QRectF bar(100, 36, 96, 11);
-    const std::vector<QPointF> marks = LevelMarks(bar);
+    const std::vector<QPointF> marks = LevelMarks(game, bar);
     QCOMPARE(static_cast<int>(marks.size()), game.NumPlayers);
     for (std::size_t one = 0; one < marks.size(); ++one) {
         for (std::size_t other = 0; other < one; ++other) {

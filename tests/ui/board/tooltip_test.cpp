@@ -63,23 +63,23 @@ private slots:
 
 void TooltipTest::theBand() {
     const TipScene scene;
-    const QRectF marker = MarkerOf(3, 1);
+    const QRectF marker = MarkerOf(game, 3, 1);
     QVERIFY(!marker.isEmpty());
     const int x = static_cast<int>(marker.center().x());
     const int y = static_cast<int>(marker.center().y());
     const std::string text = "1- C1 (0)";
-    QCOMPARE(TipTextAt(Within(marker.left()), y), std::string());
-    QCOMPARE(TipTextAt(Beyond(marker.left()), y), text);
-    QCOMPARE(TipTextAt(Within(marker.right()), y), text);
-    QCOMPARE(TipTextAt(Beyond(marker.right()), y), std::string());
-    QCOMPARE(TipTextAt(x, Within(marker.top())), std::string());
-    QCOMPARE(TipTextAt(x, Within(marker.top() + Band)), std::string());
-    QCOMPARE(TipTextAt(x, Beyond(marker.top() + Band)), text);
-    QCOMPARE(TipTextAt(x, Beyond(marker.bottom())), text);
-    QCOMPARE(TipTextAt(x, Within(marker.bottom() + Band)), text);
-    QCOMPARE(TipTextAt(x, Beyond(marker.bottom() + Band)), std::string());
-    QCOMPARE(TipTextAt(-1, -1), std::string());
-    QCOMPARE(TipTextAt(100000, 100000), std::string());
+    QCOMPARE(TipTextAt(game, Within(marker.left()), y), std::string());
+    QCOMPARE(TipTextAt(game, Beyond(marker.left()), y), text);
+    QCOMPARE(TipTextAt(game, Within(marker.right()), y), text);
+    QCOMPARE(TipTextAt(game, Beyond(marker.right()), y), std::string());
+    QCOMPARE(TipTextAt(game, x, Within(marker.top())), std::string());
+    QCOMPARE(TipTextAt(game, x, Within(marker.top() + Band)), std::string());
+    QCOMPARE(TipTextAt(game, x, Beyond(marker.top() + Band)), text);
+    QCOMPARE(TipTextAt(game, x, Beyond(marker.bottom())), text);
+    QCOMPARE(TipTextAt(game, x, Within(marker.bottom() + Band)), text);
+    QCOMPARE(TipTextAt(game, x, Beyond(marker.bottom() + Band)), std::string());
+    QCOMPARE(TipTextAt(game, -1, -1), std::string());
+    QCOMPARE(TipTextAt(game, 100000, 100000), std::string());
 }
 
 void TooltipTest::theText() {
@@ -87,8 +87,8 @@ void TooltipTest::theText() {
     Put(1, 3, 12);
     game.Amoeba[3][1].Name = "Blue3";
     game.Amoeba[3][1].Damage = 1;
-    const QPoint middle = MarkerOf(1, 3).center().toPoint();
-    QCOMPARE(TipTextAt(middle.x(), middle.y()), std::string("3- Blue3 (1)"));
+    const QPoint middle = MarkerOf(game, 1, 3).center().toPoint();
+    QCOMPARE(TipTextAt(game, middle.x(), middle.y()), std::string("3- Blue3 (1)"));
 }
 
 // Markers that overlap: the lower clan is told, then the lower number.
@@ -102,20 +102,20 @@ void TooltipTest::whoComesFirst() {
         const TipScene scene;
         Put(row.Clan, row.Amoeba, 13, 15);
         Put(row.OtherClan, row.OtherAmoeba, 13, 16);
-        const QRectF both = MarkerOf(row.Clan, row.Amoeba) & MarkerOf(row.OtherClan, row.OtherAmoeba);
+        const QRectF both = MarkerOf(game, row.Clan, row.Amoeba) & MarkerOf(game, row.OtherClan, row.OtherAmoeba);
         QVERIFY2(both.width() > 2 && both.height() > 2, "the markers do not overlap");
         const QPoint middle = both.center().toPoint() + QPoint(0, Band);
-        QCOMPARE(TipTextAt(middle.x(), middle.y()), std::string(row.Text));
+        QCOMPARE(TipTextAt(game, middle.x(), middle.y()), std::string(row.Text));
     }
 }
 
 void TooltipTest::theDeadAreSilent() {
     const TipScene scene;
-    const QPoint middle = MarkerOf(3, 1).center().toPoint();
+    const QPoint middle = MarkerOf(game, 3, 1).center().toPoint();
     LiftPiece(3, 1);
-    QCOMPARE(TipTextAt(middle.x(), middle.y()), std::string());
+    QCOMPARE(TipTextAt(game, middle.x(), middle.y()), std::string());
     PutPiece(3, 1, 7, 0);
-    QCOMPARE(TipTextAt(middle.x(), middle.y()), std::string());
+    QCOMPARE(TipTextAt(game, middle.x(), middle.y()), std::string());
 }
 
 void TooltipTest::everyPieceTellsItself() {
@@ -127,11 +127,11 @@ void TooltipTest::everyPieceTellsItself() {
     }
     for (int clan = 1; clan <= 4; ++clan) {
         for (int amoeba = 2; amoeba <= 7; ++amoeba) {
-            const QRectF marker = MarkerOf(clan, amoeba);
+            const QRectF marker = MarkerOf(game, clan, amoeba);
             bool told = false;
             for (int y = Beyond(marker.top() + Band); y <= marker.bottom() + Band && !told; y += 7) {
                 for (int x = Beyond(marker.left()); x <= marker.right() && !told; x += 7) {
-                    told = TipTextAt(x, y) == Concat(amoeba, "- ", game.Amoeba[amoeba][clan].Name, " (0)");
+                    told = TipTextAt(game, x, y) == Concat(amoeba, "- ", game.Amoeba[amoeba][clan].Name, " (0)");
                 }
             }
             QVERIFY2(told, Concat("clan ", clan, ", amoeba ", amoeba).c_str());
@@ -143,7 +143,7 @@ void TooltipTest::showsAndHides() {
     TipScene scene;
     QCOMPARE(scene.Timer()->interval(), 1500);
     QVERIFY(scene.Timer()->isActive() && !scene.Tip()->isVisible());
-    scene.PointAt(MarkerOf(3, 1).center());
+    scene.PointAt(MarkerOf(game, 3, 1).center());
     scene.Tick();
     QVERIFY(scene.Tip()->isVisible());
     QCOMPARE(scene.Tip()->text(), QStringLiteral("1- C1 (0)"));
@@ -158,7 +158,7 @@ void TooltipTest::showsAndHides() {
 
 void TooltipTest::followsThePointer() {
     TipScene scene;
-    const QPointF middle = MarkerOf(3, 1).center();
+    const QPointF middle = MarkerOf(game, 3, 1).center();
     scene.PointAt(middle);
     scene.Tick();
     for (const QPointF step : {QPointF(60, 0), QPointF(0, 60), QPointF(-60, -60)}) {
@@ -173,17 +173,17 @@ void TooltipTest::anotherPieceAnotherText() {
     TipScene scene;
     Put(1, 2, 9);
     game.Amoeba[2][1].Name = "A much longer name";
-    scene.PointAt(MarkerOf(3, 1).center());
+    scene.PointAt(MarkerOf(game, 3, 1).center());
     scene.Tick();
     const int narrow = scene.Tip()->width();
-    scene.PointAt(MarkerOf(1, 2).center());
+    scene.PointAt(MarkerOf(game, 1, 2).center());
     QTRY_COMPARE(scene.Tip()->text(), QStringLiteral("2- A much longer name (0)"));
     QVERIFY(scene.Tip()->width() > narrow);
 }
 
 void TooltipTest::goesWhenThePieceGoes() {
     TipScene scene;
-    scene.PointAt(MarkerOf(3, 1).center());
+    scene.PointAt(MarkerOf(game, 3, 1).center());
     scene.Tick();
     QVERIFY(scene.Tip()->isVisible());
     game.Amoeba[1][3].Damage = 1;

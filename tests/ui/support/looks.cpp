@@ -69,8 +69,8 @@ public:
     }
     void Colours(const QString& name, int clan) {
         const QPalette palette = scene_.Find(name)->palette();
-        if (palette.color(QPalette::Window) != LabelBackground(clan) ||
-            palette.color(QPalette::WindowText) != LabelText(clan)) {
+        if (palette.color(QPalette::Window) != LabelBackground(game, clan) ||
+            palette.color(QPalette::WindowText) != LabelText(game, clan)) {
             Note(Concat(name.toStdString(), " has not the colours of clan ", clan));
         }
     }

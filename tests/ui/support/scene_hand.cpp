@@ -121,7 +121,7 @@ void Scene::Paste(const QString& name, const QString& text) {
 }
 
 void Scene::ClickSquare(int square, Qt::MouseButton button) {
-    Press(&Puddle(), button, Puddle().PointAt(SquareMiddle(square)).toPoint());
+    Press(&Puddle(), button, Puddle().PointAt(SquareMiddle(game, square)).toPoint());
 }
 
 QAction* Scene::Item(const QString& name) {

@@ -195,7 +195,7 @@ void BoardWindowTest::twoClansTwoColours() {
 void BoardWindowTest::anEarlierTextComesBack() {
     PositionScene scene;
     scene.ThenSquare({2, 6, 8, 12}, 6);
-    PHASE(scene, Board().ShowMessage("Before", 3); QCOMPARE(ChooseSquare(3, 1, true), 6);
+    PHASE(scene, ShowStatement("Before", 3); QCOMPARE(ChooseSquare(3, 1, true), 6);
           QCOMPARE(scene.Text(QStringLiteral("msglab")), QStringLiteral("Before")));
 }
 
