@@ -107,9 +107,26 @@ Switch SwitchQueue::Next() {
     return oldest;
 }
 
-bool SwitchQueue::Leaves() const {
-    return std::any_of(std::begin(waiting_), std::begin(waiting_) + count_,
-                       [](const Switch& turned) { return turned.What == Kind::Leave; });
+const Switch* SwitchQueue::LastOf(Switch::Kind kind) const {
+    for (int place = count_ - 1; place >= 0; --place) {
+        if (waiting_[place].What == kind) {
+            return &waiting_[place];
+        }
+    }
+    return nullptr;
+}
+
+bool WantsFastMode() {
+    const Switch* last = services.Switches.LastOf(Kind::FastMode);
+    return last != nullptr ? last->On : game.FastMode;
+}
+
+void SettleSwitches() {
+    while (!services.Switches.Empty()) {
+        if (const Switch turned = services.Switches.Next(); turned.What != Kind::Leave) {
+            Apply(turned);
+        }
+    }
 }
 
 void TakeSwitches(TakenAt place) {

@@ -42,7 +42,9 @@ public:
     Switch Next();
     void Clear() { count_ = 0; }
     /// Whether the person wants to leave.
-    bool Leaves() const;
+    bool Leaves() const { return LastOf(Switch::Kind::Leave) != nullptr; }
+    /// The latest switch of a kind; none: nullptr.
+    const Switch* LastOf(Switch::Kind kind) const;
 
 private:
     static constexpr int Most = 32;
@@ -53,6 +55,12 @@ private:
 
 /// Where switches are taken over.
 enum class TakenAt { Step, Question };
+
+/// Whether fast mode is on as the person has it, whether or not the rules have taken that over.
+bool WantsFastMode();
+
+/// The game is over: what still waits counts from now on, and nobody leaves any more.
+void SettleSwitches();
 
 /// Takes over what has been switched since the last time. Throws GameLeft when the person leaves.
 void TakeSwitches(TakenAt place);

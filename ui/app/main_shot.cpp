@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,24 +36,10 @@ struct Wish {
     QSize Size{1320, 860};
 };
 
-/// The window as it is told to be: it prints the log, and takes pictures at the turns of a demonstration.
+/// A window that takes pictures of itself.
 class DemoBoard : public UBoard {
 public:
-    explicit DemoBoard(QString folder) : folder_(std::move(folder)) {}
-
-    void Log(std::string_view line, int clan) override {
-        UBoard::Log(line, clan);
-        std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
-    }
-
-    void ShowTurn() override {
-        UBoard::ShowTurn();
-        if (game.Turn == 1) {
-            Take(QStringLiteral("first.png"));
-        } else if (game.Turn == LastDemoTurn / 2 + 1) {
-            Take(QStringLiteral("middle.png"));
-        }
-    }
+    explicit DemoBoard(QString folder);
 
     bool Take(const QString& name) {
         const QString path = QDir(folder_).filePath(name);
@@ -72,6 +59,33 @@ private:
     std::vector<QString> pictures_;
     bool failed_ = false;
 };
+
+/// Prints the log, and has pictures taken at the turns of a demonstration.
+class DemoPresentation : public BoardPresentation {
+public:
+    DemoPresentation(const BoardParts& parts, DemoBoard& board) : BoardPresentation(parts), board_(&board) {}
+
+    void Log(std::string_view line, int clan) override {
+        BoardPresentation::Log(line, clan);
+        std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
+    }
+
+    void ShowTurn() override {
+        BoardPresentation::ShowTurn();
+        if (game.Turn == 1) {
+            board_->Take(QStringLiteral("first.png"));
+        } else if (game.Turn == LastDemoTurn / 2 + 1) {
+            board_->Take(QStringLiteral("middle.png"));
+        }
+    }
+
+private:
+    DemoBoard* board_;
+};
+
+DemoBoard::DemoBoard(QString folder)
+    : UBoard([this](const BoardParts& parts) { return std::make_unique<DemoPresentation>(parts, *this); }),
+      folder_(std::move(folder)) {}
 
 int Refuse(const char* why) {
     std::fprintf(stderr, "plasmos-shot: %s; usage: plasmos-shot FILE [--replay N] [--size WxH] | --demo FOLDER\n", why);

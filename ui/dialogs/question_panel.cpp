@@ -118,15 +118,8 @@ void QuestionPanel::Handle(const std::function<void()>& handler) {
     if (retired_ || question_.Answered()) {
         return;
     }
-    try {
-        handler();
-        Reread();
-    } catch (const std::exception&) {
-        if (OnFault) {
-            OnFault(std::current_exception());
-        }
-        return;
-    }
+    handler();
+    Reread();
     if (OnHandled) {
         OnHandled();
     }

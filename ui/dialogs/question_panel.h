@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <exception>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -38,9 +37,6 @@ public:
 
     /// Called after a handler of the question has run.
     std::function<void()> OnHandled;
-
-    /// Called with what a handler has thrown: it may not pass through the event loop.
-    std::function<void(std::exception_ptr fault)> OnFault;
 
     /// Height the panel wants at a width.
     int HeightFor(int width) const;

@@ -21,6 +21,7 @@ public:
 
     /// Shows another state, which is to live as long as it is shown.
     void ShowState(const GameState& state);
+    const GameState& State() const { return *state_; }
     /// No game is shown.
     void Clear();
     /// Shows the turn, its phase, the drift and the UV level of the state.

@@ -4,21 +4,15 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QScreen>
-#include <QShortcut>
 #include <QThread>
-#include <QWindow>
-#include <algorithm>
 
+#include "files/game_files.h"
 #include "files/runtime_error.h"
-#include "files/settings_store.h"
-#include "files/text.h"
 #include "flow/play_game.h"
 #include "flow/start.h"
 #include "model/game_state.h"
 #include "model/message_line.h"
 #include "model/services.h"
-#include "questions/ask.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/score_track.h"
 #include "ui/board/ttip.h"
@@ -27,91 +21,73 @@
 #include "ui/options/options_dialog.h"
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/environment_view.h"
-#include "ui/strip/log_view.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
+#include "ui/window/board_menus.h"
+#include "ui/window/lent_labels.h"
+#include "ui/window/question_desk.h"
+#include "ui/window/table_top.h"
+#include "ui/window/window_place.h"
 
 namespace plasmos {
 
 namespace {
 
-constexpr QSize UsualSize(1320, 860);
-constexpr QSize LeastSize(720, 400);
-constexpr int FrameKnown = 300;
-constexpr int Margin = 10;
-constexpr int FarthestPixel = 100000;
-
-/// Board and strip side by side; the strip takes what is left of a comfortable share.
-class TableTop : public QWidget {
-public:
-    TableTop(QWidget* parent, ScoreTrack*& track, SideStrip*& strip) : QWidget(parent) {
-        track_ = track = new ScoreTrack(this, game);
-        strip_ = strip = new SideStrip(this, game);
-    }
-
-protected:
-    void resizeEvent(QResizeEvent*) override {
-        const int side = std::clamp(width() * 36 / 100, 380, 490);
-        const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
-        strip_->setGeometry(inner.right() - side + 1, inner.top(), side, inner.height());
-        track_->setGeometry(inner.left(), inner.top(), inner.width() - side - Margin, inner.height());
-    }
-
-private:
-    ScoreTrack* track_;
-    SideStrip* strip_;
-};
+std::unique_ptr<BoardPresentation> MakePresentation(const BoardParts& parts) {
+    return std::make_unique<BoardPresentation>(parts);
+}
 
 }  // namespace
 
-UBoard::UBoard() {
+UBoard::UBoard() : UBoard(MakePresentation) {}
+
+UBoard::UBoard(const PresentationMaker& make) {
     setObjectName(QStringLiteral("UBoard"));
     setWindowTitle(QStringLiteral("The Puddle"));
     setPalette(LookPalette());
     setStyleSheet(LookSheet());
     setFont(LookFont(13));
-    services.Window = this;
     LoadBoard();
-    setCentralWidget(new TableTop(this, track_, strip_));
-    BuildMenus();
-    BuildStrip();
+    auto* table = new TableTop(this, game);
+    track_ = table->Track;
+    strip_ = table->Strip;
+    setCentralWidget(table);
+    menus_ = std::make_unique<BoardMenus>(
+        *this, *track_->Puddle(),
+        BoardMenus::Deeds{[this] { watch_Click(); }, [this] { LeaveGame(); }, [this] { desk_->Wake(); },
+                          [this] { pref_men_Click(); }, [this](const QString& text) { Tell(text); }});
+    desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
+    desk_->OnQuestion = [this](Question& question) {
+        if (OnQuestion) {
+            OnQuestion(question);
+        }
+    };
+    lent_ = new LentLabels(this, *strip_->Environment);
     tips_ = new ToolTips(track_->Puddle());
-    LoadWindow();
+    place_ = std::make_unique<WindowPlace>(*this);
+    BuildStart();
+    presentation_ = make({*this, *track_, *strip_, *menus_, *desk_});
+    services.Window = presentation_.get();
+    place_->Load();
     SetPlaying(false);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { EndProgram(); });
 }
 
 UBoard::~UBoard() {
-    if (services.Window == this) {
+    if (services.Window == presentation_.get()) {
         services.Window = nullptr;
     }
 }
 
-void UBoard::BuildStrip() {
+void UBoard::BuildStart() {
     connect(strip_->Start->gob, &QPushButton::clicked, this, [this] { gob_Click(); });
     connect(strip_->Start->watchb, &QPushButton::clicked, this, [this] { watch_Click(); });
     connect(strip_->Start->txtReplay, &QLineEdit::returnPressed, this, [this] { gob_Click(); });
-    for (QPushButton* button :
-         {strip_->Start->gob, strip_->Start->watchb, strip_->Question->yesb, strip_->Question->nob}) {
+    for (QPushButton* button : {strip_->Start->gob, strip_->Start->watchb}) {
         RefuseRepeats(button);
         button->setAutoDefault(true);
     }
-    connect(strip_->Question->yesb, &QPushButton::clicked, this, [this] { Answer(yesb_Click); });
-    connect(strip_->Question->nob, &QPushButton::clicked, this, [this] { Answer(nob_Click); });
-    for (const auto& [key, button] :
-         {std::pair{Qt::Key_Y, strip_->Question->yesb}, std::pair{Qt::Key_N, strip_->Question->nob}}) {
-        auto* shortcut = new QShortcut(QKeySequence(key), this);
-        shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-    }
-    track_->Puddle()->OnSquarePoint = [this](int x, int y) { AnswerSquare(x, y); };
-    strip_->Environment->driftlab->installEventFilter(this);
-    strip_->Environment->UVlab->installEventFilter(this);
-    zyTimer_.setObjectName(QStringLiteral("zyTimer"));
-    zyTimer_.setParent(this);
-    zyTimer_.setSingleShot(true);
-    connect(&zyTimer_, &QTimer::timeout, this, [this] { GiveBack(); });
 }
 
 void UBoard::gob_Click() {
@@ -124,7 +100,7 @@ void UBoard::watch_Click() {
 
 // The rules run in here. What they throw stays in here too: nothing may pass through Qt.
 void UBoard::Play(const std::function<void()>& play) {
-    if (playing_ || options_ != nullptr || wait_.Ended()) {
+    if (playing_ || options_ != nullptr || desk_->Ended()) {
         return;
     }
     SetPlaying(true);
@@ -140,7 +116,7 @@ void UBoard::Play(const std::function<void()>& play) {
     }
     SetPlaying(false);
     if (exitCode >= 0) {
-        wait_.End();
+        desk_->EndProgram();
         close();
         // Without a loop to end there is no program to end, as in a test of the window.
         if (QThread::currentThread()->loopLevel() > 0) {
@@ -151,8 +127,7 @@ void UBoard::Play(const std::function<void()>& play) {
 
 void UBoard::SetPlaying(bool playing) {
     playing_ = playing;
-    leaving_ = false;
-    fault_ = nullptr;
+    SettleSwitches();
     if (playing) {
         ForgetMessage();
         strip_->Question->ShowMessage(QString(), 0);
@@ -175,7 +150,7 @@ void UBoard::SetPlaying(bool playing) {
 }
 
 void UBoard::ShowState(const GameState& state) {
-    GiveBack();
+    lent_->GiveBack();
     track_->ShowState(state);
     strip_->ShowState(state);
 }
@@ -200,97 +175,65 @@ void UBoard::Tell(const QString& text) {
     box->show();
 }
 
-void UBoard::LoadWindow() {
-    QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect space = screen != nullptr ? screen->availableGeometry() : QRect(QPoint(0, 0), UsualSize);
-    const QSize most = space.size() - look::UsualFrame;
-    const QSize least = LeastSize.boundedTo(most);
-    setMinimumSize(least);
-    QSize size = UsualSize.boundedTo(most);
-    if (services.Settings == nullptr) {
-        resize(size);
-        return;
-    }
-    const SettingsStore& store = *services.Settings;
-    const int left = GetNumber(store, "board", "left", FarthestPixel, -FarthestPixel, FarthestPixel);
-    const int top = GetNumber(store, "board", "top", FarthestPixel, -FarthestPixel, FarthestPixel);
-    size.setWidth(GetNumber(store, "board", "width", size.width(), least.width(), most.width()));
-    size.setHeight(GetNumber(store, "board", "height", size.height(), least.height(), most.height()));
-    resize(size);
-    const QRect title(left, top, size.width(), 30);
-    const auto screens = QGuiApplication::screens();
-    const bool seen = std::any_of(screens.begin(), screens.end(), [&title](const QScreen* one) {
-        const QRect shared = one->availableGeometry().intersected(title);
-        return shared.width() >= 60 && shared.height() >= 10;
-    });
-    if (seen) {
-        move(left, top);
-    }
+void UBoard::EnableStart() {
+    const bool free = !playing_ && options_ == nullptr;
+    strip_->Start->gob->setVisible(!playing_);
+    strip_->Start->gob->setEnabled(free);
+    strip_->Start->watchb->setEnabled(free);
+    strip_->Start->txtReplay->setEnabled(free);
+    menus_->Enable(playing_, free);
 }
 
-// The window's frame is known only after the window is there, and the free area may change.
-void UBoard::showEvent(QShowEvent* event) {
-    QMainWindow::showEvent(event);
-    if (screenWatched_) {
+void UBoard::pref_men_Click() {
+    if (playing_ || options_ != nullptr || services.Settings == nullptr || services.Files == nullptr) {
         return;
     }
-    screenWatched_ = true;
-    for (const int milliseconds : {0, FrameKnown}) {
-        QTimer::singleShot(milliseconds, this, [this] { KeepOnScreen(); });
-    }
-    const auto watch = [this](QScreen* screen) {
-        if (screen != nullptr) {
-            connect(screen, &QScreen::availableGeometryChanged, this, &UBoard::KeepOnScreen, Qt::UniqueConnection);
-            KeepOnScreen();
-        }
-    };
-    connect(windowHandle(), &QWindow::screenChanged, this, watch);
-    watch(screen());
+    options_ = new OptionsDialog(this, *services.Settings, *services.Files);
+    options_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(options_, &QDialog::finished, this, [this, dialog = options_.data()] { OptionsClosed(dialog->SaveTried); });
+    EnableStart();
+    options_->open();
 }
 
-void UBoard::KeepOnScreen() {
-    if (screen() == nullptr || isMaximized() || isFullScreen() || isMinimized()) {
-        return;
-    }
-    const QRect space = screen()->availableGeometry();
-    const QSize most = space.size() - (frameGeometry().size() - size());
-    setMinimumSize(LeastSize.boundedTo(most));
-    if (size().boundedTo(most) == size()) {
-        return;
-    }
-    resize(size().boundedTo(most));
-    const QRect frame = frameGeometry();
-    move(std::max(space.left(), std::min(frame.left(), space.right() + 1 - frame.width())),
-         std::max(space.top(), std::min(frame.top(), space.bottom() + 1 - frame.height())));
-}
-
-void UBoard::SaveWindow() {
-    if (services.Settings == nullptr || isMinimized()) {
-        return;
-    }
-    QRect place(pos(), size());
-    if (isMaximized() || isFullScreen()) {
-        const QPoint frame = geometry().topLeft() - pos();
-        place = normalGeometry().translated(-frame);
-    }
-    const std::pair<const char*, int> values[] = {
-        {"left", place.x()}, {"top", place.y()}, {"width", place.width()}, {"height", place.height()}};
-    for (const auto& [key, value] : values) {
-        if (!services.Settings->Save("board", key, Concat(value))) {
-            qWarning("The window's position could not be saved in %s", services.Settings->Where().c_str());
-            return;
+void UBoard::OptionsClosed(bool saveTried) {
+    options_ = nullptr;
+    EnableStart();
+    if (saveTried || (services.Files != nullptr && services.Files->Exists(OptionsFile))) {
+        const GameSetup before = game;
+        LoadBoard();
+        if (before.NumRows != game.NumRows || before.NumCols != game.NumCols || before.Blocked != game.Blocked) {
+            ClearBoard();
         }
     }
+}
+
+void UBoard::LeaveGame() {
+    if (playing_) {
+        desk_->LeaveGame();
+    }
+}
+
+Question* UBoard::TopQuestion() const {
+    return desk_->TopQuestion();
+}
+
+void UBoard::SetSpeed(double factor) {
+    desk_->SetSpeed(factor);
 }
 
 void UBoard::EndProgram() {
-    zyTimer_.stop();
+    lent_->Stop();
     tips_->Stop();
-    wait_.End();
+    desk_->EndProgram();
+}
+
+void UBoard::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    place_->Watch();
 }
 
 void UBoard::closeEvent(QCloseEvent* event) {
-    SaveWindow();
+    place_->Save();
     EndProgram();
     event->accept();
 }

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <functional>
 
+#include "ui/window/board_presentation.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
@@ -19,22 +20,32 @@ inline constexpr Way Ways[] = {Way::Close, Way::Quit, Way::End, Way::Signal, Way
 /// Counts waits and pauses, and brings the end about at one of them.
 class ClosingBoard : public UBoard {
 public:
+    ClosingBoard() : UBoard([this](const BoardParts& parts) { return std::make_unique<Presenting>(parts, *this); }) {}
+
     int At = 0;  ///< 0: never
     Way How = Way::Close;
     int Count = 0;
     QElapsedTimer Since;
     std::function<void()> OnAt;  ///< happens instead of an end
 
-    void Wait() override {
-        Next();
-        UBoard::Wait();
-    }
-    void Pause(int units) override {
-        Next();
-        UBoard::Pause(units);
-    }
-
 private:
+    class Presenting : public BoardPresentation {
+    public:
+        Presenting(const BoardParts& parts, ClosingBoard& board) : BoardPresentation(parts), board_(&board) {}
+
+        void Wait() override {
+            board_->Next();
+            BoardPresentation::Wait();
+        }
+        void Pause(int units) override {
+            board_->Next();
+            BoardPresentation::Pause(units);
+        }
+
+    private:
+        ClosingBoard* board_;
+    };
+
     void Next() {
         if (++Count != At) {
             return;

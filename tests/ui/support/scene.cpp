@@ -127,6 +127,10 @@ Scene& Scene::Then(QuestionKind kind, std::function<void()> act) {
     return *this;
 }
 
+void Scene::Soon(std::function<void()> act) {
+    QTimer::singleShot(20, board_.get(), std::move(act));
+}
+
 Scene& Scene::ThenYes(std::string text) {
     steps_.push_back({QuestionKind::YesNo, std::move(text), [this] { Click(QStringLiteral("yesb")); }});
     return *this;

@@ -63,6 +63,8 @@ public:
     // ---- the person ----
     /// The next question is of this kind, and this is what the person does about it.
     Scene& Then(QuestionKind kind, std::function<void()> act);
+    /// What the person does next, once the rules have taken over what came before.
+    void Soon(std::function<void()> act);
     /// The next question has this text and is answered by a button.
     Scene& ThenYes(std::string text);
     Scene& ThenNo(std::string text);

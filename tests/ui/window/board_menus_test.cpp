@@ -109,12 +109,18 @@ void BoardMenusTest::automaticEating() {
     PositionScene scene;
     scene.Then(QuestionKind::YesNo, [&] {
         scene.Menu(QStringLiteral("autoeat_men"));
-        QVERIFY(game.AutoFlags[3][1] && scene.Sees(QStringLiteral("autoeatlab")));
+        QVERIFY2(!game.AutoFlags[3][1], "the rules take it over, not the menu");
         QVERIFY(scene.Item(QStringLiteral("autoeat_men"))->isChecked());
-        QVERIFY(!game.AutoFlags[3][2] && !scene.Sees(QStringLiteral("autotenlab")));
-        scene.Menu(QStringLiteral("autoeat_men"));
-        QVERIFY(!game.AutoFlags[3][1] && !scene.Sees(QStringLiteral("autoeatlab")));
-        scene.Click(QStringLiteral("nob"));
+        scene.Soon([&] {
+            QVERIFY(game.AutoFlags[3][1] && scene.Sees(QStringLiteral("autoeatlab")));
+            QVERIFY(scene.Item(QStringLiteral("autoeat_men"))->isChecked());
+            QVERIFY(!game.AutoFlags[3][2] && !scene.Sees(QStringLiteral("autotenlab")));
+            scene.Menu(QStringLiteral("autoeat_men"));
+            scene.Soon([&] {
+                QVERIFY(!game.AutoFlags[3][1] && !scene.Sees(QStringLiteral("autoeatlab")));
+                scene.Click(QStringLiteral("nob"));
+            });
+        });
     });
     PHASE(scene, AskYesNo(3, "Really?"));
 }
@@ -125,9 +131,11 @@ void BoardMenusTest::automaticTentacle() {
     scene.Then(QuestionKind::YesNo, [&] {
         QVERIFY(scene.Item(QStringLiteral("autoten_men"))->isEnabled());
         scene.Menu(QStringLiteral("autoten_men"));
-        QVERIFY(game.AutoFlags[3][2] && scene.Sees(QStringLiteral("autotenlab")));
-        QVERIFY(!game.AutoFlags[3][1]);
-        scene.Click(QStringLiteral("nob"));
+        scene.Soon([&] {
+            QVERIFY(game.AutoFlags[3][2] && scene.Sees(QStringLiteral("autotenlab")));
+            QVERIFY(!game.AutoFlags[3][1]);
+            scene.Click(QStringLiteral("nob"));
+        });
     });
     PHASE(scene, Board().ShowAutoFlags(3); AskYesNo(3, "Really?"); DiscardGene(GeneNumber("ten"));
           QVERIFY(!game.AutoFlags[3][2]));

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/question_desk.h"
+
+#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
 #include "files/runtime_error.h"
 #include "model/game_state.h"
+#include "model/services.h"
 #include "questions/visit.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/score_track.h"
@@ -11,7 +15,6 @@
 #include "ui/look/palette.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
-#include "ui/window/uboard.h"
 
 namespace plasmos {
 
@@ -22,59 +25,67 @@ constexpr int LongestWait = 100;
 
 }  // namespace
 
-int UBoard::Milliseconds(int full) const {
-    return game.FastMode ? 0 : static_cast<int>(full * speed_);
+QuestionDesk::QuestionDesk(QWidget& window, ScoreTrack& track, SideStrip& strip) : track_(&track), strip_(&strip) {
+    for (QPushButton* button : {strip_->Question->yesb, strip_->Question->nob}) {
+        RefuseRepeats(button);
+        button->setAutoDefault(true);
+    }
+    connect(strip_->Question->yesb, &QPushButton::clicked, this, [this] { Answer(yesb_Click); });
+    connect(strip_->Question->nob, &QPushButton::clicked, this, [this] { Answer(nob_Click); });
+    for (const auto& [key, button] :
+         {std::pair{Qt::Key_Y, strip_->Question->yesb}, std::pair{Qt::Key_N, strip_->Question->nob}}) {
+        auto* shortcut = new QShortcut(QKeySequence(key), &window);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    }
+    track_->Puddle()->OnSquarePoint = [this](int x, int y) { AnswerSquare(x, y); };
 }
 
-void UBoard::ThrowIfOver() {
+QuestionDesk::~QuestionDesk() = default;
+
+int QuestionDesk::Milliseconds(int full) const {
+    return WantsFastMode() ? 0 : static_cast<int>(full * speed_);
+}
+
+void QuestionDesk::ThrowIfOver() {
     if (wait_.Ended()) {
         throw ProgramEnd{0};
     }
-    if (fault_) {
-        std::rethrow_exception(std::exchange(fault_, nullptr));
-    }
-    if (leaving_) {
-        throw GameLeft{};
-    }
 }
 
-void UBoard::Wait() {
+void QuestionDesk::Wait() {
     ThrowIfOver();
     wait_.ForAnswer(LongestWait);
     ThrowIfOver();
 }
 
-void UBoard::Pause(int units) {
+void QuestionDesk::Pause(int units) {
     ThrowIfOver();
-    wait_.ForTime(Milliseconds(units * PauseUnit));
-    ThrowIfOver();
-}
-
-void UBoard::LeaveGame() {
-    if (playing_) {
-        leaving_ = true;
-        wait_.Interrupt();
+    if (!services.Switches.Leaves()) {
+        wait_.ForTime(Milliseconds(units * PauseUnit));
     }
+    ThrowIfOver();
 }
 
-Question* UBoard::TopQuestion() const {
+void QuestionDesk::LeaveGame() {
+    services.Switches.Add({Switch::Kind::Leave});
+    wait_.Interrupt();
+}
+
+Question* QuestionDesk::TopQuestion() const {
     return asked_.empty() ? nullptr : asked_.back().What;
 }
 
-void UBoard::Open(Question& question) {
+void QuestionDesk::Open(Question& question) {
     auto panel = MakePanel(strip_, game, question);
     if (panel) {
         panel->OnHandled = [this] { wait_.Wake(); };
-        panel->OnFault = [this](std::exception_ptr fault) {
-            fault_ = std::move(fault);
-            wait_.Wake();
-        };
     }
     asked_.push_back({&question, std::move(panel)});
     ActivateTop(Qt::TabFocusReason);
 }
 
-void UBoard::Refresh(Question& question) {
+void QuestionDesk::Refresh(Question& question) {
     for (const Asked& asked : asked_) {
         if (asked.What == &question && asked.Panel) {
             asked.Panel->Reread();
@@ -86,7 +97,7 @@ void UBoard::Refresh(Question& question) {
     }
 }
 
-void UBoard::Close(Question& question) {
+void QuestionDesk::Close(Question& question) {
     for (const Asked& asked : asked_) {
         if (asked.What == &question && asked.Panel) {
             asked.Panel->Retire();
@@ -103,7 +114,7 @@ void UBoard::Close(Question& question) {
 }
 
 // Only the topmost question answers; those below stay in sight where there is room.
-void UBoard::ActivateTop(Qt::FocusReason reason) {
+void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     std::vector<QuestionPanel*> panels;
     for (std::size_t i = 0; i < asked_.size(); ++i) {
         if (asked_[i].Panel) {
@@ -127,7 +138,7 @@ void UBoard::ActivateTop(Qt::FocusReason reason) {
     AnnounceTop();
 }
 
-void UBoard::AnnounceTop() {
+void QuestionDesk::AnnounceTop() {
     const unsigned number = ++announced_;
     if (TopQuestion() == nullptr) {
         return;
@@ -142,7 +153,7 @@ void UBoard::AnnounceTop() {
         Qt::QueuedConnection);
 }
 
-void UBoard::Answer(void (*handler)()) {
+void QuestionDesk::Answer(void (*handler)()) {
     const Question* top = TopQuestion();
     if (top == nullptr || top->Kind != QuestionKind::YesNo) {
         return;
@@ -153,7 +164,7 @@ void UBoard::Answer(void (*handler)()) {
     wait_.Wake();
 }
 
-void UBoard::AnswerSquare(int x, int y) {
+void QuestionDesk::AnswerSquare(int x, int y) {
     const Question* top = TopQuestion();
     if (top != nullptr && top->Kind == QuestionKind::Square) {
         Picture1_MouseUp(x, y);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QAction>
+#include "ui/window/board_presentation.h"
+
+#include <QMainWindow>
 
 #include "files/text.h"
 #include "model/game_state.h"
@@ -13,7 +15,8 @@
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
-#include "ui/window/uboard.h"
+#include "ui/window/board_menus.h"
+#include "ui/window/question_desk.h"
 
 namespace plasmos {
 
@@ -23,66 +26,69 @@ constexpr int GlideMilliseconds = 280;
 
 }  // namespace
 
-void UBoard::ShowMessage(std::string_view text, int clan) {
+BoardPresentation::BoardPresentation(const BoardParts& parts)
+    : window_(&parts.Window), track_(&parts.Track), strip_(&parts.Strip), menus_(&parts.Menus), desk_(&parts.Desk) {}
+
+void BoardPresentation::ShowMessage(std::string_view text, int clan) {
     strip_->Question->ShowMessage(ToQt(text), clan);
     strip_->Arrange();
 }
 
-void UBoard::StartLog(std::string_view header) {
+void BoardPresentation::StartLog(std::string_view header) {
     strip_->Log->Start(ToQt(header));
 }
 
-void UBoard::Log(std::string_view line, int clan) {
+void BoardPresentation::Log(std::string_view line, int clan) {
     strip_->Log->Line(ToQt(line), clan);
 }
 
-void UBoard::ShowPhase(std::string_view phase) {
+void BoardPresentation::ShowPhase(std::string_view phase) {
     strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
     strip_->Environment->ShowPhase();
 }
 
-void UBoard::ShowCaption(std::string_view caption) {
-    setWindowTitle(ToQt(caption));
+void BoardPresentation::ShowCaption(std::string_view caption) {
+    window_->setWindowTitle(ToQt(caption));
 }
 
-void UBoard::ShowTurn() {
+void BoardPresentation::ShowTurn() {
     strip_->Environment->ShowTurn();
 }
 
-void UBoard::ShowBP(int clan) {
+void BoardPresentation::ShowBP(int clan) {
     strip_->Clans->ShowBP(clan);
 }
 
-void UBoard::ShowUV() {
+void BoardPresentation::ShowUV() {
     strip_->Environment->ShowUV();
     strip_->Clans->update();
 }
 
-void UBoard::ShowDrift() {
+void BoardPresentation::ShowDrift() {
     strip_->Environment->ShowDrift();
 }
 
-void UBoard::ShowOrder() {
+void BoardPresentation::ShowOrder() {
     strip_->Clans->ShowOrder();
     strip_->Environment->update();
     strip_->Arrange();
     track_->update();
 }
 
-void UBoard::ShowCurrentClan(int clan) {
+void BoardPresentation::ShowCurrentClan(int clan) {
     strip_->Question->ShowClan(clan);
     strip_->Clans->ShowCurrentClan(clan);
     ShowAutoFlags(clan);
 }
 
-void UBoard::ShowGenes(int clan) {
+void BoardPresentation::ShowGenes(int clan) {
     strip_->Clans->ShowGenes(clan);
     strip_->Environment->update();
 }
 
 // A new game shows the flags of every clan, which are all off; later those of the clan that acts. While
 // a computer clan acts the marks of the menu stay those of the last person.
-void UBoard::ShowAutoFlags(int clan) {
+void BoardPresentation::ShowAutoFlags(int clan) {
     if (game.Turn > 0 && clan != game.CurPlayer) {
         return;
     }
@@ -94,51 +100,65 @@ void UBoard::ShowAutoFlags(int clan) {
     if (!person && game.Turn > 0) {
         return;
     }
-    if (game.Turn == 0) {
-        autoeat_men_->setEnabled(true);
-    }
-    autoeat_men_->setChecked(eating);
-    autoten_men_->setChecked(tentacle);
-    autoten_men_->setEnabled(person && HasGene(clan, "ten"));
+    menus_->ShowAutoFlags(eating, tentacle, person && HasGene(clan, "ten"));
 }
 
-void UBoard::DisableAutoEating() {
-    autoeat_men_->setEnabled(false);
-    autoten_men_->setEnabled(false);
+void BoardPresentation::DisableAutoEating() {
+    menus_->DisableAutoEating();
 }
 
-std::string UBoard::TakeReplayText() {
+std::string BoardPresentation::TakeReplayText() {
     strip_->Start->txtReplay->hide();
     return strip_->Start->txtReplay->text().toStdString();
 }
 
-void UBoard::DrawBoard() {
+void BoardPresentation::DrawBoard() {
     track_->Puddle()->Settle();
     track_->update();
     strip_->Clans->update();
 }
 
-void UBoard::DrawSquare(int) {
+void BoardPresentation::DrawSquare(int) {
     track_->Puddle()->update();
     strip_->Clans->update();
 }
 
-void UBoard::DrawPiece(int, int) {
+void BoardPresentation::DrawPiece(int, int) {
     track_->Puddle()->update();
     strip_->Clans->update();
 }
 
-void UBoard::OutlinePiece(int clan, int amoeba, bool on) {
+void BoardPresentation::OutlinePiece(int clan, int amoeba, bool on) {
     track_->Puddle()->OutlinePiece(clan, amoeba, on);
 }
 
-void UBoard::AnimateMove(int clan, int amoeba, int from, int) {
-    track_->Puddle()->Glide(clan, amoeba, from, Milliseconds(GlideMilliseconds));
+void BoardPresentation::AnimateMove(int clan, int amoeba, int from, int) {
+    track_->Puddle()->Glide(clan, amoeba, from, desk_->Milliseconds(GlideMilliseconds));
 }
 
-void UBoard::AnimateDeath(int clan, int amoeba, int square) {
-    track_->Puddle()->FadeAway(clan, amoeba, square, Milliseconds(GlideMilliseconds));
+void BoardPresentation::AnimateDeath(int clan, int amoeba, int square) {
+    track_->Puddle()->FadeAway(clan, amoeba, square, desk_->Milliseconds(GlideMilliseconds));
     strip_->Clans->update();
+}
+
+void BoardPresentation::Pause(int units) {
+    desk_->Pause(units);
+}
+
+void BoardPresentation::Open(Question& question) {
+    desk_->Open(question);
+}
+
+void BoardPresentation::Refresh(Question& question) {
+    desk_->Refresh(question);
+}
+
+void BoardPresentation::Close(Question& question) {
+    desk_->Close(question);
+}
+
+void BoardPresentation::Wait() {
+    desk_->Wait();
 }
 
 }  // namespace plasmos

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "model/presentation.h"
+
+class QMainWindow;
+
+namespace plasmos {
+
+class BoardMenus;
+class QuestionDesk;
+class ScoreTrack;
+class SideStrip;
+
+/// What a window is made of, for whoever shows the game in it.
+struct BoardParts {
+    QMainWindow& Window;
+    ScoreTrack& Track;
+    SideStrip& Strip;
+    BoardMenus& Menus;
+    QuestionDesk& Desk;
+};
+
+/// What the rules tell and ask, shown in the parts of a window.
+class BoardPresentation : public Presentation {
+public:
+    explicit BoardPresentation(const BoardParts& parts);
+
+    void ShowMessage(std::string_view text, int clan) override;
+    void StartLog(std::string_view header) override;
+    void Log(std::string_view line, int clan) override;
+    void ShowPhase(std::string_view phase) override;
+    void ShowCaption(std::string_view caption) override;
+    void ShowTurn() override;
+    void ShowBP(int clan) override;
+    void ShowUV() override;
+    void ShowDrift() override;
+    void ShowOrder() override;
+    void ShowCurrentClan(int clan) override;
+    void ShowGenes(int clan) override;
+    void ShowAutoFlags(int clan) override;
+    void DisableAutoEating() override;
+    std::string TakeReplayText() override;
+    void DrawBoard() override;
+    void DrawSquare(int square) override;
+    void DrawPiece(int clan, int amoeba) override;
+    void OutlinePiece(int clan, int amoeba, bool on) override;
+    void AnimateMove(int clan, int amoeba, int from, int to) override;
+    void AnimateDeath(int clan, int amoeba, int square) override;
+    void Pause(int units) override;
+    void Open(Question& question) override;
+    void Refresh(Question& question) override;
+    void Close(Question& question) override;
+    void Wait() override;
+
+private:
+    QMainWindow* window_;
+    ScoreTrack* track_;
+    SideStrip* strip_;
+    BoardMenus* menus_;
+    QuestionDesk* desk_;
+};
+
+/// Makes the presentation of a window out of its parts.
+using PresentationMaker = std::function<std::unique_ptr<BoardPresentation>(const BoardParts&)>;
+
+}  // namespace plasmos

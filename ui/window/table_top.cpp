@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/table_top.h"
+
+#include <algorithm>
+
+#include "ui/board/score_track.h"
+#include "ui/strip/side_strip.h"
+
+namespace plasmos {
+
+namespace {
+
+constexpr int Margin = 10;
+
+}  // namespace
+
+TableTop::TableTop(QWidget* parent, const GameState& state)
+    : QWidget(parent), Track(new ScoreTrack(this, state)), Strip(new SideStrip(this, state)) {}
+
+void TableTop::resizeEvent(QResizeEvent*) {
+    const int side = std::clamp(width() * 36 / 100, 380, 490);
+    const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    Strip->setGeometry(inner.right() - side + 1, inner.top(), side, inner.height());
+    Track->setGeometry(inner.left(), inner.top(), inner.width() - side - Margin, inner.height());
+}
+
+}  // namespace plasmos
