@@ -21,13 +21,20 @@ class Takings {
 public:
     explicit Takings(const FoodForm& form) : form_(form) {}
 
-    /// The digits of a menu, each from another foreign colour.
+    /// The digits of a menu, each from another foreign colour. A lent piece is always eaten, for a digit 1.
     void TakeMenu(int menu) {
+        int lent = (form_.fdtxt[0].Visible ? 1 : 0) + (form_.fdtxt[7].Visible ? 1 : 0);
         std::vector<int> digits;
         for (int rest = menu; rest > 0; rest /= 10) {
-            digits.push_back(rest % 10);
+            if (lent > 0 && rest % 10 == 1) {
+                --lent;
+            } else {
+                digits.push_back(rest % 10);
+            }
         }
-        TakeDigits(1, digits);
+        if (lent == 0) {
+            TakeDigits(1, digits);
+        }
     }
     /// Up to a number of pieces of any colour.
     void TakeUpTo(int most) { TakePieces(1, most); }
@@ -141,15 +148,11 @@ std::vector<Answer> FoodForm::Allowed() const {
         }
     }
     offer(carrying, Answer::Kind::CarryNothing);
-    offer(!carrying && SuggestedMenu == 0 && eatbEnabled, Answer::Kind::Starve);
+    offer(!carrying && SuggestedMenu == 0 && eatbEnabled && !fdtxt[0].Visible, Answer::Kind::Starve);
     offer(!carrying && SuggestedMenu > 0, Answer::Kind::Suggestion);
     offer(paroptEnabled, Answer::Kind::Parasitism);
     offer(sfsoptEnabled, Answer::Kind::Struggle);
     offer(victimbEnabled, Answer::Kind::Victim);
-    // With a lent piece in a field there are meals beside the square's own.
-    if (fdtxt[0].Visible && eatbEnabled) {
-        allowed.push_back(WithAmounts(Answer::Kind::Eat, {}));
-    }
     return allowed;
 }
 

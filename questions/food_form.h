@@ -85,7 +85,7 @@ private:
     void TakeSuggestion();
     void ChooseParasitism();
     void ChooseStruggle();
-    /// What may be eaten of the square's own food, or carried, as amounts of the colours 1 to NumPlayers.
+    /// What may be eaten beside the lent pieces, or carried, as amounts of the colours 1 to NumPlayers.
     std::vector<std::vector<int>> LegalAmounts() const;
     /// Eat or carry: the amounts, if there are any, into their fields, and the button.
     void PressEat(const Answer& answer);
