@@ -33,6 +33,7 @@ ci       xvfb                an X server without a screen, for the window tests
 ci       xauth               needed by xvfb-run
 ci       xdotool             moves its pointer and presses its keys
 ci       ccache              makes second builds quick
+ci       python3             draws the rooms
 wayland  qt6-wayland         a window where there is Wayland and no X server
 long     mingw-w64           builds the program for Windows
 long     wine64              runs it there

@@ -56,66 +56,6 @@ std::string Input::Parse(std::string_view line, Input& input) {
     return Answer::Parse(line, input.What.emplace<Answer>());
 }
 
-void PassingObserver::OnRoll(int n, int face) {
-    if (next_ != nullptr) {
-        next_->OnRoll(n, face);
-    }
-}
-
-void PassingObserver::OnBegin(Step step, int clan, int amoeba) {
-    if (next_ != nullptr) {
-        next_->OnBegin(step, clan, amoeba);
-    }
-}
-
-void PassingObserver::OnEnd(Step step, int clan, int amoeba) {
-    if (next_ != nullptr) {
-        next_->OnEnd(step, clan, amoeba);
-    }
-}
-
-void PassingObserver::OnSay(std::string_view line) {
-    if (next_ != nullptr) {
-        next_->OnSay(line);
-    }
-}
-
-void PassingObserver::OnBox(std::string_view text) {
-    if (next_ != nullptr) {
-        next_->OnBox(text);
-    }
-}
-
-void PassingObserver::OnAsk(const Question& question) {
-    if (next_ != nullptr) {
-        next_->OnAsk(question);
-    }
-}
-
-void PassingObserver::OnInput(const Question& question, const Answer& answer) {
-    if (next_ != nullptr) {
-        next_->OnInput(question, answer);
-    }
-}
-
-void PassingObserver::OnSwitch(const Switch& turned, TakenAt place) {
-    if (next_ != nullptr) {
-        next_->OnSwitch(turned, place);
-    }
-}
-
-void PassingObserver::OnAnswer(const Question& question, const Answer& answer, bool accepted) {
-    if (next_ != nullptr) {
-        next_->OnAnswer(question, answer, accepted);
-    }
-}
-
-void PassingObserver::OnOver() {
-    if (next_ != nullptr) {
-        next_->OnOver();
-    }
-}
-
 void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
     ++steps_;
     PassingObserver::OnBegin(step, clan, amoeba);

@@ -37,18 +37,27 @@ public:
     explicit PassingObserver(Observer* next) : next_(next) {}
 
     bool WantsText() const override { return next_ != nullptr && next_->WantsText(); }
-    void OnRoll(int n, int face) override;
-    void OnBegin(Step step, int clan, int amoeba) override;
-    void OnEnd(Step step, int clan, int amoeba) override;
-    void OnSay(std::string_view line) override;
-    void OnBox(std::string_view text) override;
-    void OnAsk(const Question& question) override;
-    void OnInput(const Question& question, const Answer& answer) override;
-    void OnSwitch(const Switch& turned, TakenAt place) override;
-    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
-    void OnOver() override;
+    void OnRoll(int n, int face) override { Pass(&Observer::OnRoll, n, face); }
+    void OnBegin(Step step, int clan, int amoeba) override { Pass(&Observer::OnBegin, step, clan, amoeba); }
+    void OnEnd(Step step, int clan, int amoeba) override { Pass(&Observer::OnEnd, step, clan, amoeba); }
+    void OnSay(std::string_view line) override { Pass(&Observer::OnSay, line); }
+    void OnBox(std::string_view text) override { Pass(&Observer::OnBox, text); }
+    void OnAsk(const Question& question) override { Pass(&Observer::OnAsk, question); }
+    void OnInput(const Question& question, const Answer& put) override { Pass(&Observer::OnInput, question, put); }
+    void OnSwitch(const Switch& turned, TakenAt place) override { Pass(&Observer::OnSwitch, turned, place); }
+    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override {
+        Pass(&Observer::OnAnswer, question, answer, accepted);
+    }
+    void OnOver() override { Pass(&Observer::OnOver); }
 
 private:
+    template <class... Parameters, class... Arguments>
+    void Pass(void (Observer::*what)(Parameters...), const Arguments&... arguments) {
+        if (next_ != nullptr) {
+            (next_->*what)(arguments...);
+        }
+    }
+
     Observer* next_;
 };
 
