@@ -193,6 +193,9 @@ void FoodForm::TypeInto(const Answer& answer) {
         return;
     }
     fdtxt[field].Text = answer.Typed;
+    if (Recount) {
+        Recount(*this);
+    }
     UpdateButtons();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 #include "model/game_state.h"
 #include "questions/question.h"
 
@@ -58,6 +60,8 @@ public:
     const int Square;
     int SuggestedMenu = 0;                     ///< 0: the amoeba cannot eat
     Table<int, 0, MaxClans> SuggestedAmounts;  ///< what the suggestion takes of each colour
+    /// The rule's count of what is typed, made again with every change of a field: the typed menu in the work lists.
+    std::function<void(const FoodForm&)> Recount;
     std::vector<int> LegalMenus;               ///< the menus that the clan may eat
     int CarryingLimit = 0;                     ///< pieces that may be carried in the mode "TENTACLE"
 

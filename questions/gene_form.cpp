@@ -102,7 +102,7 @@ void GeneForm::PrepareEnvironment() {
     SetBoxesToHeld();
     Adapts = true;
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel);
-    game.DiscardedPoints = 0;
+    SetDiscarded(0);
     game.DoneFlag = 0;
 }
 
@@ -161,8 +161,8 @@ void GeneForm::Click(const Answer& answer) {
 
 void GeneForm::GiveUp(int gene) {
     const int points = gene == GeneId("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
-    game.DiscardedPoints += gcheck[gene].Ticked ? -points : points;
-    SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - game.DiscardedPoints);
+    SetDiscarded(discarded_ + (gcheck[gene].Ticked ? -points : points));
+    SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - discarded_);
     resetbVisible = true;
 }
 
@@ -185,16 +185,20 @@ void GeneForm::Pay(const Answer& answer) {
     value = accepted ? value : 0;
     EnvBP = accepted ? answer.Typed : "0";
     NoteAnswer(*this, TypedInto(Answer::Kind::Pay, 0, Concat(value)), accepted);
-    SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - value - game.DiscardedPoints);
+    SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - value - discarded_);
     resetbVisible = true;
 }
 
 void GeneForm::Reset() {
     EnvBP = "0";
     SetBoxesToHeld();
-    game.DiscardedPoints = 0;
+    SetDiscarded(0);
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel);
     resetbVisible = false;
+}
+
+void GeneForm::SetDiscarded(int points) {
+    discarded_ = game.DiscardedPoints = points;
 }
 
 void GeneForm::Finish() {

@@ -79,9 +79,12 @@ private:
     void SetBoxesToHeld();
     void Click(const Answer& answer);
     void GiveUp(int gene);
+    /// The points that the unticked genes take off; `DiscardedPoints` follows.
+    void SetDiscarded(int points);
     void Pay(const Answer& answer);
     void Finish();
 
+    int discarded_ = 0;
     FixedText<100> heldOnEntry_;  ///< "~", the number and "~" for every gene held when the dialog opened
 };
 

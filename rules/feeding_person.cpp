@@ -60,6 +60,7 @@ void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     LegalEat(0);
     form.LegalMenuLabel = Concat("Legal menu(s): ", game.LegalMenus);
     form.LegalMenus = LegalMenusOf(clan);
+    form.Recount = [](const FoodForm& typed) { LegalEat(MakeEatStr(typed)); };
     form.SuggestedMenu = menu;
     form.SuggestedAmounts = SuggestedAmounts(square, clan);
     form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;

@@ -130,6 +130,10 @@ TEST_F(PersonsMeal, IsAskedForInTheseWords) {
             EXPECT_EQ(form.fdtxt[colour].Text, "0");
         }
         EXPECT_EQ(form.fdtxt[3].InSquare, 2);
+        form.fdtxt_Change(3, "2");
+        form.fdtxt_Change(4, "1");
+        EXPECT_EQ(game.MenuAmounts[1] * 10 + game.MenuAmounts[2], 21) << "what is typed is counted at once";
+        EXPECT_EQ(game.MenuColours[1], 3);
         form.suggest_Click();
         form.eatb_Click();
     }));
