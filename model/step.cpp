@@ -6,33 +6,14 @@
 
 namespace plasmos {
 
-namespace {
-
-constexpr bool IsDecision(Step step) {
-    switch (step) {
-        case Step::Move:
-        case Step::Feed:
-        case Step::Adapt:
-        case Step::BuyGenes:
-        case Step::Divide:
-        case Step::Attack: return true;
-        default: return false;
-    }
-}
-
-}  // namespace
-
 std::string_view StepName(Step step) {
     constexpr std::string_view names[] = {"NewGame",  "Move",   "Feed",   "Environment", "Adapt",
                                           "BuyGenes", "Divide", "Deaths", "Attack",      "Score"};
     return names[static_cast<std::size_t>(step)];
 }
 
-void BeginStep(Step step, int clan, int amoeba) {
-    if (!services.Switches.Empty()) [[unlikely]] {
-        TakeSwitches(TakenAt::Step);
-    }
-    game.Decisions += IsDecision(step) ? 1 : 0;
+void PrepareStep(Step step, int clan, int amoeba) {
+    TakeSwitches(TakenAt::Step);
     if (services.Listener != nullptr) {
         services.Listener->OnBegin(step, clan, amoeba);
     }
