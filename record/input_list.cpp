@@ -74,6 +74,12 @@ void PassingObserver::OnEnd(Step step, int clan, int amoeba) {
     }
 }
 
+void PassingObserver::OnHappening(const Happening& happening) {
+    if (next_ != nullptr) {
+        next_->OnHappening(happening);
+    }
+}
+
 void PassingObserver::OnSay(std::string_view line) {
     if (next_ != nullptr) {
         next_->OnSay(line);

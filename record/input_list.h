@@ -40,6 +40,7 @@ public:
     void OnRoll(int n, int face) override;
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnEnd(Step step, int clan, int amoeba) override;
+    void OnHappening(const Happening& happening) override;
     void OnSay(std::string_view line) override;
     void OnBox(std::string_view text) override;
     void OnAsk(const Question& question) override;

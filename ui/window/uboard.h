@@ -60,27 +60,20 @@ public:
     void EndProgram();
 
     // ---- what the rules need ----
+    void ShowHappening(const Happening& happening) override;
     void ShowMessage(std::string_view text, int clan) override;
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int clan) override;
     void ShowPhase(std::string_view phase) override;
     void ShowCaption(std::string_view caption) override;
     void ShowTurn() override;
-    void ShowBP(int clan) override;
-    void ShowUV() override;
-    void ShowDrift() override;
-    void ShowOrder() override;
+    void ShowClan(int clan) override;
     void ShowCurrentClan(int clan) override;
-    void ShowGenes(int clan) override;
     void ShowAutoFlags(int clan) override;
     void DisableAutoEating() override;
     std::string TakeReplayText() override;
     void DrawBoard() override;
-    void DrawSquare(int square) override;
-    void DrawPiece(int clan, int amoeba) override;
     void OutlinePiece(int clan, int amoeba, bool on) override;
-    void AnimateMove(int clan, int amoeba, int from, int to) override;
-    void AnimateDeath(int clan, int amoeba, int square) override;
     void Pause(int units) override;
     void Open(Question& question) override;
     void Refresh(Question& question) override;
@@ -127,6 +120,15 @@ private:
     void UVlab_MouseUp();
     void Borrow(const QString& label);
     void GiveBack();
+
+    // uboard_presentation.cpp: what happens
+    void Glide(const Happening& move);
+    void FadeAway(const Happening& death);
+    void DrawPuddle();
+    void ShowBP(int clan);
+    void ShowGenes(int clan);
+    void ShowOrder();
+    void ShowCard();
 
     // uboard_questions.cpp: what is asked
     /// The topmost question takes the keyboard; one that has just opened brings its first control into sight.

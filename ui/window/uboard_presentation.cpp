@@ -4,6 +4,7 @@
 #include "files/text.h"
 #include "model/game_state.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/score_track.h"
 #include "ui/look/palette.h"
@@ -22,6 +23,54 @@ namespace {
 constexpr int GlideMilliseconds = 280;
 
 }  // namespace
+
+void UBoard::ShowHappening(const Happening& happening) {
+    using Kind = Happening::Kind;
+    switch (happening.What) {
+        case Kind::Moves:
+        case Kind::Rides:
+        case Kind::IsDragged:
+        case Kind::Escapes: Glide(happening); break;
+        case Kind::Dies: FadeAway(happening); break;
+        case Kind::IsBorn: DrawPuddle(), ShowCurrentClan(happening.Clan); break;
+        case Kind::CarriesFood:
+        case Kind::ChangesSpot:
+        case Kind::Eats:
+        case Kind::Starves:
+        case Kind::IsWounded: DrawPuddle(); break;
+        case Kind::BuysGene:
+        case Kind::LosesGene: ShowGenes(happening.Clan); break;
+        case Kind::PaysBP:
+        case Kind::GainsBP: ShowBP(happening.Clan); break;
+        case Kind::ScoreMoves:
+        case Kind::OrderIsMade: ShowOrder(); break;
+        case Kind::CardIsTurned: ShowCard(); break;
+        // The message line tells of these.
+        case Kind::Parasitizes:
+        case Kind::IsEaten:
+        case Kind::IsTorn:
+        case Kind::Attacks:
+        case Kind::AttacksToEat:
+        case Kind::FailsToEscape:
+        case Kind::Defends:
+        case Kind::FailsToDefend: break;
+    }
+}
+
+void UBoard::Glide(const Happening& move) {
+    track_->Puddle()->Glide(move.Clan, move.Amoeba, move.From, Milliseconds(GlideMilliseconds));
+    DrawPuddle();
+}
+
+void UBoard::FadeAway(const Happening& death) {
+    track_->Puddle()->FadeAway(death.Clan, death.Amoeba, death.Square, Milliseconds(GlideMilliseconds));
+    DrawPuddle();
+}
+
+void UBoard::DrawPuddle() {
+    track_->Puddle()->update();
+    strip_->Clans->update();
+}
 
 void UBoard::ShowMessage(std::string_view text, int clan) {
     strip_->Question->ShowMessage(ToQt(text), clan);
@@ -49,17 +98,19 @@ void UBoard::ShowTurn() {
     strip_->Environment->ShowTurn();
 }
 
+void UBoard::ShowClan(int clan) {
+    ShowBP(clan);
+    ShowGenes(clan);
+}
+
 void UBoard::ShowBP(int clan) {
     strip_->Clans->ShowBP(clan);
 }
 
-void UBoard::ShowUV() {
+void UBoard::ShowCard() {
+    strip_->Environment->ShowDrift();
     strip_->Environment->ShowUV();
     strip_->Clans->update();
-}
-
-void UBoard::ShowDrift() {
-    strip_->Environment->ShowDrift();
 }
 
 void UBoard::ShowOrder() {
@@ -118,27 +169,8 @@ void UBoard::DrawBoard() {
     strip_->Clans->update();
 }
 
-void UBoard::DrawSquare(int) {
-    track_->Puddle()->update();
-    strip_->Clans->update();
-}
-
-void UBoard::DrawPiece(int, int) {
-    track_->Puddle()->update();
-    strip_->Clans->update();
-}
-
 void UBoard::OutlinePiece(int clan, int amoeba, bool on) {
     track_->Puddle()->OutlinePiece(clan, amoeba, on);
-}
-
-void UBoard::AnimateMove(int clan, int amoeba, int from, int) {
-    track_->Puddle()->Glide(clan, amoeba, from, Milliseconds(GlideMilliseconds));
-}
-
-void UBoard::AnimateDeath(int clan, int amoeba, int square) {
-    track_->Puddle()->FadeAway(clan, amoeba, square, Milliseconds(GlideMilliseconds));
-    strip_->Clans->update();
 }
 
 }  // namespace plasmos
