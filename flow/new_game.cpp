@@ -10,6 +10,7 @@
 #include "flow/scoring.h"
 #include "model/dice.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "model/services.h"
 #include "model/step.h"
@@ -108,7 +109,7 @@ void SetUpGame() {
     BuildEnvDeck();
     ShuffleEnvDeck();
     game.Drift = game.EnvDeck[0].DriftDirection;
-    Show(&Presentation::ShowDrift);
+    Happened({.What = Happening::Kind::CardIsTurned, .Number = game.UVLevel, .Second = game.Drift});
     Show(&Presentation::ShowAutoFlags, 0);
     game.NumPlayers = GetPlayerCount();
     game.MaxAmoeba = game.NumPlayers >= 5 ? 6 : 7;
@@ -120,8 +121,7 @@ void SetUpGame() {
     DealPersonalities();
     ResetGenes();
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        Show(&Presentation::ShowBP, clan);
-        Show(&Presentation::ShowGenes, clan);
+        Show(&Presentation::ShowClan, clan);
         Show(&Presentation::ShowAutoFlags, clan);
     }
     PlaceStartPieces();
@@ -144,7 +144,6 @@ void ShuffleEnvDeck() {
         std::swap(game.EnvDeck[card].DriftDirection, game.EnvDeck[drift].DriftDirection);
     }
     game.UVLevel = game.EnvDeck[0].UV;
-    Show(&Presentation::ShowUV);
 }
 
 int AskPlayerCount() {
@@ -168,7 +167,7 @@ void PlaceStartPieces() {
     for (int place = 1; place <= game.NumPlayers; ++place) {
         game.Players[ClanAtPlace(place)].Score = game.NumPlayers + place - 1;
     }
-    Show(&Presentation::ShowOrder);
+    Happened({.What = Happening::Kind::OrderIsMade});
     Show(&Presentation::DrawBoard);
     for (int place = 1; place <= game.NumPlayers; ++place) {
         PlaceOne(place);

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
-#include "model/signature.h"
 #include "model/step.h"
 #include "model/trace.h"
 
@@ -58,13 +58,13 @@ void LeaveSharedSpace(int clan) {
 
 void ScoreClan(int clan) {
     game.CurPlayer = clan;
+    const int before = game.Players[clan].Score;
     const int steps = game.ScoreByGenes[CountScoredGenes(clan)] + game.ScoreByAmoebaCount[game.AmoebaCount[clan]];
     for (int step = 1; step <= steps; ++step) {
         AdvanceOne(clan);
     }
     LeaveSharedSpace(clan);
-    Sign(SignedEvent::Score, clan, game.Players[clan].Score);
-    Show(&Presentation::ShowOrder);
+    Happened({.What = Happening::Kind::ScoreMoves, .Clan = clan, .From = before, .Number = game.Players[clan].Score});
 }
 
 void SortPlayOrder() {
@@ -80,7 +80,7 @@ void SortPlayOrder() {
             std::swap(game.PlayOrder[place], game.PlayOrder[best]);
         }
     }
-    Show(&Presentation::ShowOrder);
+    Happened({.What = Happening::Kind::OrderIsMade});
 }
 
 void TestVictory() {

@@ -2,19 +2,20 @@
 #pragma once
 
 #include "model/game_state.h"
-#include "model/presentation.h"
+#include "model/happening.h"
 
 namespace plasmos {
 
-/// A clan gets bio-points, and its BP are shown.
+/// A clan gets bio-points.
 inline void GainBP(int clan, int points) {
     game.BP[clan] += points;
-    Show(&Presentation::ShowBP, clan);
+    Happened({.What = Happening::Kind::GainsBP, .Clan = clan, .Number = points});
 }
 
-/// A clan pays bio-points, and its BP are shown. Whether it has so many is looked at before.
+/// A clan pays bio-points. Whether it has so many is looked at before.
 inline void PayBP(int clan, int points) {
-    GainBP(clan, -points);
+    game.BP[clan] -= points;
+    Happened({.What = Happening::Kind::PaysBP, .Clan = clan, .Number = points});
 }
 
 }  // namespace plasmos

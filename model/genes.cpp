@@ -4,13 +4,14 @@
 #include <algorithm>
 #include <array>
 
-#include "model/narration.h"
+#include "model/happening.h"
 #include "model/presentation.h"
-#include "model/signature.h"
 
 namespace plasmos {
 
 namespace {
+
+using Kind = Happening::Kind;
 
 constexpr Table<GeneRow, 0, GeneCount> Rows = [] {
     Table<GeneRow, 0, GeneCount> rows{};
@@ -111,12 +112,8 @@ void BuyGene(int gene) {
     --record.Supply;
     game.Genes[gene][clan] = true;
     game.BoughtAs[gene][clan] = ++game.Purchases;
-    Sign(SignedEvent::Purchase, clan, gene);
-    Show(&Presentation::ShowGenes, clan);
-    if (game.Players[clan].IsComputer) {
-        Report(game.Players[clan].Name, " just bought: ", GeneName(gene));
-    }
-    Show(&Presentation::ShowBP, clan);
+    Happened({.What = Kind::BuysGene, .Clan = clan, .Number = gene});
+    Happened({.What = Kind::PaysBP, .Clan = clan, .Number = record.Cost});
     if (const int replaced = ReplacedGene(clan, gene); replaced != 0) {
         DiscardGene(replaced);
     }
@@ -130,7 +127,7 @@ void DiscardGene(int gene) {
     game.Genes[gene][clan] = false;
     game.Players[clan].MutationLevel -= game.Catalogue[gene].MutationPoints;
     ++game.Catalogue[gene].Supply;
-    Show(&Presentation::ShowGenes, clan);
+    Happened({.What = Kind::LosesGene, .Clan = clan, .Number = gene});
     if (gene == GeneId("ten") && !game.Players[clan].IsComputer) {
         LoseTentacle(clan);
     }

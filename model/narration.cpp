@@ -38,4 +38,12 @@ void ReportText(const std::string& line) {
     }
 }
 
+void TellPerson(int clan, const std::string& text) {
+    ShowStatement(text, clan);
+    if (SomebodyListens()) {
+        LogText(text, clan);
+    }
+    TakePause(StatementPause);
+}
+
 }  // namespace plasmos

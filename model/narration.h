@@ -23,6 +23,10 @@ void SayMoreText(const std::string& line);
 void ReportText(const std::string& line);
 void LogText(const std::string& line, int clan = game.CurPlayer);
 
+/// A statement to a person between two questions: the message line shows it, the log keeps it, and
+/// there is a pause to read it in.
+void TellPerson(int clan, const std::string& text);
+
 /// One line of narration: it replaces the text of the message line and goes to the log.
 template <class... Pieces>
 void Say(const Pieces&... pieces) {

@@ -7,6 +7,7 @@ namespace plasmos {
 
 class Question;
 struct Answer;
+struct Happening;
 struct Switch;
 enum class TakenAt;
 
@@ -29,6 +30,8 @@ public:
     /// Clan and amoeba are 0 where the step has none.
     virtual void OnBegin(Step step, int clan, int amoeba) = 0;
     virtual void OnEnd(Step step, int clan, int amoeba) = 0;
+    /// Something has happened, and the state has it; what is said and shown of it comes after.
+    virtual void OnHappening(const Happening& /*happening*/) {}
     /// A line that goes to the game log.
     virtual void OnSay(std::string_view line) = 0;
     virtual void OnBox(std::string_view text) = 0;

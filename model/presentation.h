@@ -11,6 +11,7 @@
 namespace plasmos {
 
 class Question;
+struct Happening;
 
 /// What the rules need of whoever shows the game: the window, the simulator's robot, a test's script.
 /// Everything but the questions may be left out. The shown values are read from the current game.
@@ -36,18 +37,17 @@ public:
     /// A phase of the turn begins ("Movement", "Environment", ...); Turn and Phase are set.
     virtual void ShowPhase(std::string_view /*phase*/) {}
 
+    // ---- what happens ----
+    /// Something has happened, and the state has it: pieces, labels, order of play and scores follow.
+    virtual void ShowHappening(const Happening& /*happening*/) {}
+
     // ---- labels ----
     virtual void ShowCaption(std::string_view /*caption*/) {}
     virtual void ShowTurn() {}
-    virtual void ShowBP(int /*clan*/) {}
-    virtual void ShowUV() {}
-    virtual void ShowDrift() {}
-    /// Order of play and scores.
-    virtual void ShowOrder() {}
+    /// BP and genes of a clan, when a game begins.
+    virtual void ShowClan(int /*clan*/) {}
     /// The clan that acts now. Where it is a person's, what it has made automatic is shown with it.
     virtual void ShowCurrentClan(int /*clan*/) {}
-    /// A clan's genes and the mutation level in their tool tip.
-    virtual void ShowGenes(int /*clan*/) {}
     /// Automatic eating and tentacle use of the acting clan have changed: check marks, labels and what
     /// is enabled follow; 0: a new game begins, nothing is automatic.
     virtual void ShowAutoFlags(int /*clan*/) {}
@@ -60,14 +60,8 @@ public:
 
     // ---- the puddle ----
     virtual void DrawBoard() {}
-    virtual void DrawSquare(int /*square*/) {}
-    virtual void DrawPiece(int /*clan*/, int /*amoeba*/) {}
     /// The acting piece is outlined, or no longer.
     virtual void OutlinePiece(int /*clan*/, int /*amoeba*/, bool /*on*/) {}
-    /// A piece has moved; the state has it on the new square already.
-    virtual void AnimateMove(int /*clan*/, int /*amoeba*/, int /*from*/, int /*to*/) {}
-    /// A piece has left the board for good; it is off the board already.
-    virtual void AnimateDeath(int /*clan*/, int /*amoeba*/, int /*square*/) {}
 
     // ---- time ----
     /// Lets the person follow; no longer than 75 ms a unit, and nothing in fast mode.
@@ -93,7 +87,7 @@ inline Presentation& Board() {
     return services.Window != nullptr ? *services.Window : SilentBoard();
 }
 
-/// Lets the current presentation show something, if there is one: Show(&Presentation::ShowBP, clan).
+/// Lets the current presentation show something, if there is one: Show(&Presentation::ShowClan, clan).
 template <class... Parameters, class... Arguments>
 void Show(void (Presentation::*what)(Parameters...), Arguments&&... arguments) {
     if (services.Window != nullptr) {

@@ -218,10 +218,4 @@ void ReportBox(const std::string& text) {
     }
 }
 
-void TellPerson(int clan, const std::string& text) {
-    ShowStatement(text, clan);
-    LogBox(clan, text);
-    TakePause(StatementPause);
-}
-
 }  // namespace plasmos

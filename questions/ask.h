@@ -8,6 +8,7 @@
 
 #include "model/game_state.h"
 #include "model/message_line.h"
+#include "model/narration.h"
 #include "model/presentation.h"
 #include "model/services.h"
 #include "questions/question.h"
@@ -130,9 +131,5 @@ void ShowBox(int clan, const std::string& text);
 
 /// A message box with which the computer clans report; in fast mode a line of the log.
 void ReportBox(const std::string& text);
-
-/// A statement to a person between two questions: the message line shows it, the log keeps it, and
-/// there is a pause to read it in.
-void TellPerson(int clan, const std::string& text);
 
 }  // namespace plasmos

@@ -40,6 +40,7 @@ public:
     void OnRoll(int n, int face) override { Pass(&Observer::OnRoll, n, face); }
     void OnBegin(Step step, int clan, int amoeba) override { Pass(&Observer::OnBegin, step, clan, amoeba); }
     void OnEnd(Step step, int clan, int amoeba) override { Pass(&Observer::OnEnd, step, clan, amoeba); }
+    void OnHappening(const Happening& happening) override { Pass(&Observer::OnHappening, happening); }
     void OnSay(std::string_view line) override { Pass(&Observer::OnSay, line); }
     void OnBox(std::string_view text) override { Pass(&Observer::OnBox, text); }
     void OnAsk(const Question& question) override { Pass(&Observer::OnAsk, question); }

@@ -5,8 +5,8 @@
 
 #include "model/bio_points.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
-#include "model/signature.h"
 #include "model/step.h"
 #include "model/trace.h"
 #include "questions/ask.h"
@@ -29,7 +29,7 @@ void BuryTheDead() {
             const Piece& piece = game.Amoeba[amoeba][clan];
             if (piece.Square >= 1 && piece.Damage >= DamageLimit(clan)) {
                 AddFoodOfAllColours(piece.Square, FoodOfTheDead);
-                RemoveAmoeba(clan, amoeba);
+                RemoveAmoeba(clan, amoeba, FoodOfTheDead);
             }
         }
     }
@@ -136,14 +136,12 @@ void AddFoodOfAllColours(int square, int pieces) {
     }
 }
 
-void RemoveAmoeba(int clan, int amoeba) {
+void RemoveAmoeba(int clan, int amoeba, int food) {
     const int square = game.Amoeba[amoeba][clan].Square;
     LiftPiece(clan, amoeba);
     game.Amoeba[amoeba][clan].Damage = 0;
     --game.AmoebaCount[clan];
-    Sign(SignedEvent::Death, clan, amoeba, square);
-    Show(&Presentation::AnimateDeath, clan, amoeba, square);
-    Show(&Presentation::DrawSquare, square);
+    Happened({.What = Happening::Kind::Dies, .Clan = clan, .Amoeba = amoeba, .Square = square, .Number = food});
 }
 
 void AggressionPhase() {

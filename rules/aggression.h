@@ -16,8 +16,9 @@ bool DefendAmoeba(int clan, int amoeba);
 /// The attacked clan's answer by "esc". True: the amoeba has left the square.
 bool EscapeAmoeba(int clan, int amoeba);
 
-/// Takes a piece off the board for good: square, damage and spot are 0, its name stays.
-void RemoveAmoeba(int clan, int amoeba);
+/// Takes a piece off the board for good: square, damage and spot are 0, its name stays. Food: the pieces of every
+/// colour that have been laid down for it and have not been told of.
+void RemoveAmoeba(int clan, int amoeba, int food);
 
 /// Every colour in play gains pieces of food in a square.
 void AddFoodOfAllColours(int square, int pieces);

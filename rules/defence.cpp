@@ -4,7 +4,7 @@
 #include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
-#include "model/narration.h"
+#include "model/happening.h"
 #include "questions/ask.h"
 #include "rules/aggression.h"
 #include "rules/computer_clan.h"
@@ -15,7 +15,19 @@ namespace plasmos {
 
 namespace {
 
+using Kind = Happening::Kind;
+
 constexpr int DefencePause = 10;
+
+/// What becomes of an attack by the acting piece.
+Happening AttackEnds(Kind kind, int clan, int amoeba, int square) {
+    return {.What = kind,
+            .Clan = clan,
+            .Amoeba = amoeba,
+            .Square = square,
+            .OtherClan = game.CurPlayer,
+            .OtherAmoeba = game.CurAmoeba};
+}
 
 bool AgreesToDefend(int clan, int amoeba, bool again) {
     if (game.BP[clan] < 1) {
@@ -45,13 +57,13 @@ bool RollDefence() {
 bool DefendOnce(int clan, int amoeba) {
     PayBP(clan, 1);
     const bool beatenOff = RollDefence();
+    Happened(
+        AttackEnds(beatenOff ? Kind::Defends : Kind::FailsToDefend, clan, amoeba, game.Amoeba[amoeba][clan].Square));
     if (beatenOff) {
         const Piece& attacker = game.Amoeba[game.CurAmoeba][game.CurPlayer];
         if (SomebodyListens()) {
             ReportBox(Concat(attacker.Name, " has been beaten off by ", game.Amoeba[amoeba][clan].Name, "!"));
         }
-    } else {
-        SayMore("Amoeba's defense failed.");
     }
     TakePause(DefencePause);
     return beatenOff;
@@ -72,30 +84,14 @@ void PayForEscape(int clan) {
     }
 }
 
-bool EscapePerson(int clan, int amoeba) {
-    if (!AgreesToEscape(clan, amoeba)) {
-        return false;
-    }
-    const int square = game.Amoeba[amoeba][clan].Square;
-    PayForEscape(clan);
-    MoveAlone(clan, amoeba, FindPersonsDestination(clan, amoeba, MoveKind::Escape));
-    const Piece& piece = game.Amoeba[amoeba][clan];
-    const bool escaped = piece.Square != square;
-    TellPerson(clan, escaped ? Concat("Your amoeba ", piece.Name, " escapes to ", piece.Square, ".")
-                             : Concat("Your amoeba ", piece.Name, " failed to escape."));
-    return escaped;
+bool MayTryToEscape(int clan, int amoeba) {
+    return game.Players[clan].IsComputer ? game.Amoeba[amoeba][clan].Damage < DamageLimit(clan)
+                                         : AgreesToEscape(clan, amoeba);
 }
 
-bool EscapeComputer(int clan, int amoeba) {
-    const int square = game.Amoeba[amoeba][clan].Square;
-    PayForEscape(clan);
-    MoveAlone(clan, amoeba, FindEscapeSquare(clan, amoeba));
-    const Piece& piece = game.Amoeba[amoeba][clan];
-    if (piece.Square == square) {
-        return false;
-    }
-    Say(piece.Name, " escaped to ", piece.Square, "!");
-    return true;
+int FindRefuge(int clan, int amoeba) {
+    return game.Players[clan].IsComputer ? FindEscapeSquare(clan, amoeba)
+                                         : FindPersonsDestination(clan, amoeba, MoveKind::Escape);
 }
 
 }  // namespace
@@ -114,16 +110,18 @@ bool DefendAmoeba(int clan, int amoeba) {
 }
 
 bool EscapeAmoeba(int clan, int amoeba) {
-    if (game.BP[clan] < 1) {
+    if (game.BP[clan] < 1 || !MayTryToEscape(clan, amoeba)) {
         return false;
     }
-    if (!game.Players[clan].IsComputer) {
-        return EscapePerson(clan, amoeba);
+    const Piece& piece = game.Amoeba[amoeba][clan];
+    const int square = piece.Square;
+    PayForEscape(clan);
+    MoveAlone(clan, amoeba, FindRefuge(clan, amoeba), {Kind::Escapes, game.CurPlayer, game.CurAmoeba});
+    if (piece.Square != square) {
+        return true;
     }
-    if (game.Amoeba[amoeba][clan].Damage >= DamageLimit(clan)) {
-        return false;
-    }
-    return EscapeComputer(clan, amoeba);
+    Happened(AttackEnds(Kind::FailsToEscape, clan, amoeba, square));
+    return false;
 }
 
 }  // namespace plasmos

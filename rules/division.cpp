@@ -6,6 +6,7 @@
 #include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
@@ -103,10 +104,7 @@ void Complete(int clan, int amoeba, int square) {
     const int slot = SquareCapacity(square);
     PutPiece(clan, amoeba, square, slot);
     ++game.AmoebaCount[clan];
-    Sign(SignedEvent::Birth, clan, amoeba, square);
-    Show(&Presentation::DrawSquare, square);
-    Show(&Presentation::DrawPiece, clan, amoeba);
-    Show(&Presentation::ShowCurrentClan, clan);
+    Happened({.What = Happening::Kind::IsBorn, .Clan = clan, .Amoeba = amoeba, .Square = square, .Number = slot});
     if (game.Players[clan].IsComputer) {
         TraceCreation(clan, amoeba, square);
     }

@@ -3,6 +3,7 @@
 
 #include "model/bio_points.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
@@ -19,8 +20,7 @@ void TurnCard() {
     const EnvironmentCard& card = game.EnvDeck[game.TurnedCard];
     game.Drift = card.DriftDirection;
     game.UVLevel = card.UV;
-    Show(&Presentation::ShowDrift);
-    Show(&Presentation::ShowUV);
+    Happened({.What = Happening::Kind::CardIsTurned, .Number = game.UVLevel, .Second = game.Drift});
 }
 
 /// Shows why "done" was refused; the choices begin afresh.

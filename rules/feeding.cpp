@@ -5,9 +5,8 @@
 
 #include "model/bio_points.h"
 #include "model/genes.h"
-#include "model/narration.h"
-#include "model/presentation.h"
-#include "model/signature.h"
+#include "model/happening.h"
+#include "model/message_line.h"
 #include "questions/ask.h"
 #include "rules/menus.h"
 
@@ -19,9 +18,7 @@ constexpr int Excretion = 2;
 constexpr int StarvePause = 10;
 constexpr int LastLentColour = 6;
 
-const Piece& Eater() {
-    return game.Amoeba[game.CurAmoeba][game.CurPlayer];
-}
+using Kind = Happening::Kind;
 
 /// Calls visit(place, digit) for the digits of a menu, from the last to the first; place 1 is the first.
 template <class Visit>
@@ -35,8 +32,19 @@ void ForDigits(int menu, Visit&& visit) {
     }
 }
 
-/// Takes the menu's pieces from the square, and the eater excretes.
-void TakeMeal(int menu, int square) {
+/// The colours of a menu's digits, as digits.
+int ColoursOf(int menu) {
+    int colours = 0;
+    int unit = 1;
+    ForDigits(menu, [&](int place, int) {
+        colours += game.MenuColours[place] * unit;
+        unit *= 10;
+    });
+    return colours;
+}
+
+/// Takes the menu's pieces from the square, and the eater excretes. Host: the first that lends; 0: none.
+void TakeMeal(int menu, int square, int host) {
     const int clan = game.CurPlayer;
     auto& food = game.Food[square];
     ForDigits(menu, [&](int place, int digit) {
@@ -45,19 +53,13 @@ void TakeMeal(int menu, int square) {
         }
     });
     food[clan] += Excretion;
-    Sign(SignedEvent::Meal, clan, square, menu);
-}
-
-void TellOfHosts(const ParasiteMeal& meal) {
-    const auto& first = game.Players[meal.Hosts[1]].Name;
-    if (meal.HostCount == 2) {
-        Say(Eater().Name, " parasitizing off of clan ", first, " and clan ", game.Players[meal.Hosts[2]].Name);
-    } else {
-        Say(Eater().Name, " parasitizing off of clan ", first);
-    }
-    for (int i = 1; i <= meal.HostCount; ++i) {
-        Concern(meal.Hosts[i]);
-    }
+    Happened({.What = Kind::Eats,
+              .Clan = clan,
+              .Amoeba = game.CurAmoeba,
+              .Square = square,
+              .OtherClan = host,
+              .Number = menu,
+              .Second = SomebodyFollows() ? ColoursOf(menu) : 0});
 }
 
 /// The lowest colour from one upward that the square lacks and that is not the eater's; 6 ends it.
@@ -126,9 +128,7 @@ void EatMenu(int menu, int square) {
     if (menu == 0) {
         return;
     }
-    TakeMeal(menu, square);
-    Say(Eater().Name, " eats ", menu, " in ", square);
-    Show(&Presentation::DrawSquare, square);
+    TakeMeal(menu, square, 0);
 }
 
 void EatSuggestion(int menu, int square) {
@@ -140,16 +140,19 @@ void EatAsParasite(const ParasiteMeal& meal, int square) {
     for (int i = 1; i <= meal.HostCount; ++i) {
         PayBP(meal.Hosts[i], 1);
     }
-    TellOfHosts(meal);
-    TakeMeal(meal.Menu, square);
-    SayMore(Eater().Name, " eats ", meal.Menu, " in ", square);
-    Show(&Presentation::DrawSquare, square);
+    Happened({.What = Kind::Parasitizes,
+              .Clan = game.CurPlayer,
+              .Amoeba = game.CurAmoeba,
+              .Square = square,
+              .OtherClan = meal.Hosts[1],
+              .Second = meal.HostCount == 2 ? meal.Hosts[2] : 0});
+    TakeMeal(meal.Menu, square, meal.Hosts[1]);
 }
 
 void Starve(int square) {
-    SayMore(Eater().Name, " starves in ", square);
-    ++game.Amoeba[game.CurAmoeba][game.CurPlayer].Damage;
-    Show(&Presentation::DrawPiece, game.CurPlayer, game.CurAmoeba);
+    const int damage = ++game.Amoeba[game.CurAmoeba][game.CurPlayer].Damage;
+    Happened(
+        {.What = Kind::Starves, .Clan = game.CurPlayer, .Amoeba = game.CurAmoeba, .Square = square, .Number = damage});
     TakePause(StarvePause);
 }
 

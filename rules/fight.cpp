@@ -3,9 +3,8 @@
 
 #include "model/bio_points.h"
 #include "model/genes.h"
-#include "model/narration.h"
-#include "model/presentation.h"
-#include "model/signature.h"
+#include "model/happening.h"
+#include "model/message_line.h"
 #include "questions/ask.h"
 #include "questions/victim_form.h"
 #include "rules/aggression.h"
@@ -20,9 +19,7 @@ constexpr int EatenPause = 15;
 constexpr int FoodOfTheEaten = 1;
 constexpr int FoodOfTheTorn = 2;
 
-const Piece& Attacker() {
-    return game.Amoeba[game.CurAmoeba][game.CurPlayer];
-}
+using Kind = Happening::Kind;
 
 /// The clan's piece in a square with the lowest (or highest) damage; the lowest number on a tie.
 int PickByDamage(int square, int clan, bool highest) {
@@ -53,17 +50,25 @@ struct Victim {
     int Amoeba = 0;
 };
 
-/// What a person whose amoeba is attacked reads above the questions that follow; it is for the window
-/// alone.
-template <class... Pieces>
-void TellVictim(int clan, const Pieces&... pieces) {
-    if (game.Players[clan].IsComputer || !SomebodyListens()) {
-        return;
-    }
-    const std::string text = Concat(pieces...);
-    AddStatement(text, game.CurPlayer);
-    Concern(clan);
-    Board().Log(text, game.CurPlayer);
+/// What the acting piece does to its victim.
+Happening Does(Kind kind, const Victim& victim, int square) {
+    return {.What = kind,
+            .Clan = game.CurPlayer,
+            .Amoeba = game.CurAmoeba,
+            .Square = square,
+            .OtherClan = victim.Clan,
+            .OtherAmoeba = victim.Amoeba};
+}
+
+/// What befalls the victim of the acting piece.
+Happening Befalls(Kind kind, const Victim& victim, int square, int number) {
+    return {.What = kind,
+            .Clan = victim.Clan,
+            .Amoeba = victim.Amoeba,
+            .Square = square,
+            .OtherClan = game.CurPlayer,
+            .OtherAmoeba = game.CurAmoeba,
+            .Number = number};
 }
 
 /// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
@@ -85,14 +90,14 @@ Victim PickByPerson(int square, int attacker) {
 
 void Outcome(const Victim& victim, int square) {
     if (HasGene(victim.Clan, "arm")) {
-        ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
-        Show(&Presentation::DrawPiece, victim.Clan, victim.Amoeba);
+        const int damage = ++game.Amoeba[victim.Amoeba][victim.Clan].Damage;
+        Happened(Befalls(Kind::IsWounded, victim, square, damage));
         return;
     }
     AddFoodOfAllColours(square, FoodOfTheTorn);
-    SayMore(game.Amoeba[victim.Amoeba][victim.Clan].Name, " torn viciously to pieces!!!");
+    Happened(Befalls(Kind::IsTorn, victim, square, FoodOfTheTorn));
     TakePause(EatenPause);
-    RemoveAmoeba(victim.Clan, victim.Amoeba);
+    RemoveAmoeba(victim.Clan, victim.Amoeba, 0);
     TakePause(EatenPause);
 }
 
@@ -115,17 +120,12 @@ int SecondVictimClan(int square, int clan) {
 
 /// One attack against a victim that is known. True: the victim got away.
 bool Resolve(const Victim& victim, int square) {
-    const int attacker = game.CurPlayer;
-    MoveBeside(attacker, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
-    Sign(SignedEvent::Attack, attacker, victim.Clan, victim.Amoeba);
-    Say(Attacker().Name, " picking a fight with ", game.Amoeba[victim.Amoeba][victim.Clan].Name, " in ", square);
-    Concern(victim.Clan);
-    TellVictim(victim.Clan, Attacker().Name, " belongs to ", game.Players[attacker].Name, ".");
+    MoveBeside(game.CurPlayer, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
+    Happened(Does(Kind::Attacks, victim, square));
     const bool gotAway = GetsAway(victim.Clan, victim.Amoeba);
     if (!gotAway) {
         Outcome(victim, square);
     }
-    Show(&Presentation::DrawSquare, square);
     return gotAway;
 }
 
@@ -136,19 +136,17 @@ void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, in
     if (!game.Players[victimClan].IsComputer) {
         ShowBox(victimClan, Concat(game.Players[victimClan].Name, ": You are being attacked!"));
     }
-    const int amoeba = victimAmoeba != 0 ? victimAmoeba : PickByDamage(square, victimClan, false);
-    MoveBeside(victimClan, amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
-    Sign(SignedEvent::Attack, attacker, victimClan, amoeba);
-    TellVictim(victimClan, Attacker().Name, " of ", game.Players[attacker].Name, " attacks ",
-               game.Amoeba[amoeba][victimClan].Name, " in ", square, " to eat it.");
-    if (GetsAway(victimClan, amoeba)) {
+    const Victim victim{victimClan, victimAmoeba != 0 ? victimAmoeba : PickByDamage(square, victimClan, false)};
+    MoveBeside(victimClan, victim.Amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
+    Happened(Does(Kind::AttacksToEat, victim, square));
+    if (GetsAway(victimClan, victim.Amoeba)) {
         return;
     }
     stillHungry = false;
     AddFoodOfAllColours(square, FoodOfTheEaten);
-    Say(game.Amoeba[amoeba][victimClan].Name, " Eaten!");
+    Happened(Befalls(Kind::IsEaten, victim, square, FoodOfTheEaten));
     TakePause(EatenPause);
-    RemoveAmoeba(victimClan, amoeba);
+    RemoveAmoeba(victimClan, victim.Amoeba, 0);
 }
 
 void AttackAmoeba(int victimClan, int square, int victimAmoeba) {

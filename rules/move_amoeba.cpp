@@ -8,8 +8,6 @@
 #include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
-#include "model/presentation.h"
-#include "model/signature.h"
 #include "model/trace.h"
 #include "questions/ask.h"
 #include "questions/victim_form.h"
@@ -18,6 +16,8 @@
 namespace plasmos {
 
 namespace {
+
+using Kind = Happening::Kind;
 
 /// A hitch-hiker or a dragged piece.
 struct Rider {
@@ -115,8 +115,22 @@ void TraceMove(int clan, int amoeba, int destination) {
     }
 }
 
+void TellOfLoad(const TentacleLoad& load, int clan, int amoeba, int from, int to) {
+    for (int colour = 1; load.HasFood && colour <= game.NumPlayers; ++colour) {
+        if (load.Food[colour] != 0) {
+            Happened({.What = Kind::CarriesFood,
+                      .Clan = clan,
+                      .Amoeba = amoeba,
+                      .From = from,
+                      .Square = to,
+                      .OtherClan = colour,
+                      .Number = load.Food[colour]});
+        }
+    }
+}
+
 /// Everything that can fail comes first, the tables change last.
-void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& load) {
+void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& load, const Manner& manner) {
     const int from = game.Amoeba[amoeba][clan].Square;
     TraceMove(clan, amoeba, destination);
     const int slot = SquareCapacity(destination);
@@ -124,10 +138,15 @@ void MoveWithFood(int clan, int amoeba, int destination, const TentacleLoad& loa
     LiftPiece(clan, amoeba);
     PutPiece(clan, amoeba, destination, slot);
     LayFood(load, from, destination, 1);
-    Sign(SignedEvent::Move, clan, amoeba, destination);
-    Show(&Presentation::AnimateMove, clan, amoeba, from, destination);
-    Show(&Presentation::DrawSquare, from);
-    Show(&Presentation::DrawSquare, destination);
+    Happened({.What = manner.What,
+              .Clan = clan,
+              .Amoeba = amoeba,
+              .From = from,
+              .Square = destination,
+              .OtherClan = manner.OtherClan,
+              .OtherAmoeba = manner.OtherAmoeba,
+              .Number = slot});
+    TellOfLoad(load, clan, amoeba, from, destination);
 }
 
 /// A part of a piece's move, by itself: an error in it is recorded for this piece, and the log tells when
@@ -149,15 +168,6 @@ bool MoveGuarded(int clan, int amoeba, Move&& move) {
     }
 }
 
-bool Follow(int mover, int moverAmoeba, const Rider& rider, int destination) {
-    if (!MoveAlone(rider.Clan, rider.Amoeba, destination)) {
-        return false;
-    }
-    Say(game.Amoeba[rider.Amoeba][rider.Clan].Name, " holding on to ", game.Amoeba[moverAmoeba][mover].Name);
-    Concern(rider.Clan);
-    return true;
-}
-
 /// The mover goes first; those that follow go each by itself, and nobody follows a mover that stays.
 void MoveWithCompany(int clan, int amoeba, int destination) {
     TentacleLoad load;
@@ -166,35 +176,35 @@ void MoveWithCompany(int clan, int amoeba, int destination) {
         const int from = game.Amoeba[amoeba][clan].Square;
         load = ChooseTentacleLoad(clan, amoeba, destination);
         ChooseRiders(clan, from, destination, load, riders);
-        MoveWithFood(clan, amoeba, destination, load);
+        MoveWithFood(clan, amoeba, destination, load, {});
     });
     if (!moved) {
         return;
     }
     for (const Rider& rider : riders) {
-        Follow(clan, amoeba, rider, destination);
+        MoveAlone(rider.Clan, rider.Amoeba, destination, {Kind::Rides, clan, amoeba});
     }
-    if (load.DraggedAmoeba != 0 && Follow(clan, amoeba, {clan, load.DraggedAmoeba}, destination)) {
+    if (load.DraggedAmoeba != 0 && MoveAlone(clan, load.DraggedAmoeba, destination, {Kind::IsDragged, clan, amoeba})) {
         PayBP(clan, 1);
     }
 }
 
 }  // namespace
 
-bool MoveAlone(int clan, int amoeba, int destination) {
+bool MoveAlone(int clan, int amoeba, int destination, const Manner& manner) {
     return MoveGuarded(clan, amoeba, [&] {
         const Piece& piece = game.Amoeba[amoeba][clan];
         if (piece.Square == destination) {
             TraceSpot(clan, piece.Slot, false);
         } else {
-            MoveWithFood(clan, amoeba, destination, {});
+            MoveWithFood(clan, amoeba, destination, {}, manner);
         }
     });
 }
 
 void MoveAmoeba(int clan, int amoeba, int destination) {
     if (game.Amoeba[amoeba][clan].Square == destination) {
-        MoveAlone(clan, amoeba, destination);
+        MoveAlone(clan, amoeba, destination, {});
     } else {
         MoveWithCompany(clan, amoeba, destination);
     }

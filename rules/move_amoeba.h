@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "model/happening.h"
 
 namespace plasmos {
 
@@ -17,6 +18,14 @@ struct TentacleLoad {
     }
 };
 
+/// What kind of move a piece makes, and the piece that it has to do with: whom it holds on to, whose tentacle drags
+/// it, or from whom it escapes.
+struct Manner {
+    Happening::Kind What = Happening::Kind::Moves;
+    int OtherClan = 0;
+    int OtherAmoeba = 0;
+};
+
 /// Moves one amoeba to a square, with what its tentacle takes along and with the hitch-hikers. Each
 /// piece's move is traced, and everything in it that can fail comes before its tables change: an error
 /// is recorded for the piece that it stops, which stays where it is and pays nothing for being dragged,
@@ -25,7 +34,7 @@ void MoveAmoeba(int clan, int amoeba, int destination);
 
 /// The same for a piece that rides, is dragged or escapes: no tentacle and no riders of its own.
 /// False: an error has been recorded.
-bool MoveAlone(int clan, int amoeba, int destination);
+bool MoveAlone(int clan, int amoeba, int destination, const Manner& manner);
 
 /// The spot a piece gets in a square: RollDie(30) until it is free. A square with 30 pieces has none:
 /// a message tells so and the spot is 0, not drawn.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/dice.h"
-#include "model/presentation.h"
+#include "model/happening.h"
 #include "questions/ask.h"
 #include "rules/move_amoeba.h"
 
@@ -64,7 +64,8 @@ void MoveBeside(int clan, int amoeba, int otherSlot) {
     }
     LiftPiece(clan, amoeba);
     PutPiece(clan, amoeba, square, nearest);
-    Show(&Presentation::DrawPiece, clan, amoeba);
+    Happened(
+        {.What = Happening::Kind::ChangesSpot, .Clan = clan, .Amoeba = amoeba, .Square = square, .Number = nearest});
 }
 
 }  // namespace plasmos

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "model/services.h"
 #include "tests/support/game_fixture.h"
@@ -194,8 +195,9 @@ public:
     ~GeneEar() override { services.Window = nullptr; }
     void ShowMessage(std::string_view text, int) override { Shown.emplace_back(text); }
     void Log(std::string_view line, int) override { Logged.emplace_back(line); }
-    void ShowGenes(int clan) override { Steps.push_back(Concat("genes ", clan)); }
-    void ShowBP(int clan) override { Steps.push_back(Concat("BP ", clan)); }
+    void ShowHappening(const Happening& happening) override {
+        Steps.push_back(Concat(KindName(happening.What), " ", happening.Clan));
+    }
     void ShowAutoFlags(int clan) override { Steps.push_back(Concat("auto ", clan)); }
     void Open(Question&) override {}
     void Close(Question&) override {}
@@ -212,7 +214,7 @@ TEST_F(BuyingGenes, AComputerClanReportsWhatItBought) {
     BuyGene(GeneNumber("sub"));
     EXPECT_THAT(ear.Logged, ::testing::ElementsAre("Player 2 just bought: Substitution"));
     EXPECT_THAT(ear.Shown, ::testing::ElementsAre("Player 2 just bought: Substitution"));
-    EXPECT_THAT(ear.Steps, ::testing::ElementsAre("genes 2", "BP 2"));
+    EXPECT_THAT(ear.Steps, ::testing::ElementsAre("BuysGene 2", "PaysBP 2"));
 }
 
 TEST_F(BuyingGenes, InFastModeTheReportGoesToTheLogAlone) {

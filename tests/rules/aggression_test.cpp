@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "model/happening.h"
 #include "rules/computer_clan.h"
 #include "tests/rules/two_aggressive_clans.h"
 #include "tests/support/game_fixture.h"
@@ -66,8 +67,10 @@ INSTANTIATE_TEST_SUITE_P(Damage, Deaths, ::testing::ValuesIn(DeathRows), RowName
 /// Remembers who died in which order.
 class DeathBoard : public ScriptedBoard {
 public:
-    void AnimateDeath(int clan, int amoeba, int square) override {
-        Dead.push_back(Concat(clan, ",", amoeba, " in ", square));
+    void ShowHappening(const Happening& happening) override {
+        if (happening.What == Happening::Kind::Dies) {
+            Dead.push_back(Concat(happening.Clan, ",", happening.Amoeba, " in ", happening.Square));
+        }
     }
     std::vector<std::string> Dead;
 };

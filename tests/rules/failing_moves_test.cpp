@@ -73,7 +73,7 @@ TEST_F(FailingMove, ALineThatFailsTwiceIsWrittenAtTheThirdTry) {
 TEST_F(FailingMove, AnEscapeWhoseLineFailsIsAPieceThatStays) {
     files.Refused = "Amoeba 1, 1 moving";
     Script script({});
-    MoveAlone(1, 1, 14);
+    MoveAlone(1, 1, 14, {Happening::Kind::Escapes, 2, 1});
     EXPECT_EQ(game.Amoeba[1][1].Square, 13);
     ErrorRecords = 1;
 }

@@ -6,6 +6,7 @@
 #include "files/text.h"
 #include "model/game_state.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/score_track.h"
 #include "ui/look/palette.h"
@@ -28,6 +29,54 @@ constexpr int GlideMilliseconds = 280;
 
 BoardPresentation::BoardPresentation(const BoardParts& parts)
     : window_(&parts.Window), track_(&parts.Track), strip_(&parts.Strip), menus_(&parts.Menus), desk_(&parts.Desk) {}
+
+void BoardPresentation::ShowHappening(const Happening& happening) {
+    using Kind = Happening::Kind;
+    switch (happening.What) {
+        case Kind::Moves:
+        case Kind::Rides:
+        case Kind::IsDragged:
+        case Kind::Escapes: Glide(happening); break;
+        case Kind::Dies: FadeAway(happening); break;
+        case Kind::IsBorn: DrawPuddle(), ShowCurrentClan(happening.Clan); break;
+        case Kind::CarriesFood:
+        case Kind::ChangesSpot:
+        case Kind::Eats:
+        case Kind::Starves:
+        case Kind::IsWounded: DrawPuddle(); break;
+        case Kind::BuysGene:
+        case Kind::LosesGene: ShowGenes(happening.Clan); break;
+        case Kind::PaysBP:
+        case Kind::GainsBP: ShowBP(happening.Clan); break;
+        case Kind::ScoreMoves:
+        case Kind::OrderIsMade: ShowOrder(); break;
+        case Kind::CardIsTurned: ShowCard(); break;
+        // The message line tells of these.
+        case Kind::Parasitizes:
+        case Kind::IsEaten:
+        case Kind::IsTorn:
+        case Kind::Attacks:
+        case Kind::AttacksToEat:
+        case Kind::FailsToEscape:
+        case Kind::Defends:
+        case Kind::FailsToDefend: break;
+    }
+}
+
+void BoardPresentation::Glide(const Happening& move) {
+    track_->Puddle()->Glide(move.Clan, move.Amoeba, move.From, desk_->Milliseconds(GlideMilliseconds));
+    DrawPuddle();
+}
+
+void BoardPresentation::FadeAway(const Happening& death) {
+    track_->Puddle()->FadeAway(death.Clan, death.Amoeba, death.Square, desk_->Milliseconds(GlideMilliseconds));
+    DrawPuddle();
+}
+
+void BoardPresentation::DrawPuddle() {
+    track_->Puddle()->update();
+    strip_->Clans->update();
+}
 
 void BoardPresentation::ShowMessage(std::string_view text, int clan) {
     strip_->Question->ShowMessage(ToQt(text), clan);
@@ -55,17 +104,19 @@ void BoardPresentation::ShowTurn() {
     strip_->Environment->ShowTurn();
 }
 
+void BoardPresentation::ShowClan(int clan) {
+    ShowBP(clan);
+    ShowGenes(clan);
+}
+
 void BoardPresentation::ShowBP(int clan) {
     strip_->Clans->ShowBP(clan);
 }
 
-void BoardPresentation::ShowUV() {
+void BoardPresentation::ShowCard() {
+    strip_->Environment->ShowDrift();
     strip_->Environment->ShowUV();
     strip_->Clans->update();
-}
-
-void BoardPresentation::ShowDrift() {
-    strip_->Environment->ShowDrift();
 }
 
 void BoardPresentation::ShowOrder() {
@@ -118,27 +169,8 @@ void BoardPresentation::DrawBoard() {
     strip_->Clans->update();
 }
 
-void BoardPresentation::DrawSquare(int) {
-    track_->Puddle()->update();
-    strip_->Clans->update();
-}
-
-void BoardPresentation::DrawPiece(int, int) {
-    track_->Puddle()->update();
-    strip_->Clans->update();
-}
-
 void BoardPresentation::OutlinePiece(int clan, int amoeba, bool on) {
     track_->Puddle()->OutlinePiece(clan, amoeba, on);
-}
-
-void BoardPresentation::AnimateMove(int clan, int amoeba, int from, int) {
-    track_->Puddle()->Glide(clan, amoeba, from, desk_->Milliseconds(GlideMilliseconds));
-}
-
-void BoardPresentation::AnimateDeath(int clan, int amoeba, int square) {
-    track_->Puddle()->FadeAway(clan, amoeba, square, desk_->Milliseconds(GlideMilliseconds));
-    strip_->Clans->update();
 }
 
 void BoardPresentation::Pause(int units) {

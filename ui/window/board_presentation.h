@@ -29,27 +29,20 @@ class BoardPresentation : public Presentation {
 public:
     explicit BoardPresentation(const BoardParts& parts);
 
+    void ShowHappening(const Happening& happening) override;
     void ShowMessage(std::string_view text, int clan) override;
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int clan) override;
     void ShowPhase(std::string_view phase) override;
     void ShowCaption(std::string_view caption) override;
     void ShowTurn() override;
-    void ShowBP(int clan) override;
-    void ShowUV() override;
-    void ShowDrift() override;
-    void ShowOrder() override;
+    void ShowClan(int clan) override;
     void ShowCurrentClan(int clan) override;
-    void ShowGenes(int clan) override;
     void ShowAutoFlags(int clan) override;
     void DisableAutoEating() override;
     std::string TakeReplayText() override;
     void DrawBoard() override;
-    void DrawSquare(int square) override;
-    void DrawPiece(int clan, int amoeba) override;
     void OutlinePiece(int clan, int amoeba, bool on) override;
-    void AnimateMove(int clan, int amoeba, int from, int to) override;
-    void AnimateDeath(int clan, int amoeba, int square) override;
     void Pause(int units) override;
     void Open(Question& question) override;
     void Refresh(Question& question) override;
@@ -57,6 +50,14 @@ public:
     void Wait() override;
 
 private:
+    void Glide(const Happening& move);
+    void FadeAway(const Happening& death);
+    void DrawPuddle();
+    void ShowBP(int clan);
+    void ShowGenes(int clan);
+    void ShowOrder();
+    void ShowCard();
+
     QMainWindow* window_;
     ScoreTrack* track_;
     SideStrip* strip_;

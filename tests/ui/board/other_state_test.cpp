@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "model/happening.h"
 #include "rules/move_amoeba.h"
 #include "tests/ui/support/position.h"
 #include "ui/app/auto_person.h"
@@ -113,9 +114,9 @@ void OtherStateTest::theGameGoesOnBehind() {
     GameState earlier;
     PHASE(scene, TakeMarksAway(scene); earlier = game; const Pictures first = Take(scene);
           scene.Board().ShowState(earlier); game.BP[3] = 9; game.Players[3].Score = 30; game.UVLevel = 14;
-          game.Drift = 1; game.Turn = 2; Give(3, {"int"}); Show(&Presentation::ShowBP, 3);
-          Show(&Presentation::ShowGenes, 3); Show(&Presentation::ShowUV); Show(&Presentation::ShowDrift);
-          Show(&Presentation::ShowTurn); BeginPhase("Movement"); Show(&Presentation::ShowOrder); MoveAmoeba(3, 1, 8);
+          game.Drift = 1; game.Turn = 2; Give(3, {"int"}); Show(&Presentation::ShowClan, 3);
+          Happened({.What = Happening::Kind::CardIsTurned});
+          Show(&Presentation::ShowTurn); BeginPhase("Movement"); Happened({.What = Happening::Kind::OrderIsMade}); MoveAmoeba(3, 1, 8);
           TakeMarksAway(scene); QCOMPARE(Difference(Take(scene), first), std::string()); QCOMPARE(SquareOf(3, 1), 8);
           QCOMPARE(earlier.Amoeba[1][3].Square, 7); scene.Board().ShowState(game);
           QCOMPARE(Difference(Take(scene), first), std::string(" the board the clans the environment"));

@@ -11,6 +11,7 @@
 #include <numeric>
 
 #include "files/runtime_error.h"
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "model/services.h"
 #include "questions/ask.h"
@@ -29,12 +30,10 @@ void ShowPosition() {
     Presentation& board = Board();
     board.StartLog("Game: test");
     board.ShowTurn();
-    board.ShowDrift();
-    board.ShowUV();
-    board.ShowOrder();
+    Happened({.What = Happening::Kind::CardIsTurned, .Number = game.UVLevel, .Second = game.Drift});
+    Happened({.What = Happening::Kind::OrderIsMade});
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        board.ShowBP(clan);
-        board.ShowGenes(clan);
+        board.ShowClan(clan);
     }
     board.ShowCurrentClan(game.CurPlayer);
     board.DrawBoard();
