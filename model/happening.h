@@ -108,7 +108,7 @@ constexpr bool IsMove(Happening::Kind kind) {
 
 /// Tells the observer of a happening, puts it into words, and has the window show it; use Happened. It takes a copy:
 /// where nobody listens the compiler need not put a happening together.
-void TellHappening(Happening happening);
+[[gnu::cold]] void TellHappening(Happening happening);
 
 /// Something has happened, and the state has it. This is all that a rule says of it: its share of the signature, its
 /// words and what the window shows follow. A game that nobody listens to only signs it.

@@ -115,9 +115,9 @@ void OtherStateTest::theGameGoesOnBehind() {
     PHASE(scene, TakeMarksAway(scene); earlier = game; const Pictures first = Take(scene);
           scene.Board().ShowState(earlier); game.BP[3] = 9; game.Players[3].Score = 30; game.UVLevel = 14;
           game.Drift = 1; game.Turn = 2; Give(3, {"int"}); Show(&Presentation::ShowClan, 3);
-          Happened({.What = Happening::Kind::CardIsTurned});
-          Show(&Presentation::ShowTurn); BeginPhase("Movement"); Happened({.What = Happening::Kind::OrderIsMade}); MoveAmoeba(3, 1, 8);
-          TakeMarksAway(scene); QCOMPARE(Difference(Take(scene), first), std::string()); QCOMPARE(SquareOf(3, 1), 8);
+          Happened({.What = Happening::Kind::CardIsTurned}); Show(&Presentation::ShowTurn); BeginPhase("Movement");
+          Happened({.What = Happening::Kind::OrderIsMade}); MoveAmoeba(3, 1, 8); TakeMarksAway(scene);
+          QCOMPARE(Difference(Take(scene), first), std::string()); QCOMPARE(SquareOf(3, 1), 8);
           QCOMPARE(earlier.Amoeba[1][3].Square, 7); scene.Board().ShowState(game);
           QCOMPARE(Difference(Take(scene), first), std::string(" the board the clans the environment"));
           QCOMPARE(scene.Text(QStringLiteral("bplab2")), QStringLiteral("9"));
