@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "files/strings.h"
 #include "files/text.h"
@@ -22,7 +23,7 @@ struct Word {
 
 using Kind = Answer::Kind;
 
-/// In the order of the kinds.
+/// In the order of the kinds; closing is the last.
 constexpr Word Words[] = {
     {Kind::Yes, "yes"},
     {Kind::No, "no"},
@@ -52,6 +53,17 @@ constexpr Word Words[] = {
     {Kind::Acknowledge, "ok"},
     {Kind::Close, "close"},
 };
+
+constexpr bool EveryKindHasItsWord() {
+    for (std::size_t kind = 0; kind < std::size(Words); ++kind) {
+        if (Words[kind].What != static_cast<Kind>(kind)) {
+            return false;
+        }
+    }
+    return std::size(Words) == static_cast<std::size_t>(Kind::Close) + 1;
+}
+
+static_assert(EveryKindHasItsWord(), "a kind of answer is written with the word at its place");
 
 const Word& WordOf(Kind kind) {
     return Words[static_cast<std::size_t>(kind)];

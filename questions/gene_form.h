@@ -23,7 +23,7 @@ public:
     /// What waits for the rule: a box of the mode "NEWGENES", "done" while the UV cost is above 0, or "done".
     enum class Button { None, Box, Refused, Done };
 
-    /// One of the twenty check boxes; index = gene number.
+    /// One of the check boxes; index = gene number.
     struct CheckBox {
         std::string Caption;  ///< the gene's name
         std::string ToolTip;  ///< cost and mutation points

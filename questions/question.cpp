@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "questions/question.h"
 
+#include <iterator>
+
 #include "model/observer.h"
 #include "model/services.h"
 
@@ -8,6 +10,7 @@ namespace plasmos {
 
 std::string_view QuestionKindName(QuestionKind kind) {
     constexpr std::string_view names[] = {"yesno", "square", "number", "amoeba", "food", "victim", "genes", "box"};
+    static_assert(std::size(names) == static_cast<std::size_t>(QuestionKind::Box) + 1, "every kind has a name");
     return names[static_cast<std::size_t>(kind)];
 }
 

@@ -9,6 +9,9 @@
 
 namespace plasmos {
 
+/// How many kinds of question there are; the box stays the last of them.
+inline constexpr int QuestionKindCount = static_cast<int>(QuestionKind::Box) + 1;
+
 /// One function object out of several, for Visit().
 template <class... Cases>
 struct Overloaded : Cases... {

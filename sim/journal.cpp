@@ -62,7 +62,8 @@ void AppendFields(std::string& text, const Question& question) {
                                },
                                [&](const AmNumfrm& form) { AppendAllowed(text, form); },
                                [&](const FoodForm& form) { AppendFoodFields(text, form); },
-                               [&](const GeneForm& form) { AppendGeneFields(text, form); }, [](const Question&) {}});
+                               [&](const GeneForm& form) { AppendGeneFields(text, form); }, [](const YesNoQuestion&) {},
+                               [](const AmChoicefrm&) {}, [](const VictimForm&) {}, [](const BoxQuestion&) {}});
 }
 
 /// What came back, as a journal has it: a number where the answer is one, else a text.

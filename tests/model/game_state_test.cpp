@@ -42,9 +42,9 @@ const BoundsRow BoundsRows[] = {
     {"square_37", [] { game.Food[37][1] = 1; }},
     {"square_below_0", [] { game.Food[-1][1] = 1; }},
     {"food_of_clan_7", [] { game.Food[1][7] = 1; }},
-    {"gene_21", [] { game.Genes[21][1] = true; }},
+    {"a_gene_too_many", [] { game.Genes[GeneCount + 1][1] = true; }},
     {"gene_of_clan_7", [] { game.Genes[1][7] = true; }},
-    {"catalogue_21", [] { game.Catalogue[21].Supply = 1; }},
+    {"a_gene_too_many_in_the_catalogue", [] { game.Catalogue[GeneCount + 1].Supply = 1; }},
     {"card_11", [] { game.EnvDeck[11].UV = 1; }},
     {"food_of_turn_11", [] { game.FoodHistory[1][1][11] = 1; }},
     {"flag_3", [] { game.AutoFlags[1][3] = true; }},
@@ -62,7 +62,7 @@ TEST_F(State, TheOutermostEntriesAreThere) {
     game.Players[0].Score = game.Players[6].Score = 1;
     game.Amoeba[7][6].Square = 36;
     game.Food[36][6] = 1;
-    game.Genes[20][6] = true;
+    game.Genes[GeneCount][6] = true;
     game.EnvDeck[10].UV = 1;
     game.FoodHistory[36][6][10] = 1;
     game.AutoFlags[6][2] = true;

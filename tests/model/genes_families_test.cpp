@@ -166,7 +166,7 @@ TEST_F(BuyingGenes, CountIncludesRayProtection) {
 
 TEST_F(BuyingGenes, AGeneOffTheCatalogueIsASubscriptError) {
     NewPosition(4);
-    for (const int gene : {21, -1}) {
+    for (const int gene : {GeneCount + 1, -1}) {
         try {
             CanBuyGene(1, gene);
             FAIL() << "gene " << gene;

@@ -92,7 +92,7 @@ TEST_F(JournalTest, TheStateIsCompleteAtEveryEnd) {
         const auto& state = record["state"];
         EXPECT_EQ(state["deck"].size(), 11U);
         EXPECT_EQ(state["order"].size(), 4U);
-        EXPECT_EQ(state["supply"].size(), 20U);
+        EXPECT_EQ(state["supply"].size(), std::size(GeneRows));
         EXPECT_EQ(state["food"].size(), 25U);
         EXPECT_EQ(state["food"][0].size(), 4U);
         ASSERT_EQ(state["clans"].size(), 4U);

@@ -51,7 +51,10 @@ std::vector<int> OfferedBy(const Question& question) {
         case QuestionKind::Number: return numbers(Answer::Kind::Number)(question);
         case QuestionKind::Amoeba: return numbers(Answer::Kind::Amoeba)(question);
         case QuestionKind::Genes: return AllowedNumbers(question, Answer::Kind::Tick, Answer::Kind::Untick);
-        default: break;
+        case QuestionKind::YesNo:
+        case QuestionKind::Food:
+        case QuestionKind::Victim:
+        case QuestionKind::Box: break;
     }
     const auto* victims = As<const VictimForm>(&question);
     return victims != nullptr ? MarkableFigures(*victims) : std::vector<int>();

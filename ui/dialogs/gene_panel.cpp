@@ -61,7 +61,7 @@ void GenePanel::MakeBoxes() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(0);
-    constexpr int Rows = GeneCount / 2;
+    constexpr int Rows = (GeneCount + 1) / 2;
     for (int gene = 1; gene <= GeneCount; ++gene) {
         auto* box = new WideCheckBox(this);
         box->setObjectName(QStringLiteral("gcheck%1").arg(gene));

@@ -10,7 +10,7 @@
 #include "model/consistency.h"
 #include "model/presentation.h"
 #include "questions/ask.h"
-#include "questions/question.h"
+#include "questions/visit.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
 #include "tests/ui/support/enrich.h"
@@ -111,7 +111,7 @@ private:
         });
     }
 
-    std::array<int, 8> kinds_{};
+    std::array<int, QuestionKindCount> kinds_{};
     bool rich_ = false;
 
 private slots:

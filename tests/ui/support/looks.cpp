@@ -268,7 +268,7 @@ std::string WhatIsWrong(Scene& scene, Question& question) {
                                    see.Text(QStringLiteral("boxlab"), box.Text);
                                    see.Answers(QStringLiteral("okb"), true, true);
                                },
-                               [](const Question&) {}});
+                               [](const YesNoQuestion&) {}, [](const SquareQuestion&) {}});
     return see.First();
 }
 

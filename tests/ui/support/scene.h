@@ -15,7 +15,7 @@
 #include "model/dice.h"
 #include "model/game_state.h"
 #include "model/step.h"
-#include "questions/question.h"
+#include "questions/visit.h"
 #include "ui/app/hand.h"
 #include "ui/app/qt_settings.h"
 #include "ui/look/palette.h"
@@ -152,7 +152,7 @@ private:
     std::size_t next_ = 0;
     std::function<void(Question&)> policy_;
     std::string fault_;
-    int asked_[8] = {};
+    int asked_[QuestionKindCount] = {};
     bool ended_ = false;
 };
 

@@ -14,6 +14,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QWindow>
+#include <algorithm>
 
 #include "files/runtime_error.h"
 #include "tests/ui/support/preferences.h"
@@ -27,6 +28,7 @@ class ControlsTest : public QObject {
 
 private slots:
     void theWindowFitsItsScreen();
+    void everyKindOfQuestionIsAsked();
     void questions_data();
     void questions();
     void arrowKeysStayInADialog_data() { questions_data(); }
@@ -48,6 +50,15 @@ void ControlsTest::theWindowFitsItsScreen() {
                              QByteArray::number(board.frameGeometry().height()) + " on " +
                              QByteArray::number(space.width()) + " x " + QByteArray::number(space.height());
     QVERIFY2(space.contains(board.frameGeometry()), sizes.constData());
+}
+
+void ControlsTest::everyKindOfQuestionIsAsked() {
+    for (int number = 0; number < QuestionKindCount; ++number) {
+        const auto kind = static_cast<QuestionKind>(number);
+        const auto& rows = EveryQuestion();
+        const bool asked = std::any_of(rows.begin(), rows.end(), [&](const AskedRow& row) { return row.Kind == kind; });
+        QVERIFY2(asked, QuestionKindName(kind).data());
+    }
 }
 
 void ControlsTest::questions_data() {
