@@ -62,8 +62,8 @@ public:
     Table<int, 0, MaxClans> SuggestedAmounts;  ///< what the suggestion takes of each colour
     /// The rule's count of what is typed, made again with every change of a field: the typed menu in the work lists.
     std::function<void(const FoodForm&)> Recount;
-    std::vector<int> LegalMenus;               ///< the menus that the clan may eat
-    int CarryingLimit = 0;                     ///< pieces that may be carried in the mode "TENTACLE"
+    std::vector<int> LegalMenus;  ///< the menus that the clan may eat
+    int CarryingLimit = 0;        ///< pieces that may be carried in the mode "TENTACLE"
 
     Table<Field, 0, 7> fdtxt;
     bool paroptEnabled = false;
