@@ -83,7 +83,7 @@ std::string Switch::Parse(std::string_view line, Switch& read) {
     const auto* found = std::find(std::begin(Words), std::end(Words), TakeWord(rest));
     if (!sets || found == std::end(Words)) {
         return Concat("\"", line, "\" is no switch; these are \"", LeaveText,
-                      "\", and \"set\" with normal, victory, fast, eating or tentacle");
+                      R"(", and "set" with normal, victory, fast, eating or tentacle)");
     }
     read.What = static_cast<Kind>(found - std::begin(Words));
     const bool clan = !IsAutomatic(read.What) || ReadClan(TakeWord(rest), read.Clan);
@@ -91,7 +91,7 @@ std::string Switch::Parse(std::string_view line, Switch& read) {
         return {};
     }
     return Concat("\"set ", *found, "\" is followed by ", IsAutomatic(read.What) ? "a clan's number and " : "",
-                  "\"on\" or \"off\", not as in \"", line, "\"");
+                  R"("on" or "off", not as in ")", line, "\"");
 }
 
 void SwitchQueue::Add(const Switch& turned) {

@@ -34,4 +34,5 @@ trap 'rm -f "$log"' EXIT
 PLASMOS_TEST_SCALE=${PLASMOS_TEST_SCALE:-10} run_ctest "$folder" "$log" --no-tests=error
 cd "$root"
 gcovr --root "$root" --object-directory "$folder" --exclude-throw-branches \
-    --filter 'model/' --filter 'flow/' --filter 'rules/' --filter 'ai/' --print-summary "${pages[@]}"
+    --filter 'files/' --filter 'model/' --filter 'questions/' --filter 'rules/' --filter 'ai/' --filter 'flow/' \
+    --filter 'record/' --print-summary "${pages[@]}"

@@ -69,7 +69,7 @@ functions() {
     ' "$@"
 }
 
-mapfile -t sources < <(git ls-files '*.h' '*.cpp' | grep -E '^(files|model|questions|rules|ai|flow|sim|ui)/')
+mapfile -t sources < <(git ls-files '*.h' '*.cpp' | grep -E '^(files|model|questions|rules|ai|flow|record|sim|ui)/')
 mapfile -t all < <(git ls-files '*.h' '*.cpp')
 mapfile -t found < <(functions "${sources[@]}" | sort -rn)
 mapfile -t files < <(wc -l "${all[@]}" | awk '$2 != "total" { print $1, $2 }' | sort -rn)

@@ -16,8 +16,8 @@ namespace {
 enum class Rest { Nothing, Number, FieldAndText, Text, Amounts, Pieces };
 
 struct Word {
-    Answer::Kind What;
     std::string_view Spelling;
+    Answer::Kind What;
     Rest Follows = Rest::Nothing;
 };
 
@@ -25,33 +25,33 @@ using Kind = Answer::Kind;
 
 /// In the order of the kinds; closing is the last.
 constexpr Word Words[] = {
-    {Kind::Yes, "yes"},
-    {Kind::No, "no"},
-    {Kind::Square, "square", Rest::Number},
-    {Kind::Number, "number", Rest::Number},
-    {Kind::Amoeba, "amoeba", Rest::Number},
-    {Kind::Nobody, "nobody"},
-    {Kind::Field, "field", Rest::FieldAndText},
-    {Kind::LeaveField, "leave", Rest::Number},
-    {Kind::Suggestion, "suggestion"},
-    {Kind::Parasitism, "parasitism"},
-    {Kind::Struggle, "struggle"},
-    {Kind::Eat, "eat", Rest::Amounts},
-    {Kind::Victim, "victim"},
-    {Kind::Starve, "starve"},
-    {Kind::Carry, "carry", Rest::Amounts},
-    {Kind::CarryNothing, "carry nothing"},
-    {Kind::Fight, "fight", Rest::Pieces},
-    {Kind::Mark, "mark", Rest::Number},
-    {Kind::LookAway, "look away"},
-    {Kind::Pick, "pick", Rest::Pieces},
-    {Kind::Tick, "tick", Rest::Number},
-    {Kind::Untick, "untick", Rest::Number},
-    {Kind::Pay, "pay", Rest::Text},
-    {Kind::Reset, "reset"},
-    {Kind::Done, "done"},
-    {Kind::Acknowledge, "ok"},
-    {Kind::Close, "close"},
+    {"yes", Kind::Yes},
+    {"no", Kind::No},
+    {"square", Kind::Square, Rest::Number},
+    {"number", Kind::Number, Rest::Number},
+    {"amoeba", Kind::Amoeba, Rest::Number},
+    {"nobody", Kind::Nobody},
+    {"field", Kind::Field, Rest::FieldAndText},
+    {"leave", Kind::LeaveField, Rest::Number},
+    {"suggestion", Kind::Suggestion},
+    {"parasitism", Kind::Parasitism},
+    {"struggle", Kind::Struggle},
+    {"eat", Kind::Eat, Rest::Amounts},
+    {"victim", Kind::Victim},
+    {"starve", Kind::Starve},
+    {"carry", Kind::Carry, Rest::Amounts},
+    {"carry nothing", Kind::CarryNothing},
+    {"fight", Kind::Fight, Rest::Pieces},
+    {"mark", Kind::Mark, Rest::Number},
+    {"look away", Kind::LookAway},
+    {"pick", Kind::Pick, Rest::Pieces},
+    {"tick", Kind::Tick, Rest::Number},
+    {"untick", Kind::Untick, Rest::Number},
+    {"pay", Kind::Pay, Rest::Text},
+    {"reset", Kind::Reset},
+    {"done", Kind::Done},
+    {"ok", Kind::Acknowledge},
+    {"close", Kind::Close},
 };
 
 constexpr bool EveryKindHasItsWord() {

@@ -42,6 +42,7 @@ public:
     std::vector<std::vector<int>> Found;
 
 private:
+    // NOLINTNEXTLINE(misc-no-recursion): one colour deeper each time
     void TakeDigits(int colour, const std::vector<int>& digits) {
         if (digits.empty()) {
             Found.push_back(taken_);
@@ -64,6 +65,7 @@ private:
         }
     }
 
+    // NOLINTNEXTLINE(misc-no-recursion): one colour deeper each time
     void TakePieces(int colour, int left) {
         if (colour > game.NumPlayers) {
             Found.push_back(taken_);

@@ -144,6 +144,7 @@ std::vector<VictimFigure> AskVictims(VictimForm& form) {
         picked = form.Picked();
     }
     std::vector<Answer::Piece> pieces;
+    pieces.reserve(picked.size());
     for (const VictimFigure& figure : picked) {
         pieces.push_back({figure.Clan, figure.Amoeba});
     }

@@ -45,7 +45,7 @@ std::string Input::Text() const {
 std::string Input::Parse(std::string_view line, Input& input) {
     input = {};
     if (!TakeSteps(line, input.StepsBegun)) {
-        return Concat("\"", line, "\" names no number of steps, as in \"after 12 steps: set victory on\"");
+        return Concat("\"", line, R"(" names no number of steps, as in "after 12 steps: set victory on")");
     }
     if (IsSwitchText(line)) {
         return Switch::Parse(line, input.What.emplace<Switch>());

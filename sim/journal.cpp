@@ -66,19 +66,28 @@ void AppendFields(std::string& text, const Question& question) {
                                [](const AmChoicefrm&) {}, [](const VictimForm&) {}, [](const BoxQuestion&) {}});
 }
 
+/// What came back, where it is no number.
+std::string AnswerText(const Answer& answer) {
+    switch (answer.What) {
+        case Answer::Kind::Pick: return PiecesText(answer.Pieces);
+        case Answer::Kind::Field: return Concat("field ", answer.Number, " = ", answer.Typed);
+        default: return answer.Text();
+    }
+}
+
 /// What came back, as a journal has it: a number where the answer is one, else a text.
 void AppendAnswer(std::string& text, const Answer& answer) {
     switch (answer.What) {
-        case Answer::Kind::Yes: Append(text, ReplyYes); break;
-        case Answer::Kind::No: Append(text, ReplyNo); break;
-        case Answer::Kind::Nobody: Append(text, 0); break;
+        case Answer::Kind::Yes: Append(text, ReplyYes); return;
+        case Answer::Kind::No: Append(text, ReplyNo); return;
+        case Answer::Kind::Nobody: Append(text, 0); return;
         case Answer::Kind::Square:
         case Answer::Kind::Number:
-        case Answer::Kind::Amoeba: Append(text, answer.Number); break;
-        case Answer::Kind::Pick: AppendJsonText(text, PiecesText(answer.Pieces)); break;
-        case Answer::Kind::Field: AppendJsonText(text, Concat("field ", answer.Number, " = ", answer.Typed)); break;
-        default: AppendJsonText(text, answer.Text());
+        case Answer::Kind::Amoeba: Append(text, answer.Number); return;
+        default: break;
     }
+    const std::string words = AnswerText(answer);
+    AppendJsonText(text, words);
 }
 
 void AppendPiecesOf(std::string& text, int clan) {
@@ -113,11 +122,14 @@ void AppendClan(std::string& text, int clan) {
 }  // namespace
 
 void AppendJsonText(std::string& text, std::string_view value) {
-    const auto special = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\'; };
-    if (std::any_of(value.begin(), value.end(), special)) {
-        text += nlohmann::json(value).dump();
-    } else {
+    bool plain = true;
+    for (const char c : value) {
+        plain = plain && static_cast<unsigned char>(c) >= 0x20 && c != '"' && c != '\\';
+    }
+    if (plain) {
         Append(text, "\"", value, "\"");
+    } else {
+        text += nlohmann::json(value).dump();
     }
 }
 
