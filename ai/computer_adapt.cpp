@@ -6,6 +6,7 @@
 #include "ai/computer_genes.h"
 #include "model/bio_points.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/narration.h"
 #include "questions/ask.h"
 
@@ -80,7 +81,7 @@ private:
     bool GiveUpFront() {
         for (int place = 1; place <= front_.Count; ++place) {
             const int gene = front_.Genes[place];
-            if (SomebodyListens()) {
+            if (SomebodyFollows()) {
                 ReportBox(Concat(game.Players[clan_].Name, " loses: ", GeneName(gene)));
             }
             Discard(gene);
@@ -108,7 +109,7 @@ private:
                 return;
             }
             const int gene = protected_.Genes[place];
-            if (SomebodyListens()) {
+            if (SomebodyFollows()) {
                 ReportBox(Concat("Player ", clan_, " discards: ", GeneName(gene)));
             }
             Discard(gene);

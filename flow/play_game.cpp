@@ -10,6 +10,7 @@
 #include "flow/scoring.h"
 #include "flow/start.h"
 #include "model/dice.h"
+#include "model/happening.h"
 #include "model/message_line.h"
 #include "model/narration.h"
 #include "model/observer.h"
@@ -103,7 +104,7 @@ void PlayRound() {
 void AnnounceWinner() {
     Show(&Presentation::DisableAutoEating);
     const auto& winner = game.Players[ClanAtPlace(1)].Name;
-    if (SomebodyListens()) {
+    if (SomebodyFollows()) {
         ShowBox(0, Concat("Clan ", winner, " wins!"));
     }
 }

@@ -95,6 +95,10 @@ std::string Switch::Parse(std::string_view line, Switch& read) {
 }
 
 void SwitchQueue::Add(const Switch& turned) {
+    const auto* end = std::remove_if(std::begin(waiting_), std::begin(waiting_) + count_, [&](const Switch& waiting) {
+        return waiting.What == turned.What && waiting.Clan == turned.Clan;
+    });
+    count_ = static_cast<int>(end - std::begin(waiting_));
     if (count_ < Most) {
         waiting_[count_++] = turned;
     }
@@ -107,18 +111,21 @@ Switch SwitchQueue::Next() {
     return oldest;
 }
 
-const Switch* SwitchQueue::LastOf(Switch::Kind kind) const {
-    for (int place = count_ - 1; place >= 0; --place) {
-        if (waiting_[place].What == kind) {
-            return &waiting_[place];
-        }
-    }
-    return nullptr;
+const Switch* SwitchQueue::Find(Switch::Kind kind, int clan) const {
+    const auto* end = std::begin(waiting_) + count_;
+    const auto* found = std::find_if(
+        std::begin(waiting_), end, [&](const Switch& waiting) { return waiting.What == kind && waiting.Clan == clan; });
+    return found != end ? found : nullptr;
 }
 
 bool WantsFastMode() {
-    const Switch* last = services.Switches.LastOf(Kind::FastMode);
-    return last != nullptr ? last->On : game.FastMode;
+    const Switch* waiting = services.Switches.Find(Kind::FastMode, 0);
+    return waiting != nullptr ? waiting->On : game.FastMode;
+}
+
+bool WantsAutomatic(int clan, Switch::Kind kind) {
+    const Switch* waiting = services.Switches.Find(kind, clan);
+    return waiting != nullptr ? waiting->On : game.AutoFlags[clan][kind == Kind::Tentacle ? 2 : 1];
 }
 
 void SettleSwitches() {

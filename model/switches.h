@@ -33,7 +33,7 @@ struct Switch {
     friend bool operator==(const Switch&, const Switch&) = default;
 };
 
-/// The switches that wait to be taken over. Those that find no room are dropped, the oldest stay.
+/// The switches that wait to be taken over; of those that turn the same the latest alone. There is room for all.
 class SwitchQueue {
 public:
     bool Empty() const { return count_ == 0; }
@@ -42,9 +42,9 @@ public:
     Switch Next();
     void Clear() { count_ = 0; }
     /// Whether the person wants to leave.
-    bool Leaves() const { return LastOf(Switch::Kind::Leave) != nullptr; }
-    /// The latest switch of a kind; none: nullptr.
-    const Switch* LastOf(Switch::Kind kind) const;
+    bool Leaves() const { return Find(Switch::Kind::Leave, 0) != nullptr; }
+    /// The switch of a kind, and of a clan for the automatic ones, 0 for the others; none: nullptr.
+    const Switch* Find(Switch::Kind kind, int clan) const;
 
 private:
     static constexpr int Most = 32;
@@ -58,8 +58,10 @@ enum class TakenAt { Step, Question };
 
 /// Whether fast mode is on as the person has it, whether or not the rules have taken that over.
 bool WantsFastMode();
+/// The same for what a clan's amoebas do by themselves.
+bool WantsAutomatic(int clan, Switch::Kind kind);
 
-/// The game is over: what still waits counts from now on, and nobody leaves any more.
+/// No game is played: what still waits counts from now on, and nobody leaves.
 void SettleSwitches();
 
 /// Takes over what has been switched since the last time. Throws GameLeft when the person leaves.

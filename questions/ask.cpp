@@ -60,6 +60,13 @@ void YesNoQuestion::Store(const Answer& answer) {
     game.Reply = IsYes() ? ReplyYes : ReplyNo;
 }
 
+void BoxQuestion::Store(const Answer& answer) {
+    dismissed_ = answer.What == Answer::Kind::Acknowledge || answer.What == Answer::Kind::Close;
+    if (!dismissed_) {
+        NoteAnswer(*this, answer, false);
+    }
+}
+
 std::vector<Answer> SquareQuestion::Allowed() const {
     std::vector<Answer> allowed;
     for (const int square : Offered) {

@@ -69,7 +69,7 @@ public:
     void ok_Click() { Put(Plain(Answer::Kind::Acknowledge)); }
 
 protected:
-    void Store(const Answer& /*answer*/) override { dismissed_ = true; }
+    void Store(const Answer& answer) override;
 
 private:
     bool dismissed_ = false;

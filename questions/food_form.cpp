@@ -178,10 +178,8 @@ void FoodForm::Store(const Answer& answer) {
         case Answer::Kind::Struggle: ChooseStruggle(); break;
         case Answer::Kind::Eat:
         case Answer::Kind::Carry: PressEat(answer); break;
-        case Answer::Kind::Starve: PressEat(WithAmounts(Answer::Kind::Eat, std::vector<int>(MaxClans, 0))); break;
-        case Answer::Kind::Victim:
-            victimbEnabled ? void(Pressed = Button::Victim) : NoteAnswer(*this, answer, false);
-            break;
+        case Answer::Kind::Starve: Starve(answer); break;
+        case Answer::Kind::Victim: PressVictim(answer); break;
         case Answer::Kind::CarryNothing:
         case Answer::Kind::Close: Pressed = Button::Closed; break;
         default: NoteAnswer(*this, answer, false);
@@ -238,6 +236,30 @@ void FoodForm::ChooseStruggle() {
     UpdateButtons();
 }
 
+/// What is no number counts as nothing, and shows so once the field is left for another dialog.
+void FoodForm::LeaveAll() {
+    for (int field = 1; field <= game.NumPlayers; ++field) {
+        Leave(field);
+    }
+}
+
+void FoodForm::Starve(const Answer& answer) {
+    if (fdtxt[0].Visible) {
+        NoteAnswer(*this, answer, false);
+    } else {
+        PressEat(WithAmounts(Answer::Kind::Eat, std::vector<int>(MaxClans, 0)));
+    }
+}
+
+void FoodForm::PressVictim(const Answer& answer) {
+    if (!victimbEnabled) {
+        NoteAnswer(*this, answer, false);
+        return;
+    }
+    LeaveAll();
+    Pressed = Button::Victim;
+}
+
 void FoodForm::PressEat(const Answer& answer) {
     if (!eatbEnabled) {
         NoteAnswer(*this, WithAmounts(Answer::Kind::Eat, {}), false);
@@ -248,6 +270,7 @@ void FoodForm::PressEat(const Answer& answer) {
             fdtxt[colour].Text = Concat(answer.Amounts[static_cast<std::size_t>(colour - 1)]);
         }
     }
+    LeaveAll();
     UpdateButtons();
     Pressed = Button::Eat;
 }

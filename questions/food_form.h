@@ -86,6 +86,9 @@ protected:
 private:
     void TypeInto(const Answer& answer);
     void Leave(int field);
+    void LeaveAll();
+    void Starve(const Answer& answer);
+    void PressVictim(const Answer& answer);
     void TakeSuggestion();
     void ChooseParasitism();
     void ChooseStruggle();

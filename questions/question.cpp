@@ -15,7 +15,8 @@ std::string_view QuestionKindName(QuestionKind kind) {
 }
 
 void Question::Put(const Answer& answer) {
-    if (Answered()) {
+    const bool covered = services.Asked != nullptr && services.Asked != this;
+    if (covered || Answered()) {
         return;
     }
     if (services.Listener != nullptr) {

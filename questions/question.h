@@ -31,7 +31,8 @@ public:
     Question& operator=(const Question&) = delete;
 
     /// Puts in an answer. One that is not allowed now is told as refused, or shows no effect where the control
-    /// for it has none; after one that the rule has to look at nothing more is taken until it has.
+    /// for it has none; after one that the rule has to look at nothing more is taken until it has, and nothing while
+    /// another question lies on top.
     void Put(const Answer& answer);
 
     /// What may be answered now: everything where that can be listed, the steps that are enabled where the

@@ -38,7 +38,7 @@ bool IsSwitchText(std::string_view line) {
 }  // namespace
 
 std::string Input::Text() const {
-    const auto text = std::visit([](const auto& what) { return what.Text(); }, What);
+    const auto text = IsSwitch ? Turned.Text() : Given.Text();
     return StepsBegun < 0 ? text : Concat(Before, StepsBegun, Steps, text);
 }
 
@@ -47,13 +47,14 @@ std::string Input::Parse(std::string_view line, Input& input) {
     if (!TakeSteps(line, input.StepsBegun)) {
         return Concat("\"", line, R"(" names no number of steps, as in "after 12 steps: set victory on")");
     }
-    if (IsSwitchText(line)) {
-        return Switch::Parse(line, input.What.emplace<Switch>());
+    input.IsSwitch = IsSwitchText(line);
+    if (input.IsSwitch) {
+        return Switch::Parse(line, input.Turned);
     }
     if (input.StepsBegun >= 0) {
         return Concat("\"", line, "\" is no switch, and nothing else comes between two steps");
     }
-    return Answer::Parse(line, input.What.emplace<Answer>());
+    return Answer::Parse(line, input.Given);
 }
 
 void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
@@ -62,12 +63,12 @@ void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
 }
 
 void InputRecorder::OnInput(const Question& question, const Answer& answer) {
-    Inputs.push_back({answer, -1});
+    Inputs.push_back(InputOf(answer));
     PassingObserver::OnInput(question, answer);
 }
 
 void InputRecorder::OnSwitch(const Switch& turned, TakenAt place) {
-    Inputs.push_back({turned, place == TakenAt::Step ? steps_ : -1});
+    Inputs.push_back(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
     PassingObserver::OnSwitch(turned, place);
 }
 
@@ -95,17 +96,17 @@ void InputPlayer::Wait() {
             throw GameLeft{};
         }
         const Input& input = inputs_[next_++];
-        if (const auto* turned = std::get_if<Switch>(&input.What)) {
-            services.Switches.Add(*turned);
+        if (input.IsSwitch) {
+            services.Switches.Add(input.Turned);
             return;
         }
-        question.Put(std::get<Answer>(input.What));
+        question.Put(input.Given);
     }
 }
 
 void InputPlayer::TurnSwitchesBeforeStep() {
     for (; !AtEnd() && inputs_[next_].StepsBegun == steps_; ++next_) {
-        services.Switches.Add(std::get<Switch>(inputs_[next_].What));
+        services.Switches.Add(inputs_[next_].Turned);
     }
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "model/observer.h"
@@ -14,7 +13,9 @@ namespace plasmos {
 
 /// One thing that came from a person: an answer to the question that was open on top, or a switch.
 struct Input {
-    std::variant<Answer, Switch> What;
+    Answer Given;
+    Switch Turned;
+    bool IsSwitch = false;  ///< Turned counts, else Given
     /// A switch that was taken over before a step: the number of steps begun until then. -1: it came while a
     /// question waited, as every answer does.
     int StepsBegun = -1;
@@ -26,6 +27,14 @@ struct Input {
 
     friend bool operator==(const Input&, const Input&) = default;
 };
+
+inline Input InputOf(const Answer& answer) {
+    return {answer, {}, false, -1};
+}
+/// A switch while a question waits, or before a step.
+inline Input InputOf(const Switch& turned, int stepsBegun = -1) {
+    return {{}, turned, true, stepsBegun};
+}
 
 /// Everything that came from the persons of a game, in order. With the game's setup and its replay number it is the
 /// whole game.
@@ -84,7 +93,8 @@ public:
     explicit InputPlayer(const InputList& inputs, Observer* next = nullptr);
     ~InputPlayer() override;
 
-    bool WantsText() const override { return PassingObserver::WantsText(); }
+    /// What is asked may hang on whether words are wanted; the game was played before somebody who wanted them.
+    bool WantsText() const override { return true; }
     /// Whether every input has been given.
     bool AtEnd() const { return next_ == inputs_.size(); }
 

@@ -61,7 +61,7 @@ bool DefendOnce(int clan, int amoeba) {
         AttackEnds(beatenOff ? Kind::Defends : Kind::FailsToDefend, clan, amoeba, game.Amoeba[amoeba][clan].Square));
     if (beatenOff) {
         const Piece& attacker = game.Amoeba[game.CurAmoeba][game.CurPlayer];
-        if (SomebodyListens()) {
+        if (SomebodyFollows()) {
             ReportBox(Concat(attacker.Name, " has been beaten off by ", game.Amoeba[amoeba][clan].Name, "!"));
         }
     }

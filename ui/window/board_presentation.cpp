@@ -144,8 +144,8 @@ void BoardPresentation::ShowAutoFlags(int clan) {
         return;
     }
     const bool person = clan >= 1 && clan <= MaxClans && !game.Players[clan].IsComputer;
-    const bool eating = person && game.AutoFlags[clan][1];
-    const bool tentacle = person && game.AutoFlags[clan][2];
+    const bool eating = person && WantsAutomatic(clan, Switch::Kind::Eating);
+    const bool tentacle = person && WantsAutomatic(clan, Switch::Kind::Tentacle);
     strip_->Question->autoeatlab->setVisible(eating);
     strip_->Question->autotenlab->setVisible(tentacle);
     if (!person && game.Turn > 0) {
