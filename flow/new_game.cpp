@@ -153,7 +153,7 @@ int AskPlayerCount() {
     }
     OpenQuestion open(form);
     open.Wait();
-    const int count = form.Take();
+    const int count = form.Chosen();
     NoteAnswer(form, Numbered(Answer::Kind::Number, count), IsClanCount(count));
     return count;
 }

@@ -75,7 +75,7 @@ public:
     /// The question is over; its object is about to go.
     virtual void Close(Question& question) = 0;
     /// Returns when something has happened, after 100 ms at the latest. Throws ProgramEnd when the
-    /// person has closed the window.
+    /// person has closed the window, GameLeft when nobody answers any more.
     virtual void Wait() = 0;
 };
 

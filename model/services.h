@@ -16,7 +16,7 @@ class Question;
 /// can be copied, kept and compared.
 struct Services {
     Presentation* Window = nullptr;     ///< nobody: nothing is shown and nobody can be asked
-    Observer* Listener = nullptr;       ///< hears rolls, steps and lines; may be nobody
+    Observer* Listener = nullptr;       ///< hears rolls, steps, happenings, inputs and lines; may be nobody
     GameFiles* Files = nullptr;         ///< nobody: no file is read or written
     SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
     DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none

@@ -39,7 +39,6 @@ bool WaitForYes(int clan, const std::string& text, int about) {
     OpenQuestion open(question);
     open.Wait();
     NoteAnswer(question, question.IsYes() ? YesAnswer() : NoAnswer(), true);
-    ForgetAnswer();
     return question.IsYes();
 }
 
@@ -50,6 +49,15 @@ void LogBox(int clan, const std::string& text) {
 }
 
 }  // namespace
+
+YesNoQuestion::~YesNoQuestion() {
+    ForgetAnswer();
+}
+
+SquareQuestion::~SquareQuestion() {
+    game.WantSquare = false;
+    ForgetAnswer();
+}
 
 void YesNoQuestion::Store(const Answer& answer) {
     if (answer.What != Answer::Kind::Yes && answer.What != Answer::Kind::No) {
@@ -88,9 +96,9 @@ void SquareQuestion::Store(const Answer& answer) {
             game.Reply = answer.What == Answer::Kind::Yes ? ReplyYes : ReplyNo;
             break;
         case Answer::Kind::Square:
-            square_ = answer.Number;
-            game.Reply = MiddleOf(answer.Number).X;
-            game.ReplyY = MiddleOf(answer.Number).Y;
+            square_ = answer.Number >= 1 && answer.Number <= game.NumSquares ? answer.Number : 0;
+            game.Reply = *square_ > 0 ? MiddleOf(*square_).X : -1;
+            game.ReplyY = *square_ > 0 ? MiddleOf(*square_).Y : -1;
             break;
         default: NoteAnswer(*this, answer, false);
     }
@@ -199,8 +207,6 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
         const bool accepted = std::binary_search(squares.begin(), squares.end(), square);
         NoteAnswer(question, Numbered(Answer::Kind::Square, square), accepted);
         if (accepted) {
-            game.WantSquare = false;
-            ForgetAnswer();
             return square;
         }
         Board().Refresh(question);

@@ -24,6 +24,7 @@ class YesNoQuestion : public Question {
 public:
     YesNoQuestion(int clan, std::string text, int about)
         : Question(QuestionKind::YesNo, clan, std::move(text)), About(about) {}
+    ~YesNoQuestion() override;
     std::vector<Answer> Allowed() const override { return {YesAnswer(), NoAnswer()}; }
     bool Answered() const override { return answer_.has_value(); }
     /// The answer; only once there is one.
@@ -40,11 +41,13 @@ private:
 };
 
 /// A question that is answered by a click on one of the offered squares (ascending, once each). `Reply` and
-/// `ReplyY` become the clicked point. Another square, and the button Yes or No, is looked at and refused.
+/// `ReplyY` become the clicked point, -1 off the board. Another square, and the button Yes or No, is looked at and
+/// refused.
 class SquareQuestion : public Question {
 public:
     SquareQuestion(int clan, std::string text, std::vector<int> offered)
         : Question(QuestionKind::Square, clan, std::move(text)), Offered(std::move(offered)) {}
+    ~SquareQuestion() override;
     std::vector<Answer> Allowed() const override;
     bool Answered() const override { return square_.has_value(); }
     /// The clicked square, 0 where there is none; the question is then open again.

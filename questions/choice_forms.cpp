@@ -37,9 +37,8 @@ std::vector<Answer> AmNumfrm::Allowed() const {
     return AnswersFor(amopt, Answer::Kind::Number);
 }
 
-int AmNumfrm::Take() {
+AmNumfrm::~AmNumfrm() {
     game.Reply = 0;
-    return chosen_.value();
 }
 
 void AmNumfrm::Activate(int price) {
@@ -80,9 +79,8 @@ std::vector<Answer> AmChoicefrm::Allowed() const {
     return allowed;
 }
 
-int AmChoicefrm::Take() {
+AmChoicefrm::~AmChoicefrm() {
     game.Reply = 0;
-    return chosen_.value();
 }
 
 void AmChoicefrm::Offer(int amoeba) {
@@ -101,7 +99,7 @@ void AmChoicefrm::Store(const Answer& answer) {
 int AskAmoeba(AmChoicefrm& form) {
     OpenQuestion open(form);
     open.Wait();
-    const int slot = form.Take();
+    const int slot = form.Chosen();
     NoteAnswer(form, slot != 0 ? Numbered(Answer::Kind::Amoeba, slot) : Plain(Answer::Kind::Nobody), true);
     return slot;
 }

@@ -16,17 +16,18 @@ struct ChoiceOption {
 };
 
 /// The number dialog: one option button for each number 0 to 7. `Reply` takes the number chosen, and is back at 0
-/// once it has been taken.
+/// when the question is over.
 class AmNumfrm : public Question {
 public:
     /// The no-answer value is what `Reply` holds while nobody has chosen; closing the window gives
     /// `closeReply`.
     AmNumfrm(int clan, std::string caption, std::string text, int noAnswer, int closeReply);
+    ~AmNumfrm() override;
 
     std::vector<Answer> Allowed() const override;
     bool Answered() const override { return chosen_.has_value(); }
-    /// The number chosen.
-    int Take();
+    /// The number chosen; only once there is one.
+    int Chosen() const { return chosen_.value(); }
 
     /// Cell division: option k is visible up to the clan's amoeba limit and enabled up to its BP
     /// divided by the price, plus 1 for the amoeba that may be free. Runs once, before the dialog shows.
@@ -54,11 +55,12 @@ private:
 class AmChoicefrm : public Question {
 public:
     AmChoicefrm(int clan, std::string caption, std::string text);
+    ~AmChoicefrm() override;
 
     std::vector<Answer> Allowed() const override;
     bool Answered() const override { return chosen_.has_value(); }
-    /// The slot chosen, 0 for none.
-    int Take();
+    /// The slot chosen, 0 for none; only once there is an answer.
+    int Chosen() const { return chosen_.value(); }
 
     /// Lets a piece of the asked clan be chosen.
     void Offer(int amoeba);

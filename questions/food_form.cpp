@@ -176,11 +176,11 @@ void FoodForm::Store(const Answer& answer) {
         case Answer::Kind::Suggestion: TakeSuggestion(); break;
         case Answer::Kind::Parasitism: ChooseParasitism(); break;
         case Answer::Kind::Struggle: ChooseStruggle(); break;
-        case Answer::Kind::Eat:
-        case Answer::Kind::Carry: PressEat(answer); break;
+        case Answer::Kind::Eat: PressEat(answer); break;
+        case Answer::Kind::Carry:
+        case Answer::Kind::CarryNothing: Carry(answer); break;
         case Answer::Kind::Starve: Starve(answer); break;
         case Answer::Kind::Victim: PressVictim(answer); break;
-        case Answer::Kind::CarryNothing:
         case Answer::Kind::Close: Pressed = Button::Closed; break;
         default: NoteAnswer(*this, answer, false);
     }
@@ -244,10 +244,20 @@ void FoodForm::LeaveAll() {
 }
 
 void FoodForm::Starve(const Answer& answer) {
-    if (fdtxt[0].Visible) {
+    if (Mode == "TENTACLE" || fdtxt[0].Visible) {
         NoteAnswer(*this, answer, false);
     } else {
         PressEat(WithAmounts(Answer::Kind::Eat, std::vector<int>(MaxClans, 0)));
+    }
+}
+
+void FoodForm::Carry(const Answer& answer) {
+    if (Mode != "TENTACLE") {
+        NoteAnswer(*this, answer, false);
+    } else if (answer.What == Answer::Kind::Carry) {
+        PressEat(answer);
+    } else {
+        Pressed = Button::Closed;
     }
 }
 

@@ -88,6 +88,7 @@ private:
     void Leave(int field);
     void LeaveAll();
     void Starve(const Answer& answer);
+    void Carry(const Answer& answer);
     void PressVictim(const Answer& answer);
     void TakeSuggestion();
     void ChooseParasitism();

@@ -144,8 +144,9 @@ void GeneForm::Store(const Answer& answer) {
 
 void GeneForm::Click(const Answer& answer) {
     const int gene = answer.Number;
-    if (gene < 1 || gene > GeneCount || !gcheck[gene].Enabled) {
-        NoteAnswer(*this, Numbered(Answer::Kind::Tick, gene), false);
+    const bool ticks = answer.What == Answer::Kind::Tick;
+    if (gene < 1 || gene > GeneCount || !gcheck[gene].Enabled || gcheck[gene].Ticked == ticks) {
+        NoteAnswer(*this, answer, false);
         return;
     }
     CheckBox& box = gcheck[gene];

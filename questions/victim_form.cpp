@@ -23,6 +23,10 @@ VictimForm::VictimForm(int clan, std::string_view mode, std::string caption, int
     game.ReplyY = 0;
 }
 
+VictimForm::~VictimForm() {
+    game.ReplyY = -1;
+}
+
 std::vector<Answer> VictimForm::Allowed() const {
     std::vector<Answer> allowed;
     for (int index = 0; index < static_cast<int>(Figures.size()); ++index) {
@@ -107,16 +111,20 @@ void VictimForm::Mark(const Answer& answer) {
 
 /// Marks these figures, and done; without any the pick of nothing.
 void VictimForm::MarkAll(const Answer& answer) {
-    const auto isOf = [&](const VictimFigure& figure) {
-        return std::count(answer.Pieces.begin(), answer.Pieces.end(), Answer::Piece{figure.Clan, figure.Amoeba}) > 0;
+    const auto isMeant = [&](const VictimFigure& figure) {
+        const Answer::Piece piece{figure.Clan, figure.Amoeba};
+        return figure.Markable && std::count(answer.Pieces.begin(), answer.Pieces.end(), piece) > 0;
     };
-    for (VictimFigure& figure : Figures) {
-        figure.Marked = figure.Markable && isOf(figure);
+    const auto meant = std::count_if(Figures.begin(), Figures.end(), isMeant);
+    if (meant != static_cast<std::ptrdiff_t>(answer.Pieces.size()) || (Mode != "HOLD" && meant > 1)) {
+        NoteAnswer(*this, answer, false);
+        return;
     }
-    const auto marked = std::count_if(Figures.begin(), Figures.end(), [](const auto& figure) { return figure.Marked; });
+    for (VictimFigure& figure : Figures) {
+        figure.Marked = isMeant(figure);
+    }
     DescribeMarked();
-    const bool sound = marked == static_cast<std::ptrdiff_t>(answer.Pieces.size()) && (Mode == "HOLD" || marked <= 1);
-    sound ? Finish(marked == 0) : NoteAnswer(*this, answer, false);
+    Finish(meant == 0);
 }
 
 void VictimForm::Finish(bool closed) {
@@ -149,7 +157,6 @@ std::vector<VictimFigure> AskVictims(VictimForm& form) {
         pieces.push_back({figure.Clan, figure.Amoeba});
     }
     NoteAnswer(form, WithPieces(Answer::Kind::Pick, pieces), true);
-    game.ReplyY = -1;
     return picked;
 }
 

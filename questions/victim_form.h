@@ -27,6 +27,7 @@ public:
     /// `mode` is "AGGRESS", "SFS", "PARASITE" or "HOLD". Every piece in the square gets a figure,
     /// none of them may be marked yet.
     VictimForm(int clan, std::string_view mode, std::string caption, int square);
+    ~VictimForm() override;
 
     std::vector<Answer> Allowed() const override;
     bool Answered() const override { return over_; }

@@ -117,7 +117,7 @@ int AskHowMany(int clan, int affordable) {
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     open.Wait();
-    const int count = form.Take();
+    const int count = form.Chosen();
     NoteAnswer(form, Numbered(Answer::Kind::Number, count), true);
     return count;
 }

@@ -41,7 +41,12 @@ void PutFitting(const Answer& answer, Question& question) {
                                  QuestionKindName(question.Kind), " to clan ", question.Clan, ": \"", question.Text,
                                  "\""));
     }
-    question.Put(answer);
+    auto* genes = As<GeneForm>(&question);
+    if (genes != nullptr && answer.What == Answer::Kind::Tick) {
+        genes->gcheck_Click(answer.Number);  // a box is clicked, whatever that makes of it
+    } else {
+        question.Put(answer);
+    }
 }
 
 Line Yes() {

@@ -30,9 +30,13 @@ double MeanUV(const GameState& state) {
 }  // namespace
 
 LentLabels::LentLabels(QObject* parent, EnvironmentView& environment)
-    : QObject(parent), environment_(&environment), zyTimer_(new QTimer(this)) {
-    environment_->driftlab->installEventFilter(this);
-    environment_->UVlab->installEventFilter(this);
+    : QObject(parent),
+      environment_(&environment),
+      driftlab_(environment.driftlab),
+      UVlab_(environment.UVlab),
+      zyTimer_(new QTimer(this)) {
+    driftlab_->installEventFilter(this);
+    UVlab_->installEventFilter(this);
     zyTimer_->setObjectName(QStringLiteral("zyTimer"));
     zyTimer_->setSingleShot(true);
     connect(zyTimer_, &QTimer::timeout, this, [this] { GiveBack(); });
@@ -72,8 +76,8 @@ void LentLabels::GiveBack() {
 
 bool LentLabels::eventFilter(QObject* watched, QEvent* event) {
     const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    const bool drift = watched == environment_->driftlab && press;
-    const bool uv = watched == environment_->UVlab && event->type() == QEvent::MouseButtonRelease;
+    const bool drift = watched == driftlab_ && press;
+    const bool uv = watched == UVlab_ && event->type() == QEvent::MouseButtonRelease;
     if ((drift || uv) && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
         drift ? driftlab_MouseDown() : UVlab_MouseUp();
         return true;

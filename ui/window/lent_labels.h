@@ -28,6 +28,9 @@ private:
     void Borrow(const QString& label);
 
     EnvironmentView* environment_;
+    /// The labels themselves: their last events come when the card around them is gone.
+    QObject* driftlab_;
+    QObject* UVlab_;
     QTimer* zyTimer_;
     QString borrowed_;
 };
