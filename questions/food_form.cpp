@@ -5,6 +5,7 @@
 
 #include "files/strings.h"
 #include "questions/ask.h"
+#include "questions/takings.h"
 
 namespace plasmos {
 
@@ -15,74 +16,6 @@ constexpr int LargestAmount = 999999;
 bool IsPlainNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
-
-/// Every way to take pieces of the colours in a square.
-class Takings {
-public:
-    explicit Takings(const FoodForm& form) : form_(form) {}
-
-    /// The digits of a menu, each from another foreign colour. A lent piece is always eaten, for a digit 1.
-    void TakeMenu(int menu) {
-        int lent = (form_.fdtxt[0].Visible ? 1 : 0) + (form_.fdtxt[7].Visible ? 1 : 0);
-        std::vector<int> digits;
-        for (int rest = menu; rest > 0; rest /= 10) {
-            if (lent > 0 && rest % 10 == 1) {
-                --lent;
-            } else {
-                digits.push_back(rest % 10);
-            }
-        }
-        if (lent == 0) {
-            TakeDigits(1, digits);
-        }
-    }
-    /// Up to a number of pieces of any colour.
-    void TakeUpTo(int most) { TakePieces(1, most); }
-
-    std::vector<std::vector<int>> Found;
-
-private:
-    // NOLINTNEXTLINE(misc-no-recursion): one colour deeper each time
-    void TakeDigits(int colour, const std::vector<int>& digits) {
-        if (digits.empty()) {
-            Found.push_back(taken_);
-            return;
-        }
-        if (colour > game.NumPlayers) {
-            return;
-        }
-        TakeDigits(colour + 1, digits);
-        int tried = 0;
-        for (std::size_t i = 0; i < digits.size() && colour != form_.Clan; ++i) {
-            if (digits[i] != tried && digits[i] <= form_.fdtxt[colour].InSquare) {
-                tried = digits[i];
-                auto left = digits;
-                left.erase(left.begin() + static_cast<std::ptrdiff_t>(i));
-                Of(colour) = tried;
-                TakeDigits(colour + 1, left);
-                Of(colour) = 0;
-            }
-        }
-    }
-
-    // NOLINTNEXTLINE(misc-no-recursion): one colour deeper each time
-    void TakePieces(int colour, int left) {
-        if (colour > game.NumPlayers) {
-            Found.push_back(taken_);
-            return;
-        }
-        for (int pieces = 0; pieces <= std::min(left, form_.fdtxt[colour].InSquare); ++pieces) {
-            Of(colour) = pieces;
-            TakePieces(colour + 1, left - pieces);
-        }
-        Of(colour) = 0;
-    }
-
-    int& Of(int colour) { return taken_[static_cast<std::size_t>(colour - 1)]; }
-
-    const FoodForm& form_;
-    std::vector<int> taken_ = std::vector<int>(static_cast<std::size_t>(game.NumPlayers), 0);
-};
 
 }  // namespace
 
