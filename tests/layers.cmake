@@ -3,7 +3,7 @@
 # Checks that includes point one way, between the rooms of the core and between those of the window; and
 # that what lies below the window includes no header of Qt. What the rules show in the message line, and
 # their pauses, go through its unit. What the window is made of shows the state it is given; only the window
-# itself and the programs name the current game. Run with -D SOURCES=<folder of the sources>.
+# itself and the programs name the current game. No colour is written down but in the theme. Run with -D SOURCES=<folder of the sources>.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -82,6 +82,20 @@ foreach(layer ui/look ui/board ui/dialogs ui/strip ui/options)
                 message("${shown}: a part of the window shows the state it is given: ${line}")
                 math(EXPR faults "${faults} + 1")
             endif()
+        endforeach()
+    endforeach()
+endforeach()
+foreach(layer ui/look ui/board ui/dialogs ui/strip ui/options ui/window ui/app)
+    file(GLOB files ${SOURCES}/${layer}/*.h ${SOURCES}/${layer}/*.cpp)
+    foreach(file IN LISTS files)
+        file(RELATIVE_PATH shown ${SOURCES} ${file})
+        if(shown MATCHES "^ui/look/theme\\.cpp$")
+            continue()
+        endif()
+        file(STRINGS ${file} lines REGEX "QColor\\((0x|[0-9])|[\":]#[0-9A-Fa-f][0-9A-Fa-f][0-9A-Fa-f]|rgba?\\(|Qt::(white|black|red|yellow|blue|green|gray)")
+        foreach(line IN LISTS lines)
+            message("${shown}: ui/look/theme.h knows the colours: ${line}")
+            math(EXPR faults "${faults} + 1")
         endforeach()
     endforeach()
 endforeach()

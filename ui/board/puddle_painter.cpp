@@ -49,9 +49,9 @@ QPointF StackFoot(const GameState& state, const Stacks& stacks, int square, int 
 void DrawWater(QPainter& painter, const QRectF& puddle) {
     QRadialGradient water(puddle.left() + puddle.width() * 0.45, puddle.top() + puddle.height() * 0.38,
                           std::max(puddle.width(), puddle.height()) * 0.8);
-    water.setColorAt(0, QColor(0xCFEFEA));
-    water.setColorAt(0.55, QColor(0x8FCFCB));
-    water.setColorAt(1, QColor(0x4C9AA3));
+    water.setColorAt(0, Shade(Tone::WaterLight));
+    water.setColorAt(0.55, Shade(Tone::WaterMiddle));
+    water.setColorAt(1, Shade(Tone::WaterDeep));
     painter.setPen(Qt::NoPen);
     painter.setBrush(water);
     painter.drawRoundedRect(puddle, 130, 130);
@@ -70,20 +70,20 @@ void DrawWater(QPainter& painter, const QRectF& puddle) {
             const double bend = i % 2 == 0 ? -120 : 120;
             ripple.quadTo(from + 500, y + bend, from + 1000, y);
         }
-        painter.setPen(QPen(QColor(255, 255, 255, 44), 26, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(QPen(Shade(Tone::Ripple), 26, Qt::SolidLine, Qt::RoundCap));
         painter.drawPath(ripple);
     }
     painter.restore();
-    painter.setPen(QPen(QColor(0x2F, 0x7E, 0x88, 120), 22));
+    painter.setPen(QPen(Shade(Tone::WaterEdge), 22));
     painter.drawRoundedRect(puddle.adjusted(11, 11, -11, -11), 122, 122);
 }
 
 void DrawGlass(const GameState& state, QPainter& painter, int square) {
     QLinearGradient glass(SquareRect(state, square).topLeft(), SquareRect(state, square).bottomRight());
-    glass.setColorAt(0, QColor(255, 255, 255, 46));
-    glass.setColorAt(1, QColor(255, 255, 255, 20));
+    glass.setColorAt(0, Shade(Tone::Glass));
+    glass.setColorAt(1, Shade(Tone::GlassFar));
     painter.setBrush(glass);
-    painter.setPen(QPen(QColor(255, 255, 255, 130), 10));
+    painter.setPen(QPen(Shade(Tone::GlassEdge), 10));
     painter.drawRoundedRect(SquareRect(state, square), Corner, Corner);
 }
 
@@ -95,25 +95,25 @@ void DrawStone(const GameState& state, QPainter& painter, int square) {
     stone.cubicTo(corner + QPointF(800, 1130), corner + QPointF(420, 1120), corner + QPointF(220, 1000));
     stone.cubicTo(corner + QPointF(40, 820), corner + QPointF(60, 440), corner + QPointF(170, 260));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(8, 59, 66, 40));
+    painter.setBrush(Shade(Tone::StoneShadow));
     painter.drawPath(stone.translated(14, 34));
     painter.drawPath(stone.translated(8, 18));
     QLinearGradient grey(corner, corner + QPointF(760, 1200));
-    grey.setColorAt(0, QColor(0xCFC9BE));
-    grey.setColorAt(1, QColor(0x7E776B));
+    grey.setColorAt(0, Shade(Tone::Stone));
+    grey.setColorAt(1, Shade(Tone::StoneDark));
     painter.setBrush(grey);
-    painter.setPen(QPen(QColor(0x6A6458), 14));
+    painter.setPen(QPen(Shade(Tone::StoneEdge), 14));
     painter.drawPath(stone);
     QPainterPath shine(corner + QPointF(270, 340));
     shine.quadTo(corner + QPointF(430, 190), corner + QPointF(680, 220));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(255, 255, 255, 130), 34, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(Shade(Tone::StoneShine), 34, Qt::SolidLine, Qt::RoundCap));
     painter.drawPath(shine);
 }
 
 void DrawSquareNumber(const GameState& state, QPainter& painter, int square) {
-    painter.setFont(LookFont(100, true));
-    painter.setPen(QColor(0x1F, 0x55, 0x5E, 220));
+    painter.setFont(DrawnFont(100, true));
+    painter.setPen(Shade(Tone::SquareInk));
     const QRectF corner(SquareCorner(state, square) + QPointF(62, 46), QSizeF(300, 130));
     painter.drawText(corner, Qt::AlignLeft | Qt::AlignTop, QString::number(square));
 }
@@ -124,7 +124,7 @@ void DrawFood(const GameState& state, QPainter& painter, int square) {
         const QPointF foot = StackFoot(state, stacks, square, clan);
         const int shown = std::min(state.Food[square][clan], stacks.High);
         if (shown == 0) {
-            painter.setPen(QPen(QColor(255, 255, 255, 70), 12, Qt::SolidLine, Qt::RoundCap));
+            painter.setPen(QPen(Shade(Tone::NoFood), 12, Qt::SolidLine, Qt::RoundCap));
             painter.drawLine(foot + QPointF(24, -8), foot + QPointF(stacks.Cube - 24, -8));
         }
         for (int i = 0; i < shown; ++i) {
@@ -149,34 +149,34 @@ void DrawFoodCounts(const GameState& state, QPainter& painter, int square) {
         const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
                          foot.y() - (stacks.Cube + 6) * stacks.High - letters - 4, wide, letters + 2);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0xE6, 0xF6, 0xF3, 205));
+        painter.setBrush(Shade(Tone::CountGround));
         painter.drawRoundedRect(tag, letters * 0.4, letters * 0.4);
-        painter.setFont(LookFont(letters, true));
-        painter.setPen(QColor(0x0F, 0x3D, 0x45));
+        painter.setFont(DrawnFont(letters, true));
+        painter.setPen(Shade(Tone::CountInk));
         painter.drawText(tag, Qt::AlignCenter | Qt::TextDontClip, text);
     }
 }
 
 void DrawOffer(const GameState& state, QPainter& painter, int square, bool bright) {
     const QRectF rect = SquareRect(state, square);
-    painter.setBrush(QColor(255, 248, 214, bright ? 150 : 92));
+    painter.setBrush(Shade(bright ? Tone::OfferBright : Tone::Offer));
     const double widths[] = {92, 66, 44};
     for (const double width : widths) {
-        painter.setPen(QPen(QColor(255, 190, 40, bright ? 64 : 42), width));
+        painter.setPen(QPen(Shade(bright ? Tone::OfferGlowBright : Tone::OfferGlow), width));
         painter.drawRoundedRect(rect, Corner, Corner);
         painter.setBrush(Qt::NoBrush);
     }
-    painter.setPen(QPen(QColor(look::Amber), bright ? 38 : 28));
+    painter.setPen(QPen(Shade(Tone::OfferEdge), bright ? 38 : 28));
     painter.drawRoundedRect(rect, Corner, Corner);
 }
 
 void DrawSpokenOf(const GameState& state, QPainter& painter, int square) {
     const QRectF rect = SquareRect(state, square);
-    painter.setBrush(QColor(255, 255, 255, 60));
-    painter.setPen(QPen(QColor(255, 255, 255, 235), 34));
+    painter.setBrush(Shade(Tone::SpokenOf));
+    painter.setPen(QPen(Shade(Tone::SpokenOfEdge), 34));
     painter.drawRoundedRect(rect, Corner, Corner);
     painter.setBrush(Qt::NoBrush);
-    QPen dashes(QColor(look::Teal), 20);
+    QPen dashes(Shade(Tone::Accent), 20);
     dashes.setCapStyle(Qt::FlatCap);
     dashes.setDashPattern({4, 3});
     painter.setPen(dashes);
@@ -185,7 +185,7 @@ void DrawSpokenOf(const GameState& state, QPainter& painter, int square) {
 
 void DrawHover(const GameState& state, QPainter& painter, int square) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(255, 255, 255, 210), 16));
+    painter.setPen(QPen(Shade(Tone::Hover), 16));
     painter.drawRoundedRect(SquareRect(state, square), Corner, Corner);
 }
 

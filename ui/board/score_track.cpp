@@ -90,13 +90,13 @@ void ScoreTrack::DrawSpaces(QPainter& painter) const {
     for (int space = 1; space <= Spaces; ++space) {
         const QRectF rect = SpaceRect(space);
         const bool goal = space == VictoryScore;
-        painter.setPen(QPen(goal ? QColor(0xD9B100) : QColor(0xE3DCCB), 1));
-        painter.setBrush(goal ? QColor(0xFFF0A8) : space % 2 == 1 ? QColor(0xF7F3E8) : QColor(0xFFFDF8));
+        painter.setPen(QPen(goal ? Shade(Tone::GoalEdge) : Shade(Tone::TrackLine), 1));
+        painter.setBrush(goal ? Shade(Tone::Goal) : space % 2 == 1 ? Shade(Tone::TrackOdd) : Shade(Tone::Track));
         painter.drawRoundedRect(rect, 5, 5);
         const double room = std::min(rect.width(), rect.height());
         const bool named = goal || space % 5 == 0 || space == 1;
-        painter.setFont(LookFont(std::clamp(room * (named ? 0.44 : 0.5), 8.0, 14.0), goal));
-        painter.setPen(goal ? QColor(0x7A6200) : QColor(0x8A8270));
+        painter.setFont(DrawnFont(std::clamp(room * (named ? 0.44 : 0.5), 8.0, 14.0), goal));
+        painter.setPen(goal ? Shade(Tone::GoalInk) : Shade(Tone::TrackInk));
         painter.drawText(rect, Qt::AlignCenter, named ? QString::number(space) : QStringLiteral("·"));
     }
 }
@@ -114,16 +114,16 @@ void ScoreTrack::DrawMarkers(QPainter& painter) const {
         const double aside = radius * 0.8 * standing[static_cast<std::size_t>(space)]++;
         const QPointF centre = rect.center() + QPointF(aside, aside * 0.3);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0, 0, 0, 45));
+        painter.setBrush(Shade(Tone::Shadow));
         painter.drawEllipse(centre + QPointF(0, 1.8), radius + 0.6, radius + 0.6);
         DrawClanBadge(painter, clan, centre, radius);
         if (score > Spaces) {
             const QRectF tag(centre.x() + radius * 0.25, centre.y() - radius * 1.3, radius * 1.9, radius * 0.95);
-            painter.setBrush(QColor(look::Ink));
+            painter.setBrush(Shade(Tone::Ink));
             painter.setPen(Qt::NoPen);
             painter.drawRoundedRect(tag, 3, 3);
-            painter.setPen(Qt::white);
-            painter.setFont(LookFont(radius * 0.72, true));
+            painter.setPen(Shade(Tone::Card));
+            painter.setFont(DrawnFont(radius * 0.72, true));
             painter.drawText(tag, Qt::AlignCenter, QStringLiteral("+%1").arg((score - 1) / Spaces * Spaces));
         }
     }
@@ -132,8 +132,8 @@ void ScoreTrack::DrawMarkers(QPainter& painter) const {
 void ScoreTrack::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0xCFC8B8), 1));
-    painter.setBrush(QColor(0xFFFDF8));
+    painter.setPen(QPen(Shade(Tone::TrackEdge), 1));
+    painter.setBrush(Shade(Tone::Track));
     painter.drawRoundedRect(frame_, 14, 14);
     DrawSpaces(painter);
     DrawMarkers(painter);

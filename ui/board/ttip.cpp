@@ -50,7 +50,7 @@ ToolTips::ToolTips(PuddleView* puddle)
     TTwin_->setTextFormat(Qt::PlainText);
     TTwin_->setFont(LookFont(13, true));
     TTwin_->setMargin(5);
-    TTwin_->setStyleSheet(QStringLiteral("background:#FFFBE6;color:#22272B;border:1px solid #BDB7A8"));
+    TTwin_->setStyleSheet(Styled(QStringLiteral("background:@Tip;color:@Ink;border:1px solid @FieldEdge")));
     ttTimer_->setObjectName(QStringLiteral("ttTimer"));
     connect(ttTimer_, &QTimer::timeout, this, [this] { ttTimer_Timer(); });
     ttTimer_->start(WaitingMilliseconds);

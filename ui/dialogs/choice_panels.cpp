@@ -58,7 +58,7 @@ QLabel* MakeText(QWidget* parent, const char* name, int pixels) {
     auto* label = new WrapLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setFont(LookFont(pixels));
-    SetLabelColour(label, QColor(look::Ink));
+    SetLabelColour(label, Shade(Tone::Ink));
     return label;
 }
 

@@ -97,9 +97,9 @@ void FoodPanel::MakeRow(int field) {
     line->setSpacing(6);
     auto* cube = new QLabel(row.Line);
     cube->setPixmap(CubePicture(IsLent(field) ? 0 : field, devicePixelRatioF()));
-    row.Name = MakeLabel(row.Line, QStringLiteral("fdname%1").arg(field), 13, false, look::Ink);
+    row.Name = MakeLabel(row.Line, QStringLiteral("fdname%1").arg(field), 13, false, Tone::Ink);
     row.Name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    row.Count = MakeLabel(row.Line, QStringLiteral("fdlab%1").arg(field), 14, true, look::Ink);
+    row.Count = MakeLabel(row.Line, QStringLiteral("fdlab%1").arg(field), 14, true, Tone::Ink);
     row.Count->setToolTip(QStringLiteral("Pieces of this colour in the square"));
     row.Entry = new QLineEdit(row.Line);
     row.Entry->setObjectName(QStringLiteral("fdtxt%1").arg(field));

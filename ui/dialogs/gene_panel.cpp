@@ -35,9 +35,9 @@ GenePanel::GenePanel(QWidget* parent, const GameState& state, GeneForm& form)
       EnvBP_(new QLineEdit(this)),
       ofLab_(MakeText(this, "ofLab", 13)),
       UVdiffLab_(MakeText(this, "UVdiffLab", 13)),
-      UVdiff_(MakeLabel(this, QStringLiteral("UVdiff"), 18, true, look::Ink)),
+      UVdiff_(MakeLabel(this, QStringLiteral("UVdiff"), 18, true, Tone::Ink)),
       bpCaption_(MakeText(this, "bpCaption", 13)),
-      BPlabel_(MakeLabel(this, QStringLiteral("BPlabel"), 18, true, look::Ink)),
+      BPlabel_(MakeLabel(this, QStringLiteral("BPlabel"), 18, true, Tone::Ink)),
       resetb_(MakeButton(QStringLiteral("resetb"), QStringLiteral("Reset"), false)),
       doneb_(MakeButton(QStringLiteral("doneb"), QStringLiteral("Done"), true)) {
     Body()->addWidget(text_);
@@ -67,7 +67,7 @@ void GenePanel::MakeBoxes() {
         box->setObjectName(QStringLiteral("gcheck%1").arg(gene));
         box->setFont(LookFont(12));
         RefuseRepeats(box);
-        QLabel* cost = MakeLabel(this, QStringLiteral("gcost%1").arg(gene), 10, false, look::Faint);
+        QLabel* cost = MakeLabel(this, QStringLiteral("gcost%1").arg(gene), 10, false, Tone::Faint);
         cost->setContentsMargins(24, 0, 0, 3);
         const int column = (gene - 1) / Rows;
         const int row = (gene - 1) % Rows * 2;

@@ -53,7 +53,7 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
       state_(state),
       question_(question),
       clan_(question.Clan),
-      title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, look::Ink)),
+      title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, Tone::Ink)),
       close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
       message_(MakeText(this, "messagelab", 13)),
       scroll_(new ScrollBody(this)),
@@ -72,9 +72,9 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     close_->setToolTip(QStringLiteral("Close (Esc)"));
     close_->setFocusPolicy(Qt::NoFocus);
     close_->setStyleSheet(
-        QStringLiteral("QPushButton{border:none;background:transparent;color:#7A7669;font-size:18px;"
-                       "padding:0;min-height:24px;min-width:24px;max-width:24px}"
-                       "QPushButton:hover{background:#EFEBDF;border-radius:6px;color:#22272B}"));
+        Styled(QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:18px;"
+                              "padding:0;min-height:24px;min-width:24px;max-width:24px}"
+                              "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}")));
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
     outer->addWidget(message_);
@@ -84,7 +84,7 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     foot_->setSpacing(Spacing);
     outer->addLayout(foot_);
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
-    SetColours(QColor(look::Card), clan_ > 0 ? ShadesOf(clan_).Dark : QColor(look::Teal));
+    SetColours(Shade(Tone::Card), clan_ > 0 ? ShadesOf(clan_).Dark : Shade(Tone::Accent));
 }
 
 int QuestionPanel::HeightFor(int width) const {
@@ -145,7 +145,7 @@ void QuestionPanel::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(clan_ > 0 ? ShadesOf(clan_).Body : QColor(look::Teal));
+    painter.setBrush(clan_ > 0 ? ShadesOf(clan_).Body : Shade(Tone::Accent));
     painter.drawRoundedRect(QRectF(1.5, 1.5, width() - 3, 5), 2.5, 2.5);
     if (clan_ > 0) {
         DrawClanBadge(painter, clan_, QPointF(26, HeadHeight / 2.0 + 1), 10);

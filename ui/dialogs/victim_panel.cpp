@@ -24,10 +24,10 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         QRadialGradient water(QRectF(rect()).center(), width() * 0.7);
-        water.setColorAt(0, QColor(0xCFEFEA));
-        water.setColorAt(1, QColor(0x8FCFCB));
+        water.setColorAt(0, Shade(Tone::WaterLight));
+        water.setColorAt(1, Shade(Tone::WaterMiddle));
         painter.setBrush(water);
-        painter.setPen(QPen(QColor(0x2F7E88), 1.2));
+        painter.setPen(QPen(Shade(Tone::WaterEdge), 1.2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
     }
 };
@@ -42,7 +42,7 @@ void FigureButton::paintEvent(QPaintEvent*) {
     const QPointF centre = QRectF(rect()).center();
     if (hasFocus() || (underMouse() && Figure.Markable)) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(255, 190, 40, 120));
+        painter.setBrush(Shade(Tone::OfferBright));
         painter.drawEllipse(centre, radius + 4, radius + 4);
     }
     DrawBlob(painter, BlobLook{Figure.Clan, Figure.Amoeba, damage, Figure.Marked, !Figure.Markable, 1}, centre, radius);

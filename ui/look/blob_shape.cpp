@@ -36,9 +36,9 @@ void DrawCracks(QPainter& painter, int damage, QPointF centre, double radius) {
         path.lineTo(centre + out * radius * 0.72 - across * radius * 0.08);
         path.lineTo(centre + out * radius * 0.5 + across * radius * 0.06);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(Qt::white, radius * 0.15, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(Shade(Tone::PieceHalo), radius * 0.15, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(path);
-        painter.setPen(QPen(QColor(0x14, 0x14, 0x14), radius * 0.075, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
+        painter.setPen(QPen(Shade(Tone::Crack), radius * 0.075, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
         painter.drawPath(path);
     }
 }
@@ -46,10 +46,10 @@ void DrawCracks(QPainter& painter, int damage, QPointF centre, double radius) {
 void DrawNucleus(QPainter& painter, const BlobLook& blob, QPointF centre, double radius) {
     const ClanShades& shades = ShadesOf(blob.Clan);
     const QPointF nucleus = centre - QPointF(0, radius * 0.1);
-    painter.setBrush(QColor(255, 255, 255, shades.Ink == QColor(Qt::white) ? 38 : 120));
+    painter.setBrush(shades.Nucleus);
     painter.setPen(QPen(QColor(shades.Dark.red(), shades.Dark.green(), shades.Dark.blue(), 110), radius * 0.04));
     painter.drawEllipse(nucleus, radius * 0.5, radius * 0.5);
-    QFont font = LookFont(radius * 0.62, true);
+    QFont font = DrawnFont(radius * 0.62, true);
     painter.setFont(font);
     painter.setPen(shades.Ink);
     painter.drawText(QRectF(nucleus - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius)), Qt::AlignCenter,
@@ -85,20 +85,20 @@ void DrawBlob(QPainter& painter, const BlobLook& blob, QPointF centre, double ra
     const QPainterPath path = BlobPath(blob.Clan, blob.Amoeba, centre, radius);
     const ClanShades& shades = ShadesOf(blob.Clan);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(8, 59, 66, 34));
+    painter.setBrush(Shade(Tone::PieceShadow));
     for (const double drop : {0.05, 0.09, 0.13}) {
         painter.drawPath(path.translated(radius * 0.02, radius * drop));
     }
     if (blob.Outlined) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(Qt::white, radius * 0.42, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(Shade(Tone::PieceHalo), radius * 0.42, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(path);
     }
     painter.setBrush(BodyGradient(shades, centre, radius));
-    painter.setPen(blob.Outlined ? QPen(QColor(0x10, 0x14, 0x16), radius * 0.15) : QPen(shades.Dark, radius * 0.065));
+    painter.setPen(blob.Outlined ? QPen(Shade(Tone::PieceEdge), radius * 0.15) : QPen(shades.Dark, radius * 0.065));
     painter.drawPath(path);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 255, 255, 75));
+    painter.setBrush(Shade(Tone::Shine));
     painter.save();
     painter.translate(centre - QPointF(0.36, 0.52) * radius);
     painter.rotate(-28);

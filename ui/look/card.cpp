@@ -13,7 +13,7 @@ namespace plasmos {
 void PillLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0, 0, 0, 60), 1));
+    painter.setPen(QPen(Shade(Tone::Shadow), 1));
     painter.setBrush(palette().color(QPalette::Window));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.6, height() / 2.6);
     painter.setPen(palette().color(QPalette::WindowText));
@@ -134,12 +134,12 @@ void WrapLabel::paintEvent(QPaintEvent* event) {
     layout.draw(&painter, QPointF(0, 0));
 }
 
-QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, QRgb colour) {
+QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, Tone tone) {
     auto* label = new QLabel(parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setFont(LookFont(pixels, bold));
-    SetLabelColour(label, QColor(colour));
+    SetLabelColour(label, Shade(tone));
     return label;
 }
 

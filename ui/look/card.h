@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "ui/look/theme.h"
+
 class QTextLayout;
 
 namespace plasmos {
@@ -21,8 +23,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor background_ = Qt::white;
-    QColor edge_ = QColor(0xDD, 0xD8, 0xCB);
+    QColor background_ = Shade(Tone::Card);
+    QColor edge_ = Shade(Tone::CardEdge);
 };
 
 /// A label that fills a rounded rectangle with its palette's window colour.
@@ -74,7 +76,7 @@ private:
 };
 
 /// A plain label of a size, weight and colour.
-QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, QRgb colour);
+QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, Tone tone);
 void SetLabelColour(QLabel* label, const QColor& colour);
 
 }  // namespace plasmos

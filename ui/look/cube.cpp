@@ -14,7 +14,7 @@ void DrawCube(QPainter& painter, int clan, const QRectF& cube) {
     painter.setPen(QPen(shades.Dark, side * 0.085));
     painter.drawRoundedRect(cube.adjusted(side * 0.04, side * 0.04, -side * 0.04, -side * 0.04), side * 0.2,
                             side * 0.2);
-    painter.setPen(QPen(QColor(255, 255, 255, 150), side * 0.11, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(Shade(Tone::Shine), side * 0.11, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(cube.topLeft() + QPointF(side * 0.2, side * 0.19),
                      cube.topRight() + QPointF(-side * 0.2, side * 0.19));
     painter.setPen(Qt::NoPen);

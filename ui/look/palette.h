@@ -10,22 +10,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "ui/look/theme.h"
+
 class QPainter;
 
 namespace plasmos {
 
 struct GameState;
-
-/// The shades in which one clan is drawn.
-struct ClanShades {
-    QColor Light;  ///< the lit side of a blob
-    QColor Body;   ///< cubes, markers, signs on white
-    QColor Dark;   ///< outlines and small signs
-    QColor Ink;    ///< numbers and signs on the body colour
-};
-
-/// Shades of clan 1..6; greys for any other number.
-const ClanShades& ShadesOf(int clan);
 
 /// A 0x00BBGGRR colour.
 QColor FromBgr(std::int32_t colour);
@@ -42,22 +33,13 @@ QString SignCharacter(int clan);
 /// A disc in the clan's colour with its sign.
 void DrawClanBadge(QPainter& painter, int clan, QPointF centre, double radius);
 
-/// Colours of the furniture.
-namespace look {
-inline constexpr QRgb Window = 0xFFF4F2EC;
-inline constexpr QRgb Card = 0xFFFFFFFF;
-inline constexpr QRgb CardEdge = 0xFFDDD8CB;
-inline constexpr QRgb Ink = 0xFF22272B;
-inline constexpr QRgb Faint = 0xFF7A7669;
-inline constexpr QRgb Teal = 0xFF2C6E78;
-inline constexpr QRgb Amber = 0xFFFFAE00;
-inline constexpr QRgb Alarm = 0xFFC8231E;
 /// What a desktop lays around a window, as long as the true frame is not known.
 inline constexpr QSize UsualFrame(12, 40);
-}  // namespace look
 
-/// A font of the program in pixels.
+/// A font of the program for what is read; pixels at the desktop's usual letter size.
 QFont LookFont(double pixels, bool bold = false);
+/// A font for what is drawn and grows with its picture: in the units of the painter.
+QFont DrawnFont(double units, bool bold = false);
 
 /// A light palette, whatever the desktop's.
 QPalette LookPalette();

@@ -28,7 +28,7 @@ OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles
     outer->addWidget(tbsOptions_);
     tbsOptions_->addTab(MakeBoardPage(), QStringLiteral("&Board"));
     tbsOptions_->addTab(MakeNamesPage(), QStringLiteral("&Names"));
-    fault_ = MakeLabel(this, QStringLiteral("faultlab"), 12, true, look::Alarm);
+    fault_ = MakeLabel(this, QStringLiteral("faultlab"), 12, true, Tone::Alarm);
     fault_->setWordWrap(true);
     fault_->hide();
     outer->addWidget(fault_);
@@ -72,12 +72,12 @@ QWidget* OptionsDialog::MakeBoardPage() {
     form->addRow(QStringLiteral("&Columns"), colsUD_);
     form->addRow(QStringLiteral("B&locks"), blockUD_);
     left->addLayout(form);
-    bounds_ = MakeLabel(page, QStringLiteral("boundslab"), 12, false, look::Faint);
+    bounds_ = MakeLabel(page, QStringLiteral("boundslab"), 12, false, Tone::Faint);
     bounds_->setWordWrap(true);
     bounds_->setMinimumSize(190, 68);
     bounds_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     left->addWidget(bounds_);
-    diagnosis_ = MakeLabel(page, QStringLiteral("diaglab"), 11, false, look::Faint);
+    diagnosis_ = MakeLabel(page, QStringLiteral("diaglab"), 11, false, Tone::Faint);
     diagnosis_->setMinimumHeight(80);
     left->addWidget(diagnosis_);
     left->addStretch(1);
@@ -188,7 +188,7 @@ void OptionsDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (const QScreen* where = screen()) {
         const QRect space = where->availableGeometry();
-        resize(size().boundedTo(space.size() - look::UsualFrame));
+        resize(size().boundedTo(space.size() - UsualFrame));
         move(space.center() - QPoint(width() / 2, height() / 2));
     }
 }

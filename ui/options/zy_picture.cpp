@@ -31,8 +31,8 @@ void ZyPicture::Follow() {
 void ZyPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), QColor(0x9AD5D0));
-    painter.setPen(QPen(QColor(255, 255, 255, 170), 1));
+    painter.fillRect(rect(), Shade(Tone::PlanWater));
+    painter.setPen(QPen(Shade(Tone::PlanLine), 1));
     for (int col = 0; col <= model_.Cols(); ++col) {
         painter.drawLine(col * SquarePixels, 0, col * SquarePixels, height());
     }
@@ -43,14 +43,14 @@ void ZyPicture::paintEvent(QPaintEvent*) {
     int index = 0;
     for (const OptionsModel::Marker& marker : model_.Markers()) {
         const QRectF stone(marker.Left * scale + 4, marker.Top * scale + 4, SquarePixels - 8, SquarePixels - 8);
-        painter.setBrush(QColor(0x9A9488));
+        painter.setBrush(Shade(Tone::PlanStone));
         const bool picked = index++ == model_.Picked();
-        painter.setPen(QPen(picked ? QColor(255, 255, 0) : QColor(Qt::black), picked ? 3 : 1.5));
+        painter.setPen(QPen(Shade(picked ? Tone::PlanPicked : Tone::PlanEdge), picked ? 3 : 1.5));
         painter.drawRoundedRect(stone, 9, 9);
     }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(look::Ink), 1.5, Qt::DashLine));
+        painter.setPen(QPen(Shade(Tone::Ink), 1.5, Qt::DashLine));
         painter.drawRect(column_ * SquarePixels + 2, row_ * SquarePixels + 2, SquarePixels - 4, SquarePixels - 4);
     }
 }

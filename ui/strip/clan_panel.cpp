@@ -34,7 +34,7 @@ ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent),
         const auto index = static_cast<std::size_t>(i);
         GeneLists[index] = new GeneChips(this, state, i + 1);
         GeneLists[index]->setObjectName(QStringLiteral("genelist%1").arg(i));
-        bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, look::Ink);
+        bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, Tone::Ink);
         orderlab[index] = new PillLabel(this);
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
         orderlab[index]->setFont(LookFont(15, true));
@@ -163,17 +163,17 @@ void ClanPanel::Arrange() {
 void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double top) const {
     const Columns at = ColumnsOf();
     painter.setFont(LookFont(10));
-    painter.setPen(QColor(look::Faint));
+    painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(at.Score, heads), QStringLiteral("score"));
     painter.drawText(QPointF(at.BP, heads), QStringLiteral("BP"));
     painter.drawText(QPointF(at.Amoebas, heads), QStringLiteral("amoebas"));
     painter.drawText(QPointF(at.Mutation, heads), QStringLiteral("mutation"));
     painter.setFont(LookFont(16, true));
-    painter.setPen(QColor(look::Ink));
+    painter.setPen(Shade(Tone::Ink));
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("%1/%2").arg(state_->AmoebaCount[clan]).arg(state_->MaxAmoeba));
     const int level = state_->Players[clan].MutationLevel;
-    painter.setPen(level > state_->UVLevel ? QColor(look::Alarm) : QColor(look::Ink));
+    painter.setPen(level > state_->UVLevel ? Shade(Tone::Alarm) : Shade(Tone::Ink));
     painter.drawText(QRectF(at.Mutation, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("%1%2").arg(level).arg(level > state_->UVLevel ? QStringLiteral("!") : QString()));
 }
@@ -183,8 +183,8 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
     const ClanShades& shades = ShadesOf(clan);
     const QRectF card = CardRect(place).adjusted(1, 1, -1, -1);
     const bool acting = clan == current_;
-    painter.setPen(acting ? QPen(shades.Body, 2.6) : QPen(QColor(look::CardEdge), 1.2));
-    painter.setBrush(QColor(look::Card));
+    painter.setPen(acting ? QPen(shades.Body, 2.6) : QPen(Shade(Tone::CardEdge), 1.2));
+    painter.setBrush(Shade(Tone::Card));
     painter.drawRoundedRect(card, 8, 8);
     QPainterPath edge;
     edge.addRoundedRect(card, 8, 8);
@@ -197,12 +197,12 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
     const double wide = ColumnsOf().Score - left - 6;
     const QFont nameFont = LookFont(Roomy() ? 14 : 12, true);
     painter.setFont(nameFont);
-    painter.setPen(QColor(look::Ink));
+    painter.setPen(Shade(Tone::Ink));
     const QString name =
         QFontMetricsF(nameFont).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide);
     painter.drawText(QPointF(left, card.top() + (Roomy() ? 22 : 17)), name);
     painter.setFont(LookFont(Roomy() ? 11.5 : 10));
-    painter.setPen(QColor(look::Faint));
+    painter.setPen(Shade(Tone::Faint));
     if (Roomy()) {
         painter.drawText(QPointF(left, card.top() + 39), Kind(state_->Players[clan]));
     } else {
@@ -219,14 +219,14 @@ void ClanPanel::DrawLine(QPainter& painter, int place) const {
     const QRectF line = CardRect(place);
     if (clan == current_) {
         painter.setPen(QPen(ShadesOf(clan).Body, 2));
-        painter.setBrush(QColor(look::Card));
+        painter.setBrush(Shade(Tone::Card));
         painter.drawRoundedRect(line.adjusted(1, 1, -1, -1), 6, 6);
     }
     DrawClanBadge(painter, clan, QPointF(line.left() + 15, line.center().y()), 9);
     const QFont font = LookFont(13, true);
     const double wide = ColumnsOf().Score - 34;
     painter.setFont(font);
-    painter.setPen(QColor(look::Ink));
+    painter.setPen(Shade(Tone::Ink));
     painter.drawText(QRectF(line.left() + 30, line.top(), wide, line.height()), Qt::AlignLeft | Qt::AlignVCenter,
                      QFontMetricsF(font).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide));
     DrawFigures(painter, clan, LineHeads - 3, line.top());

@@ -50,7 +50,7 @@ FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
     label->setObjectName(name);
     label->setFont(LookFont(pixels, true));
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    SetLabelColour(label, QColor(look::Ink));
+    SetLabelColour(label, Shade(Tone::Ink));
     return label;
 }
 
@@ -59,7 +59,7 @@ void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degre
     painter.translate(centre);
     painter.rotate(degrees);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(look::Teal), radius * 0.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Shade(Tone::Accent), radius * 0.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawLine(QPointF(-radius, 0), QPointF(radius * 0.9, 0));
     QPainterPath head(QPointF(radius * 0.15, -radius * 0.68));
     head.lineTo(radius, 0);
@@ -81,11 +81,11 @@ std::vector<QPointF> LevelMarks(const GameState& state, const QRectF& bar) {
 
 void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius) {
     if (drift == 0) {
-        painter.setBrush(QColor(look::Teal));
+        painter.setBrush(Shade(Tone::Accent));
         painter.setPen(Qt::NoPen);
         painter.drawEllipse(centre, radius * 0.42, radius * 0.42);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(look::Teal), radius * 0.18));
+        painter.setPen(QPen(Shade(Tone::Accent), radius * 0.18));
         painter.drawEllipse(centre, radius * 0.85, radius * 0.85);
     } else if (drift == WhereItWants) {
         for (const double degrees : {0.0, 90.0, 180.0, 270.0}) {
@@ -101,7 +101,7 @@ void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius)
 
 EnvironmentView::EnvironmentView(QWidget* parent, const GameState& state)
     : Card(parent),
-      turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, look::Ink)),
+      turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, Tone::Ink)),
       driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
       UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)),
       state_(&state) {
@@ -164,13 +164,13 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
     const double step = std::min(16.5, (DriftLeft() - Pad - 14) / LastTurn);
     for (int turn = 1; turn <= LastTurn; ++turn) {
         const QPointF centre(Pad + 8 + step * (turn - 1), 48);
-        painter.setPen(QPen(QColor(look::Teal), 1.4));
-        painter.setBrush(turn <= state_->Turn ? QColor(look::Teal) : QColor(Qt::white));
+        painter.setPen(QPen(Shade(Tone::Accent), 1.4));
+        painter.setBrush(Shade(turn <= state_->Turn ? Tone::Accent : Tone::Card));
         painter.drawEllipse(centre, step * 0.36, step * 0.36);
     }
     if (state_->NumPlayers > 0) {
         painter.setFont(LookFont(11));
-        painter.setPen(QColor(look::Faint));
+        painter.setPen(Shade(Tone::Faint));
         QStringList words;
         if (phaseTold_ && !state_->Phase.Empty()) {
             words << ToQt(state_->Phase);
@@ -182,7 +182,7 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
 
 void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.setFont(LookFont(11));
-    painter.setPen(QColor(look::Faint));
+    painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
     if (!driftlab->text().isEmpty()) {
@@ -193,9 +193,9 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
 void EnvironmentView::DrawLevels(QPainter& painter) const {
     const QRectF bar(UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11);
     QLinearGradient levels(bar.topLeft(), bar.topRight());
-    levels.setColorAt(0, QColor(0x8FD3FF));
-    levels.setColorAt(0.5, QColor(0xFFD65A));
-    levels.setColorAt(1, QColor(0xFF5A4A));
+    levels.setColorAt(0, Shade(Tone::LevelLow));
+    levels.setColorAt(0.5, Shade(Tone::LevelMiddle));
+    levels.setColorAt(1, Shade(Tone::LevelHigh));
     painter.setPen(Qt::NoPen);
     painter.setBrush(levels);
     painter.drawRoundedRect(bar, 5, 5);
@@ -207,7 +207,7 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     pointer.lineTo(uv - 6, bar.top() - 10);
     pointer.lineTo(uv + 6, bar.top() - 10);
     pointer.closeSubpath();
-    painter.setBrush(QColor(look::Ink));
+    painter.setBrush(Shade(Tone::Ink));
     painter.drawPath(pointer);
     painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
     const std::vector<QPointF> marks = LevelMarks(*state_, bar);

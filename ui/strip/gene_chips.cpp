@@ -111,11 +111,11 @@ void GeneChips::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Chip& chip : Chips()) {
-        painter.setPen(QPen(QColor(0xDDD7C8), 1));
-        painter.setBrush(QColor(0xF3EFE4));
+        painter.setPen(QPen(Shade(Tone::ChipEdge), 1));
+        painter.setBrush(Shade(Tone::Chip));
         painter.drawRoundedRect(chip.Rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
         painter.setFont(ChipFont(chip.Form));
-        painter.setPen(QColor(0x3C3A33));
+        painter.setPen(Shade(Tone::ChipInk));
         painter.drawText(chip.Rect, Qt::AlignCenter, chip.Text);
     }
 }

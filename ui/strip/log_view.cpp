@@ -26,7 +26,7 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
         }
     });
     setStyleSheet(
-        QStringLiteral("QTextEdit{background:white;color:#22272B;border:1px solid #DDD8CB;border-radius:9px}"));
+        Styled(QStringLiteral("QTextEdit{background:@Field;color:@Ink;border:1px solid @CardEdge;border-radius:9px}")));
 }
 
 void LogView::Start(const QString& header) {
@@ -69,7 +69,7 @@ void LogView::Append(const QString& sign, int clan, const QString& text, bool he
         letters.setForeground(ShadesOf(clan).Dark);
         cursor.insertText(sign + QLatin1Char(' '), letters);
     }
-    letters.setForeground(heading ? QColor(look::Teal) : QColor(look::Ink));
+    letters.setForeground(Shade(heading ? Tone::Accent : Tone::Ink));
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
     cursor.insertText(text, letters);
 }

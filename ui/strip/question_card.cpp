@@ -24,11 +24,10 @@ void SetLabelColours(const GameState& state, QLabel* label, int clan) {
 }
 
 QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
-    auto* label = MakeLabel(parent, QString::fromLatin1(name), 10, true, look::Ink);
+    auto* label = MakeLabel(parent, QString::fromLatin1(name), 10, true, Tone::Ink);
     label->setText(QString::fromLatin1(text));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(
-        QStringLiteral("background:rgba(255,255,255,215);color:#2C6E78;border-radius:8px;padding:1px 6px"));
+    label->setStyleSheet(Styled(QStringLiteral("background:@Badge;color:@Accent;border-radius:8px;padding:1px 6px")));
     label->hide();
     return label;
 }
@@ -44,7 +43,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
       state_(state),
-      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, look::Ink)) {
+      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)) {
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
     playerlab->setFont(LookFont(13, true));
@@ -97,7 +96,7 @@ void QuestionCard::Recolour() {
     SetLabelColours(state_, playerlab, playerClan_);
     SetLabelColour(hint_, LabelText(state_, messageClan_));
     const bool coloured = messageClan_ != 0;
-    SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : QColor(look::CardEdge));
+    SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : Shade(Tone::CardEdge));
 }
 
 int QuestionCard::HeightFor(int width, bool tight) const {
@@ -136,7 +135,7 @@ void QuestionCard::paintEvent(QPaintEvent* event) {
     const int sign = playerClan_ > 0 ? playerClan_ : messageClan_;
     if (sign > 0) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(255, 255, 255, 200));
+        painter.setBrush(Shade(Tone::Badge));
         painter.drawEllipse(QPointF(Pad + 11, 18), 11.5, 11.5);
         DrawClanBadge(painter, sign, QPointF(Pad + 11, 18), 9.5);
     }

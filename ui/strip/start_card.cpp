@@ -28,9 +28,9 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
       txtReplay(new QLineEdit(this)),
       state_(state),
-      title_(MakeLabel(this, QStringLiteral("titlelab"), 21, true, look::Ink)),
+      title_(MakeLabel(this, QStringLiteral("titlelab"), 21, true, Tone::Ink)),
       text_(new FitLabel(this, 13, 10)),
-      replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, look::Faint)) {
+      replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, Tone::Faint)) {
     gob->setObjectName(QStringLiteral("gob"));
     gob->setProperty("main", true);
     gob->setDefault(true);

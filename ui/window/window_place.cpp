@@ -29,7 +29,7 @@ WindowPlace::WindowPlace(QWidget& window) : window_(&window) {}
 void WindowPlace::Load() {
     QScreen* screen = QGuiApplication::primaryScreen();
     const QRect space = screen != nullptr ? screen->availableGeometry() : QRect(QPoint(0, 0), UsualSize);
-    const QSize most = space.size() - look::UsualFrame;
+    const QSize most = space.size() - UsualFrame;
     const QSize least = LeastSize.boundedTo(most);
     window_->setMinimumSize(least);
     QSize size = UsualSize.boundedTo(most);
