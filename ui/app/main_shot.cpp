@@ -19,6 +19,7 @@
 #include "model/services.h"
 #include "ui/app/auto_person.h"
 #include "ui/app/scale_factors.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
 
@@ -34,6 +35,8 @@ struct Wish {
     QString Folder;
     float Replay = 4711;
     QSize Size{1320, 860};
+    std::optional<Scheme> Colours;
+    int Points = 0;  ///< of the desktop's letters; 0: as they are
 };
 
 /// A window that takes pictures of itself.
@@ -88,7 +91,11 @@ DemoBoard::DemoBoard(QString folder)
       folder_(std::move(folder)) {}
 
 int Refuse(const char* why) {
-    std::fprintf(stderr, "plasmos-shot: %s; usage: plasmos-shot FILE [--replay N] [--size WxH] | --demo FOLDER\n", why);
+    std::fprintf(stderr,
+                 "plasmos-shot: %s; "
+                 "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] | "
+                 "--demo FOLDER\n",
+                 why);
     return 2;
 }
 
@@ -108,8 +115,10 @@ std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
     Wish wish;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments[i];
-        const bool takesValue = argument == QLatin1String("--replay") || argument == QLatin1String("--size") ||
-                                argument == QLatin1String("--demo");
+        const bool takesValue =
+            QStringList{QStringLiteral("--replay"), QStringLiteral("--size"), QStringLiteral("--demo"),
+                        QStringLiteral("--colours"), QStringLiteral("--points")}
+                .contains(argument);
         if (takesValue && i + 1 == arguments.size()) {
             why = "a value is missing";
             return std::nullopt;
@@ -122,6 +131,18 @@ std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
         } else if (argument == QLatin1String("--size")) {
             if (!ReadSize(arguments[++i], wish.Size)) {
                 why = "the size is no size";
+                return std::nullopt;
+            }
+        } else if (argument == QLatin1String("--colours")) {
+            wish.Colours = SchemeNamed(arguments[++i]);
+            if (!wish.Colours) {
+                why = "the colours are light, dark or contrast";
+                return std::nullopt;
+            }
+        } else if (argument == QLatin1String("--points")) {
+            wish.Points = arguments[++i].toInt();
+            if (wish.Points < 6 || wish.Points > 30) {
+                why = "letters have 6 to 30 points";
                 return std::nullopt;
             }
         } else if (argument == QLatin1String("--demo")) {
@@ -228,6 +249,12 @@ int main(int argc, char** argv) {
     services.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
     services.Settings = &settings;
+    WantScheme(wish->Colours);
+    if (wish->Points > 0) {
+        QFont letters = QApplication::font();
+        letters.setPointSize(wish->Points);
+        QApplication::setFont(letters);
+    }
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
     return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);

@@ -38,6 +38,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void Redress() override;
 
 private:
     void Recolour();
