@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Colours and letters: what is read and what is told apart in every scheme, and that the window follows the desktop.
+// Colours: what is read and what is told apart in every scheme.
 
 #include <QImage>
-#include <QLabel>
-#include <QMenuBar>
 #include <QPainter>
-#include <QPushButton>
 #include <array>
 #include <cmath>
 
 #include "tests/ui/support/scene.h"
 #include "ui/look/dress.h"
-#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 
@@ -114,24 +110,12 @@ double Difference(const EyeRow& eye, const QImage& one, const QImage& other) {
     return static_cast<double>(different) / (one.width() * one.height());
 }
 
-QPalette Desktop(QColor ground, QColor letters) {
-    QPalette palette;
-    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
-        palette.setColor(role, ground);
-    }
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, letters);
-    }
-    return palette;
-}
-
 }  // namespace
 
 class ThemeTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
     void cleanup();
     void textsAreRead_data();
     void textsAreRead();
@@ -141,30 +125,14 @@ private slots:
     void clansStandOutFromTheWater();
     void clansAreToldApart_data() { schemes(); }
     void clansAreToldApart();
-    void desktops_data();
-    void desktops();
-    void followsTheDesktopWhileItRuns();
-    void whatThePersonWantsGoesFirst();
-    void lettersFollowTheDesktop();
-    void aLargeWindowHasLargerLetters();
 
 private:
     static void schemes();
     static void pairs(const PairRow* first, const PairRow* last);
-
-    QPalette palette_;
-    QFont font_;
 };
-
-void ThemeTest::init() {
-    palette_ = QApplication::palette();
-    font_ = QApplication::font();
-}
 
 void ThemeTest::cleanup() {
     WantScheme(std::nullopt);
-    QApplication::setPalette(palette_);
-    QApplication::setFont(font_);
 }
 
 void ThemeTest::schemes() {
@@ -240,73 +208,6 @@ void ThemeTest::clansAreToldApart() {
             }
         }
     }
-}
-
-void ThemeTest::desktops_data() {
-    QTest::addColumn<QColor>("ground");
-    QTest::addColumn<QColor>("letters");
-    QTest::addColumn<QString>("scheme");
-    QTest::newRow("light grey") << QColor(239, 239, 239) << QColor(0, 0, 0) << QStringLiteral("light");
-    QTest::newRow("dark grey") << QColor(50, 50, 50) << QColor(255, 255, 255) << QStringLiteral("dark");
-    QTest::newRow("white on black") << QColor(0, 0, 0) << QColor(255, 255, 255) << QStringLiteral("contrast");
-    QTest::newRow("black on white") << QColor(255, 255, 255) << QColor(0, 0, 0) << QStringLiteral("contrast");
-}
-
-void ThemeTest::desktops() {
-    QFETCH(QColor, ground);
-    QFETCH(QColor, letters);
-    QFETCH(QString, scheme);
-    QCOMPARE(SchemeName(SchemeOf(Desktop(ground, letters))), scheme);
-}
-
-void ThemeTest::followsTheDesktopWhileItRuns() {
-    Scene scene;
-    const auto ground = [&] { return scene.Board().grab().toImage().pixelColor(4, scene.Board().height() - 4); };
-    QCOMPARE(ground(), ShadeIn(Scheme::Light, Tone::Window));
-    QApplication::setPalette(Desktop(QColor(50, 50, 50), Qt::white));
-    QCOMPARE(CurrentScheme(), Scheme::Dark);
-    QCOMPARE(ground(), ShadeIn(Scheme::Dark, Tone::Window));
-    const auto* title = scene.Board().findChild<QLabel*>(QStringLiteral("titlelab"));
-    QCOMPARE(title->palette().color(QPalette::WindowText), ShadeIn(Scheme::Dark, Tone::Ink));
-    QApplication::setPalette(Desktop(QColor(240, 240, 240), QColor(0, 0, 0)));
-    QCOMPARE(ground(), ShadeIn(Scheme::Light, Tone::Window));
-}
-
-void ThemeTest::whatThePersonWantsGoesFirst() {
-    Scene scene;
-    WantScheme(Scheme::Contrast);
-    QCOMPARE(CurrentScheme(), Scheme::Contrast);
-    QApplication::setPalette(Desktop(QColor(50, 50, 50), Qt::white));
-    QCOMPARE(CurrentScheme(), Scheme::Contrast);
-    WantScheme(std::nullopt);
-    QCOMPARE(CurrentScheme(), Scheme::Dark);
-}
-
-void ThemeTest::lettersFollowTheDesktop() {
-    Scene scene;
-    scene.Board().resize(1320, 860);
-    const QWidget* button = scene.Find(QStringLiteral("gob"));
-    const int usual = button->fontMetrics().height();
-    const int menu = scene.Board().menuBar()->fontMetrics().height();
-    QFont large = QApplication::font();
-    large.setPointSize(20);
-    QApplication::setFont(large);
-    QVERIFY(button->fontMetrics().height() > usual * 3 / 2);
-    QVERIFY(scene.Board().menuBar()->fontMetrics().height() > menu * 3 / 2);
-    QVERIFY(button->height() > button->fontMetrics().height());
-    QApplication::setFont(font_);
-    QCOMPARE(button->fontMetrics().height(), usual);
-}
-
-void ThemeTest::aLargeWindowHasLargerLetters() {
-    Scene scene;
-    scene.Board().resize(1320, 860);
-    QCOMPARE(Letters(), 1.0);
-    scene.Board().setMinimumSize(0, 0);
-    scene.Board().resize(2560, 1440);
-    QVERIFY(Letters() > 1.4);
-    scene.Board().resize(940, 640);
-    QCOMPARE(Letters(), 1.0);
 }
 
 }  // namespace plasmos::testing
