@@ -39,9 +39,9 @@ int main(int argc, char** argv) {
     }
     UBoard board;
     QObject::connect(
-        &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.close(); },
+        &application, &QGuiApplication::commitDataRequest, &board, [&board](QSessionManager&) { board.CloseAtOnce(); },
         Qt::DirectConnection);
-    const EndSignals endSignals([&board] { board.close(); });
+    const EndSignals endSignals([&board] { board.CloseAtOnce(); });
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
     notice.setTextFormat(Qt::PlainText);

@@ -65,18 +65,10 @@ void FitLabel::SetText(const QString& text) {
     Fit();
 }
 
-int FitLabel::HeightAt(int width) const {
-    return HeightWith(largest_, width);
-}
-
-int FitLabel::LeastHeightAt(int width) const {
-    return HeightWith(smallest_, width);
-}
-
-int FitLabel::HeightWith(int pixels, int width) const {
+int FitLabel::HeightWith(int pixels, const QString& text, int width) const {
     const QFontMetrics metrics(LookFont(pixels, font().bold()));
     const int inner = std::max(width - 2 * margin(), 10);
-    return metrics.boundingRect(QRect(0, 0, inner, 10000), Qt::TextWordWrap, text()).height() + 2 * margin() + 2;
+    return metrics.boundingRect(QRect(0, 0, inner, 10000), Qt::TextWordWrap, text).height() + 2 * margin() + 2;
 }
 
 void FitLabel::resizeEvent(QResizeEvent* event) {

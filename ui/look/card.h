@@ -44,17 +44,18 @@ public:
     FitLabel(QWidget* parent, int largest, int smallest);
 
     void SetText(const QString& text);
-    /// Height the text takes with the largest letter at a width.
-    int HeightAt(int width) const;
+    /// Height the text takes with the largest letter at a width, or another text would take.
+    int HeightAt(int width) const { return HeightOf(text(), width); }
+    int HeightOf(const QString& text, int width) const { return HeightWith(largest_, text, width); }
     /// The same with the smallest letter.
-    int LeastHeightAt(int width) const;
+    int LeastHeightAt(int width) const { return HeightWith(smallest_, text(), width); }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    int HeightWith(int pixels, int width) const;
+    int HeightWith(int pixels, const QString& text, int width) const;
     void Fit();
 
     int largest_;

@@ -72,7 +72,7 @@ bool SideStrip::ShowsEnvironment() const {
     const int environment = Environment->sizeHint().height() + Gap;
     if (!playing_) {
         // After a game the final scores are worth more than the last light.
-        const int scores = Start->HeightFor(width()) + Clans->ShortHeight() + Gap;
+        const int scores = Start->HeightFor(width(), height()) + Clans->ShortHeight() + Gap;
         return state_->NumPlayers > 0 && height() >= environment + scores;
     }
     if (panels_.empty()) {
@@ -100,7 +100,7 @@ int SideStrip::ArrangeHead() {
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {
-        const int start = Start->HeightFor(width());
+        const int start = Start->HeightFor(width(), height() - top - Gap - Clans->ShortHeight());
         Start->setGeometry(0, top, width(), start);
         top += start + Gap;
     }

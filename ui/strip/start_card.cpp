@@ -42,30 +42,47 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     txtReplay->setPlaceholderText(QStringLiteral("by the clock"));
     txtReplay->setToolTip(QStringLiteral("The same replay number deals the same game"));
     replayLabel_->setText(QStringLiteral("Replay number"));
-    ShowResult(QString(), 0);
+    ShowWelcome();
 }
 
-void StartCard::ShowResult(const QString& line, int clan) {
+void StartCard::ShowWelcome() {
+    Show(QStringLiteral("Welcome to the Puddle"), QString::fromLatin1(Welcome), 0);
+}
+
+void StartCard::ShowResult(const QString& line, const QString& story, const QString& places, int clan) {
+    story_ = story;
+    places_ = places;
+    Show(line, story, clan);
+}
+
+void StartCard::Show(const QString& title, const QString& text, int clan) {
     winner_ = clan;
-    title_->setText(line.isEmpty() ? QStringLiteral("Welcome to the Puddle") : line);
-    text_->SetText(line.isEmpty() ? QString::fromLatin1(Welcome)
-                                  : QStringLiteral("Another game? An empty number deals a new one."));
+    title_->setText(title);
+    text_->SetText(text);
+    Redress();
     update();
 }
 
-bool StartCard::IsShort(int width) const {
-    return winner_ > 0 && width < Px(Roomy);
+int StartCard::ResultHeight(int width, const QString& text) const {
+    return Px(BelowTitle + 10 + Foot) + text_->HeightOf(text, width - 2 * Px(Pad));
 }
 
-int StartCard::HeightFor(int width) const {
-    return IsShort(width) ? Px(BelowTitle + 10 + Foot) + text_->HeightAt(width - 2 * Px(Pad)) : Px(WelcomeHeight);
+int StartCard::HeightFor(int width, int room) const {
+    if (winner_ == 0) {
+        return Px(WelcomeHeight);
+    }
+    const int whole = ResultHeight(width, places_ + story_);
+    return whole <= room ? whole : std::min(ResultHeight(width, story_), room);
 }
 
 void StartCard::Redress() {
     const double wide = UsualWidth(*this);
     const double high = UsualHeight(*this);
     const double inner = wide - 2 * Pad;
-    const int below = IsShort(width()) ? BelowTitle : BelowBlobs;
+    if (winner_ > 0) {
+        text_->SetText(height() >= ResultHeight(width(), places_ + story_) ? places_ + story_ : story_);
+    }
+    const int below = winner_ > 0 ? BelowTitle : BelowBlobs;
     title_->setGeometry(InPixels({Pad, 12, inner, 30}));
     text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot}));
     const double top = high - 50;
@@ -83,16 +100,14 @@ void StartCard::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PaintUsual(painter);
     const double wide = UsualWidth(*this);
-    if (IsShort(width())) {
+    if (winner_ > 0) {
         DrawBlob(painter, {winner_, winner_, 0, true, false, 1}, QPointF(wide - Pad - 16, 28), 15);
         return;
     }
     const double pitch = std::min(52.0, (wide - 2.0 * Pad) / MaxClans);
-    const int clans = winner_ > 0 ? state_.NumPlayers : MaxClans;
-    for (int clan = 1; clan <= clans; ++clan) {
+    for (int clan = 1; clan <= MaxClans; ++clan) {
         const QPointF centre(Pad + pitch * (clan - 0.5), 66);
-        BlobLook blob{clan, clan, 0, clan == winner_, winner_ != 0 && clan != winner_, 1};
-        DrawBlob(painter, blob, centre, 21);
+        DrawBlob(painter, {clan, clan, 0, false, false, 1}, centre, 21);
     }
 }
 

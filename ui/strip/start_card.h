@@ -19,10 +19,11 @@ public:
     QPushButton* watchb;
     QLineEdit* txtReplay;
 
-    /// A line about the game that is over; empty before the first.
-    void ShowResult(const QString& line, int clan);
-    /// A result is told in fewer lines where there is little room, so that the final scores stay in sight.
-    int HeightFor(int width) const;
+    /// Greets the person who has not played yet.
+    void ShowWelcome();
+    /// A line about the game that is over, how it came out, everybody's places, and the clan that has won.
+    void ShowResult(const QString& line, const QString& story, const QString& places, int clan);
+    int HeightFor(int width, int room) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -30,7 +31,8 @@ protected:
     void Redress() override;
 
 private:
-    bool IsShort(int width) const;
+    void Show(const QString& title, const QString& text, int clan);
+    int ResultHeight(int width, const QString& text) const;
 
     static constexpr int Roomy = 420;
 
@@ -38,6 +40,8 @@ private:
     QLabel* title_;
     FitLabel* text_;
     QLabel* replayLabel_;
+    QString story_;
+    QString places_;
     int winner_ = 0;
 };
 

@@ -45,6 +45,8 @@ void BoardMenus::BuildFileMenu() {
     connect(watchmen_, &QAction::triggered, this, [this] { deeds_.Watch(); });
     leavemen_ = AddItem(file, "leavemen", QStringLiteral("&Leave this Game"), false);
     connect(leavemen_, &QAction::triggered, this, [this] { deeds_.Leave(); });
+    QAction* clear = AddItem(file, "clearmen", QStringLiteral("&Clear my Results"), false);
+    connect(clear, &QAction::triggered, this, [this] { deeds_.ClearResults(); });
     file->addSeparator();
     QAction* quit = AddItem(file, "men_quit", QStringLiteral("&Quit"), false);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));

@@ -23,6 +23,7 @@ public:
         std::function<void()> Leave;
         std::function<void()> Wake;  ///< there is something for the rules to take over
         std::function<void()> Preferences;
+        std::function<void()> ClearResults;
         std::function<void(const QString& text)> Tell;  ///< a box for the person
     };
 

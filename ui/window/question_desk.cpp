@@ -43,8 +43,33 @@ QuestionDesk::QuestionDesk(QWidget& window, ScoreTrack& track, SideStrip& strip)
 
 QuestionDesk::~QuestionDesk() = default;
 
+int QuestionDesk::Duration(int full) const {
+    return WantsFastMode() ? 0 : static_cast<int>(full * speed_ * pace_ / 100);
+}
+
+// No animation takes longer than it is meant to.
 int QuestionDesk::Milliseconds(int full) const {
-    return WantsFastMode() ? 0 : static_cast<int>(full * speed_);
+    return motion_ ? std::min(full, Duration(full)) : 0;
+}
+
+void QuestionDesk::Hold(bool on) {
+    held_ = on;
+    step_ = false;
+    wait_.Interrupt();
+}
+
+void QuestionDesk::Step() {
+    step_ = true;
+    wait_.Interrupt();
+}
+
+void QuestionDesk::WaitWhileHeld() {
+    strip_->Question->ShowHint(QStringLiteral("Paused. F8 goes on, F9 takes a step."));
+    while (held_ && !std::exchange(step_, false) && !services.Switches.Leaves()) {
+        wait_.ForAnswer(LongestWait);
+        ThrowIfOver();
+    }
+    strip_->Question->ShowHint(QString());
 }
 
 void QuestionDesk::ThrowIfOver() {
@@ -62,7 +87,10 @@ void QuestionDesk::Wait() {
 void QuestionDesk::Pause(int units) {
     ThrowIfOver();
     if (!services.Switches.Leaves()) {
-        wait_.ForTime(Milliseconds(units * PauseUnit));
+        wait_.ForTime(Duration(units * PauseUnit));
+    }
+    if (held_) {
+        WaitWhileHeld();
     }
     ThrowIfOver();
 }

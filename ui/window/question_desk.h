@@ -38,7 +38,7 @@ public:
     void Wait();
     /// Lets the time go by, in units of 75 ms, unless the person wants to leave; throws as Wait does.
     void Pause(int units);
-    /// How long something that is meant to take so many milliseconds takes; in fast mode no time.
+    /// How long an animation takes that is meant to take so many milliseconds; in fast mode no time.
     int Milliseconds(int full) const;
 
     // ---- what the window does ----
@@ -51,6 +51,14 @@ public:
     bool Ended() const { return wait_.Ended(); }
     /// Pauses and animations: 1 as they are meant, 0 none.
     void SetSpeed(double factor) { speed_ = factor; }
+    /// The same as the person likes it: hundredths of the usual time.
+    void SetPace(int hundredths) { pace_ = hundredths; }
+    /// Nothing glides or fades, as on a desktop without motion.
+    void SetMotion(bool on) { motion_ = on; }
+    /// What goes on by itself stops at the next pause, until it is let go or taken a step further. Questions wait for
+    /// their answers as ever.
+    void Hold(bool on);
+    void Step();
 
 private:
     struct Asked {
@@ -64,6 +72,8 @@ private:
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);
     void ThrowIfOver();
+    int Duration(int full) const;
+    void WaitWhileHeld();
 
     ScoreTrack* track_;
     SideStrip* strip_;
@@ -71,6 +81,10 @@ private:
     std::vector<Asked> asked_;
     unsigned announced_ = 0;
     double speed_ = 1;
+    int pace_ = 100;
+    bool motion_ = true;
+    bool held_ = false;
+    bool step_ = false;
 };
 
 }  // namespace plasmos

@@ -26,9 +26,13 @@
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
 #include "ui/window/board_menus.h"
+#include "ui/window/leave_guard.h"
+#include "ui/window/legend.h"
 #include "ui/window/lent_labels.h"
 #include "ui/window/question_desk.h"
+#include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
+#include "ui/window/view_menus.h"
 #include "ui/window/window_place.h"
 
 namespace plasmos {
@@ -55,7 +59,8 @@ UBoard::UBoard(const PresentationMaker& make) {
     menus_ = std::make_unique<BoardMenus>(
         *this, *track_->Puddle(),
         BoardMenus::Deeds{[this] { watch_Click(); }, [this] { LeaveGame(); }, [this] { desk_->Wake(); },
-                          [this] { pref_men_Click(); }, [this](const QString& text) { Tell(text); }});
+                          [this] { pref_men_Click(); }, [this] { results_->Clear(), strip_->Arrange(); },
+                          [this](const QString& text) { Tell(text); }});
     desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
     desk_->OnQuestion = [this](Question& question) {
         if (OnQuestion) {
@@ -65,6 +70,9 @@ UBoard::UBoard(const PresentationMaker& make) {
     lent_ = new LentLabels(this, *strip_->Environment);
     tips_ = new ToolTips(track_->Puddle());
     place_ = std::make_unique<WindowPlace>(*this);
+    guard_ = std::make_unique<LeaveGuard>(*this);
+    BuildView();
+    results_ = std::make_unique<ResultDesk>(*strip_->Start, [this](const QString& text) { Tell(text); });
     BuildStart();
     presentation_ = make({*this, *track_, *strip_, *menus_, *desk_});
     services.Window = presentation_.get();
@@ -77,6 +85,15 @@ UBoard::~UBoard() {
     if (services.Window == presentation_.get()) {
         services.Window = nullptr;
     }
+}
+
+void UBoard::BuildView() {
+    view_ = std::make_unique<ViewMenus>(
+        *this, ViewMenus::Deeds{[this](Pace pace) { desk_->SetPace(static_cast<int>(pace)); },
+                                [this](bool on) { desk_->Hold(on); }, [this] { desk_->Step(); },
+                                [this](bool on) { desk_->SetMotion(on); }, [this] { ShowSigns(*this); },
+                                [this] { ShowKeys(*this); }, [this](const QString& text) { Tell(text); }});
+    view_->Load();
 }
 
 void UBoard::BuildStart() {
@@ -125,6 +142,7 @@ void UBoard::Play(const std::function<void()>& play) {
 }
 
 void UBoard::SetPlaying(bool playing) {
+    const bool played = playing_;
     playing_ = playing;
     SettleSwitches();
     if (playing) {
@@ -138,13 +156,12 @@ void UBoard::SetPlaying(bool playing) {
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        const bool over = game.Turn > LastTurn || game.GameOver;
-        const int winner = over && game.NumPlayers > 0 ? ClanAtPlace(1) : 0;
-        strip_->Start->ShowResult(
-            winner > 0 ? QStringLiteral("%1 wins!").arg(ToQt(game.Players[winner].Name.View())) : QString(), winner);
+        results_->Show(played);
         strip_->Start->gob->setFocus();
     }
     strip_->SetPlaying(playing);
+    view_->SetPlaying(playing);
+    guard_->Drop();
     EnableStart();
 }
 
@@ -161,7 +178,7 @@ void UBoard::ClearBoard() {
     track_->BoardChanged();
     strip_->Environment->Clear();
     strip_->Clans->ShowAll();
-    strip_->Start->ShowResult(QString(), 0);
+    strip_->Start->ShowWelcome();
     strip_->Arrange();
 }
 
@@ -207,8 +224,11 @@ void UBoard::OptionsClosed(bool saveTried) {
 }
 
 void UBoard::LeaveGame() {
-    if (playing_) {
+    if (playing_ && !LeaveGuard::PersonsPlay()) {
         desk_->LeaveGame();
+    } else if (playing_) {
+        guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
+                    [this] { desk_->LeaveGame(); });
     }
 }
 
@@ -236,7 +256,18 @@ void UBoard::showEvent(QShowEvent* event) {
     place_->Watch();
 }
 
+void UBoard::CloseAtOnce() {
+    sure_ = true;
+    close();
+}
+
 void UBoard::closeEvent(QCloseEvent* event) {
+    if (!sure_ && playing_ && !desk_->Ended() && LeaveGuard::PersonsPlay()) {
+        event->ignore();
+        guard_->Ask(QStringLiteral("Close the window in the middle of this game? It cannot be taken up again."),
+                    QStringLiteral("&Close"), [this] { CloseAtOnce(); });
+        return;
+    }
     place_->Save();
     EndProgram();
     event->accept();

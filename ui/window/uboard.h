@@ -10,9 +10,12 @@
 
 namespace plasmos {
 
+class LeaveGuard;
 class LentLabels;
 class OptionsDialog;
+class ResultDesk;
 class ToolTips;
+class ViewMenus;
 class WindowPlace;
 
 /// The board window. The rules run inside its start buttons and talk to its presentation; the window lives on
@@ -49,6 +52,8 @@ public:
     std::function<void(Question&)> OnQuestion;
     /// The question that may be answered now; none: nullptr.
     Question* TopQuestion() const;
+    /// Closes the window without asking, as when the desktop's session ends.
+    void CloseAtOnce();
     /// The game and its program are to end: every wait of the rules ends with ProgramEnd.
     void EndProgram();
 
@@ -62,6 +67,7 @@ private:
     void SetPlaying(bool playing);
     void EnableStart();
     void ClearBoard();
+    void BuildView();
     void LeaveGame();
     void Tell(const QString& text);
     void pref_men_Click();
@@ -76,8 +82,12 @@ private:
     std::unique_ptr<WindowPlace> place_;
     std::unique_ptr<BoardMenus> menus_;
     std::unique_ptr<QuestionDesk> desk_;
+    std::unique_ptr<ResultDesk> results_;
+    std::unique_ptr<ViewMenus> view_;
+    std::unique_ptr<LeaveGuard> guard_;
     std::unique_ptr<BoardPresentation> presentation_;
     bool playing_ = false;
+    bool sure_ = false;  ///< the window closes without asking
 };
 
 }  // namespace plasmos

@@ -55,7 +55,7 @@ int ClosingTest::Play(int clans, bool two, int at, Way way) {
     int count = 0;
     {
         ClosingBoard board;
-        const EndSignals endSignals([&board] { board.close(); });
+        const EndSignals endSignals([&board] { board.CloseAtOnce(); });
         AutoPerson person(board);
         int asked = 0;
         board.OnQuestion = [&](Question& question) {
@@ -260,7 +260,7 @@ int PlayOn(int argc, char** argv) {
             person.Answer(question);
         }
     };
-    const EndSignals endSignals([&board] { board.close(); });
+    const EndSignals endSignals([&board] { board.CloseAtOnce(); });
     board.show();
     QTimer again;
     QObject::connect(&again, &QTimer::timeout, &board,

@@ -96,7 +96,7 @@ void SurroundingsTest::aPipeForTheMovesInMidGame() {
     bool laid = false;
     scene.AnswerBy([&](Question& question) {
         if (laid && !scene.Log().filter(QStringLiteral(" stays in ")).isEmpty()) {
-            scene.Menu(QStringLiteral("leavemen"));
+            scene.LeaveGame();
             return;
         }
         if (!laid && game.Turn == 1) {

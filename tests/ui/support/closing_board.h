@@ -5,9 +5,11 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMetaObject>
+#include <QPushButton>
 #include <csignal>
 #include <functional>
 
+#include "ui/app/hand.h"
 #include "ui/window/board_presentation.h"
 #include "ui/window/uboard.h"
 
@@ -61,11 +63,17 @@ private:
     void BringAbout() {
         Since.start();
         switch (How) {
-            case Way::Close: close(); return;
-            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(); return;
+            case Way::Close: close(), BeSure(); return;
+            case Way::Quit: findChild<QAction*>(QStringLiteral("men_quit"))->trigger(), BeSure(); return;
             case Way::End: EndProgram(); return;
             case Way::Signal: std::raise(SIGTERM); return;
-            case Way::Application: QCoreApplication::quit(); return;
+            case Way::Application: QCoreApplication::quit(), BeSure(); return;
+        }
+    }
+    /// In the middle of a person's game the window asks first.
+    void BeSure() {
+        if (auto* leave = findChild<QPushButton*>(QStringLiteral("leaveb")); leave != nullptr) {
+            WindowHand().Press(*leave);
         }
     }
 };

@@ -121,6 +121,8 @@ public:
     void ClickSquare(int square, Qt::MouseButton button = Qt::LeftButton);
     /// Chooses an item of the menus: its menu is pulled down and the item pressed, greyed or not.
     void Menu(const QString& name);
+    /// Leaves the game by its menu, and is sure of it.
+    void LeaveGame();
     QAction* Item(const QString& name);
     /// Lines of the game log, without signs and headings' layout.
     QStringList Log();

@@ -11,6 +11,7 @@
 #include "tests/ui/support/scene.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/piece_layout.h"
+#include "ui/window/leave_guard.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
@@ -122,6 +123,13 @@ void Scene::Paste(const QString& name, const QString& text) {
 
 void Scene::ClickSquare(int square, Qt::MouseButton button) {
     Press(&Puddle(), button, Puddle().PointAt(SquareMiddle(game, square)).toPoint());
+}
+
+void Scene::LeaveGame() {
+    Menu(QStringLiteral("leavemen"));
+    if (LeaveGuard::PersonsPlay()) {
+        Click(QStringLiteral("leaveb"));
+    }
 }
 
 QAction* Scene::Item(const QString& name) {

@@ -89,7 +89,7 @@ void BoardMenusTest::victoryAndTwoPlayers() {
     game.RequestedClans = 3;
     scene.Then(QuestionKind::Square, [&] {
         QVERIFY(!game.Players[2].IsComputer && !game.Players[3].IsComputer && game.Players[1].IsComputer);
-        scene.Menu(QStringLiteral("leavemen"));
+        scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
 }
@@ -222,7 +222,7 @@ void BoardMenusTest::aGameThatBreaksOffEndsTheFlags() {
             } else if (fault) {
                 throw RuntimeError(9, "Subscript out of range");
             } else {
-                scene.Menu(QStringLiteral("leavemen"));
+                scene.LeaveGame();
             }
         });
         scene.Click(QStringLiteral("gob"));

@@ -121,7 +121,7 @@ void BoardWindowTest::whileAGameRuns() {
             QVERIFY2(scene.Item(QString::fromLatin1(name))->isEnabled(), name);
         }
         QVERIFY(!scene.Sees(QStringLiteral("gob")) && !scene.Sees(QStringLiteral("txtReplay")));
-        scene.Menu(QStringLiteral("leavemen"));
+        scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QVERIFY(scene.Sees(QStringLiteral("gob")));

@@ -109,7 +109,7 @@ void GameStartTest::isLeft() {
     scene.AnswerBy([&](Question& question) {
         if (scene.Asked() == after) {
             QVERIFY(scene.Item(QStringLiteral("leavemen"))->isEnabled());
-            scene.Menu(QStringLiteral("leavemen"));
+            scene.LeaveGame();
         } else {
             person.Answer(question);
         }

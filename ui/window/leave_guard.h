@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMessageBox>
+#include <QPointer>
+#include <functional>
+
+namespace plasmos {
+
+/// Asks once before a person's game is lost by a slip: whether it is to be left, or the window closed in its middle.
+class LeaveGuard {
+public:
+    explicit LeaveGuard(QWidget& window) : window_(&window) {}
+
+    /// Whether a person plays in the current game.
+    static bool PersonsPlay();
+    /// Does what is wanted once the person is sure. The game goes on waiting meanwhile.
+    void Ask(const QString& question, const QString& yes, std::function<void()> deed);
+    /// The game is over: nothing is asked any more.
+    void Drop();
+
+private:
+    QWidget* window_;
+    QPointer<QMessageBox> box_;
+};
+
+}  // namespace plasmos

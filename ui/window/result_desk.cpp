@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/result_desk.h"
+
+#include <utility>
+
+#include "files/settings_store.h"
+#include "model/game_state.h"
+#include "model/services.h"
+#include "ui/look/palette.h"
+#include "ui/strip/start_card.h"
+#include "ui/window/game_results.h"
+
+namespace plasmos {
+
+ResultDesk::ResultDesk(StartCard& card, std::function<void(const QString& text)> tell)
+    : card_(&card), tell_(std::move(tell)) {}
+
+void ResultDesk::Show(bool played) {
+    const bool over = game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
+    if (!over) {
+        card_->ShowWelcome();
+        return;
+    }
+    std::string story = TellResult(game);
+    if (services.Settings != nullptr) {
+        if (played && !NoteGame(*services.Settings, game)) {
+            TellUnsaved();
+        }
+        const PersonRecord record = LoadRecord(*services.Settings, game.NumPlayers);
+        if (record.Games > 0) {
+            story += "\n" + TellRecord(record, game.NumPlayers);
+        }
+    }
+    const int winner = ClanAtPlace(1);
+    card_->ShowResult(QStringLiteral("%1 wins!").arg(ToQt(game.Players[winner].Name.View())), ToQt(story),
+                      ToQt(TellPlaces(game) + "\n"), winner);
+}
+
+void ResultDesk::Clear() {
+    if (services.Settings != nullptr && !ClearRecords(*services.Settings)) {
+        TellUnsaved();
+    }
+    Show(false);
+}
+
+void ResultDesk::TellUnsaved() const {
+    tell_(QStringLiteral("The results could not be saved in\n%1").arg(ToQt(services.Settings->Where())));
+}
+
+}  // namespace plasmos

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace plasmos {
+
+class StartCard;
+
+/// How the last game came out, on the card that stays until the next one, and the person's record so far.
+class ResultDesk {
+public:
+    /// `tell` is a box for the person.
+    ResultDesk(StartCard& card, std::function<void(const QString& text)> tell);
+
+    /// Shows the current game's result, or the welcome where it has none. A game that has just been played to its
+    /// end is taken into the record.
+    void Show(bool played);
+    /// Forgets the record. What the card shows follows.
+    void Clear();
+
+private:
+    void TellUnsaved() const;
+
+    StartCard* card_;
+    std::function<void(const QString& text)> tell_;
+};
+
+}  // namespace plasmos
