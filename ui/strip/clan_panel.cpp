@@ -9,6 +9,7 @@
 #include "ui/look/card.h"
 #include "ui/look/palette.h"
 #include "ui/strip/gene_chips.h"
+#include "ui/strip/rising_words.h"
 
 namespace plasmos {
 
@@ -29,7 +30,9 @@ QString Kind(const Clan& clan) {
 
 }  // namespace
 
-ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent), state_(&state) {
+ClanPanel::ClanPanel(QWidget* parent, const GameState& state)
+    : QWidget(parent), state_(&state), rising_(new RisingWords(this)) {
+    setAccessibleName(QStringLiteral("The clans, in the order of play"));
     for (int i = 0; i < MaxClans; ++i) {
         const auto index = static_cast<std::size_t>(i);
         GeneLists[index] = new GeneChips(this, state, i + 1);
@@ -39,13 +42,13 @@ ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent),
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
         orderlab[index]->setFont(LookFont(15, true));
         bplab[index]->setToolTip(QStringLiteral("Bio-points"));
-        orderlab[index]->setToolTip(QStringLiteral("Score"));
     }
     ShowAll();
 }
 
 void ClanPanel::ShowState(const GameState& state) {
     state_ = &state;
+    rising_->Stop();
     for (GeneChips* chips : GeneLists) {
         chips->ShowState(state);
     }
@@ -102,6 +105,8 @@ void ClanPanel::ShowOrder() {
         const int clan = ClanAtPlace(*state_, place);
         QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
         label->setText(QString::number(state_->Players[clan].Score));
+        label->setToolTip(
+            QStringLiteral("Score %1, place %2 in the order of play").arg(state_->Players[clan].Score).arg(place));
         QPalette palette = label->palette();
         palette.setColor(QPalette::Window, LabelBackground(*state_, clan));
         palette.setColor(QPalette::WindowText, LabelText(*state_, clan));

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/strip/environment_view.h"
 
+#include <QHelpEvent>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -11,6 +13,7 @@
 #include "model/game_state.h"
 #include "rules/environment.h"
 #include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
 
 namespace plasmos {
 
@@ -104,7 +107,9 @@ EnvironmentView::EnvironmentView(QWidget* parent, const GameState& state)
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, Tone::Ink)),
       driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
       UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)),
-      state_(&state) {
+      state_(&state),
+      clock_(*this) {
+    Clear();
     driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
     UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));
     driftlab->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -126,6 +131,7 @@ void EnvironmentView::ShowState(const GameState& state) {
 
 void EnvironmentView::ShowTurn() {
     turnlab->setText(ToQt(Concat("Turn ", std::min(state_->Turn, LastTurn))));
+    turnlab->setAccessibleName(QStringLiteral("%1 of %2").arg(turnlab->text()).arg(LastTurn));
     update();
 }
 
@@ -139,16 +145,29 @@ void EnvironmentView::Clear() {
     phaseTold_ = false;
     driftlab->clear();
     UVlab->clear();
-    update();
+    turnlab->setAccessibleName(QStringLiteral("No turn yet"));
+    driftlab->setAccessibleName(QStringLiteral("No drift yet"));
+    UVlab->setAccessibleName(QStringLiteral("No UV level yet"));
+    shownUV_ = beforeUV_ = 0;
+    clock_.Stop();
 }
 
 void EnvironmentView::ShowDrift() {
     driftlab->SetText(ToQt(DirectionText(*state_, state_->Drift)));
+    driftlab->setAccessibleName(QStringLiteral("Drift ") + driftlab->text());
     update();
 }
 
 void EnvironmentView::ShowUV() {
     UVlab->SetText(QString::number(state_->UVLevel));
+    UVlab->setAccessibleName(QStringLiteral("UV level ") + UVlab->text());
+    update();
+}
+
+void EnvironmentView::TurnCard(int milliseconds) {
+    beforeUV_ = shownUV_ > 0 ? shownUV_ : state_->UVLevel;
+    shownUV_ = state_->UVLevel;
+    turning_ = clock_.Begin(milliseconds);
     update();
 }
 
@@ -185,13 +204,37 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
-    if (!driftlab->text().isEmpty()) {
-        DrawDriftArrow(painter, state_->Drift, QPointF(DriftLeft() + 17, 51), 14);
+    if (driftlab->text().isEmpty()) {
+        return;
     }
+    // A card that is turned shows its edge first, then its face.
+    const QPointF centre(DriftLeft() + 17, 51);
+    painter.save();
+    painter.translate(centre);
+    painter.scale(std::max(clock_.Share(turning_), 0.02), 1);
+    DrawDriftArrow(painter, state_->Drift, {0, 0}, 14);
+    painter.restore();
+}
+
+QRectF EnvironmentView::Bar() const {
+    return {UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11};
+}
+
+void EnvironmentView::DrawPointer(QPainter& painter, const QRectF& bar) const {
+    const double share = clock_.Share(turning_);
+    const double level = share < 1 ? beforeUV_ + (state_->UVLevel - beforeUV_) * share : state_->UVLevel;
+    const double uv = OnBar(bar, level);
+    QPainterPath pointer(QPointF(uv, bar.top() - 1));
+    pointer.lineTo(uv - 6, bar.top() - 10);
+    pointer.lineTo(uv + 6, bar.top() - 10);
+    pointer.closeSubpath();
+    painter.setBrush(Shade(Tone::Ink));
+    painter.drawPath(pointer);
+    painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
 }
 
 void EnvironmentView::DrawLevels(QPainter& painter) const {
-    const QRectF bar(UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11);
+    const QRectF bar = Bar();
     QLinearGradient levels(bar.topLeft(), bar.topRight());
     levels.setColorAt(0, Shade(Tone::LevelLow));
     levels.setColorAt(0.5, Shade(Tone::LevelMiddle));
@@ -202,24 +245,45 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
     if (state_->NumPlayers == 0) {
         return;
     }
-    const double uv = OnBar(bar, state_->UVLevel);
-    QPainterPath pointer(QPointF(uv, bar.top() - 1));
-    pointer.lineTo(uv - 6, bar.top() - 10);
-    pointer.lineTo(uv + 6, bar.top() - 10);
-    pointer.closeSubpath();
-    painter.setBrush(Shade(Tone::Ink));
-    painter.drawPath(pointer);
-    painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
+    DrawPointer(painter, bar);
     const std::vector<QPointF> marks = LevelMarks(*state_, bar);
     for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
         DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
     }
 }
 
+QString EnvironmentView::TipAt(QPointF point) const {
+    const std::vector<QPointF> marks = LevelMarks(*state_, Bar());
+    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
+        const QPointF apart = marks[static_cast<std::size_t>(clan - 1)] - point;
+        if (std::hypot(apart.x(), apart.y()) <= MarkRadius + 1) {
+            return QStringLiteral("%1: mutation level %2")
+                .arg(ToQt(state_->Players[clan].Name.View()))
+                .arg(state_->Players[clan].MutationLevel);
+        }
+    }
+    return {};
+}
+
+bool EnvironmentView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return Card::event(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), PlainTip(TipAt(QPointF(help->pos()))), this);
+    return true;
+}
+
 void EnvironmentView::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (const double share = clock_.Share(turning_); share < 1) {
+        QColor glow = Shade(Tone::Focus);
+        glow.setAlphaF(static_cast<float>(1 - share));
+        painter.setPen(QPen(glow, 4));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 9, 9);
+    }
     DrawTurns(painter);
     DrawArrow(painter);
     DrawLevels(painter);

@@ -6,6 +6,7 @@
 
 #include "model/game_state.h"
 #include "ui/look/arrow_keys.h"
+#include "ui/look/heard.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -43,7 +44,8 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
       state_(state),
-      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)) {
+      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)),
+      speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)) {
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
     playerlab->setFont(LookFont(13, true));
@@ -62,7 +64,21 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
 
 void QuestionCard::ShowMessage(const QString& text, int clan) {
     messageClan_ = clan;
+    answered_ = false;
     msglab->SetText(text);
+    Recolour();
+    Arrange();
+    if (!text.isEmpty()) {
+        TellAlert(*msglab);
+    }
+}
+
+void QuestionCard::ShowAsked(bool asked) {
+    if (asked) {
+        askedText_ = msglab->text();
+    }
+    answered_ = !asked && (answered_ || (asked_ && msglab->text() == askedText_));
+    asked_ = asked;
     Recolour();
 }
 
@@ -94,7 +110,14 @@ void QuestionCard::ShowHint(const QString& hint) {
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
+    if (answered_) {
+        QColor faint = LabelText(state_, messageClan_);
+        constexpr float Standing = 0.5F;
+        faint.setAlphaF(Standing);
+        SetLabelColour(msglab, faint);
+    }
     SetLabelColour(hint_, LabelText(state_, messageClan_));
+    SetLabelColour(speaker_, LabelText(state_, messageClan_));
     const bool coloured = messageClan_ != 0;
     SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : Shade(Tone::CardEdge));
 }
@@ -112,10 +135,25 @@ void QuestionCard::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
-void QuestionCard::Arrange() {
+// The name of whom the message is about stands at its sign; who acts meanwhile stands behind it.
+void QuestionCard::ArrangeHead() {
     const int head = Pad + 26;
-    const int name = std::min(playerlab->sizeHint().width() + 14, std::max(60, width() - head - 190));
-    playerlab->setGeometry(head, 8, name, 20);
+    const int room = std::max(60, width() - head - 190);
+    const int name = std::min(playerlab->sizeHint().width() + 14, room);
+    speaker_->setVisible(IsOfTwo());
+    if (!IsOfTwo()) {
+        playerlab->setGeometry(head, 8, name, 20);
+        return;
+    }
+    speaker_->setText(ToQt(state_.Players[messageClan_].Name.View()));
+    const int speaker = std::min(speaker_->sizeHint().width() + 6, room);
+    speaker_->setGeometry(head, 8, speaker, 20);
+    const int after = head + speaker + 6;
+    playerlab->setGeometry(after, 8, std::clamp(width() - Pad - after, 20, name), 20);
+}
+
+void QuestionCard::Arrange() {
+    ArrangeHead();
     autoeatlab->setGeometry(width() - Pad - 84, 9, 84, 18);
     autotenlab->setGeometry(width() - Pad - 84 - 98, 9, 94, 18);
     const bool room = height() > 110;
@@ -132,7 +170,7 @@ void QuestionCard::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int sign = playerClan_ > 0 ? playerClan_ : messageClan_;
+    const int sign = messageClan_ > 0 ? messageClan_ : playerClan_;
     if (sign > 0) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Shade(Tone::Badge));
