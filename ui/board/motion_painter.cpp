@@ -84,10 +84,14 @@ void DrawBar(QPainter& painter, QPointF middle) {
 }  // namespace
 
 void DrawCarried(QPainter& painter, int colour, int pieces, QPointF centre) {
-    constexpr double Side = 170;
-    DrawCube(painter, colour, {centre.x() - Side / 2, centre.y() - Side / 2, Side, Side});
-    if (pieces > 1) {
-        DrawTag(painter, QStringLiteral("×%1").arg(pieces), Shade(Tone::CountInk), centre + QPointF(0, -Side));
+    constexpr double Side = 150;
+    constexpr int Most = 3;
+    for (int piece = std::min(pieces, Most) - 1; piece >= 0; --piece) {
+        const QPointF corner = centre + QPointF(Side * 0.45 * piece, -Side * 0.6 * piece) - QPointF(Side, Side) / 2;
+        DrawCube(painter, colour, QRectF(corner, QSizeF(Side, Side)));
+    }
+    if (pieces > Most) {
+        DrawTag(painter, QStringLiteral("×%1").arg(pieces), Shade(Tone::CountInk), centre - QPointF(0, 2.4 * Side));
     }
 }
 

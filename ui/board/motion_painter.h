@@ -12,7 +12,7 @@ namespace plasmos {
 
 // What the motions of the board look like, in board units.
 
-/// Cubes of a colour on their way, as one with its count.
+/// Cubes of a colour on their way: up to three, with the count of more.
 void DrawCarried(QPainter& painter, int colour, int pieces, QPointF centre);
 /// Words that rise from a place; share: how far they have come, from 0 to 1.
 void DrawRising(QPainter& painter, const QString& words, const QColor& ink, QPointF from, double share);

@@ -60,15 +60,18 @@ std::string PieceWords(const GameState& state, PieceId id) {
 
 std::string SquareWords(const GameState& state, int square, bool offered) {
     std::string words = Concat("Square ", square, ", row ", (square - 1) / state.NumCols + 1, ", column ",
-                               (square - 1) % state.NumCols + 1, ": ");
+                               (square - 1) % state.NumCols + 1);
     if (state.Blocked[square]) {
-        return words + "a stone";
+        return words + ": a stone";
+    }
+    if (state.NumPlayers == 0) {
+        return words;
     }
     std::string pieces;
     for (const PieceId piece : PiecesIn(state, square)) {
         pieces += (pieces.empty() ? "" : "; ") + PieceWords(state, piece);
     }
-    words += Concat(pieces.empty() ? "nobody" : pieces, "; food ", FoodWords(state, square));
+    words += Concat(": ", pieces.empty() ? "nobody" : pieces, "; food ", FoodWords(state, square));
     return offered ? words + "; can be chosen" : words;
 }
 

@@ -93,7 +93,9 @@ ClanPanel::Columns ClanPanel::ColumnsOf() const {
 }
 
 void ClanPanel::ShowBP(int clan) {
-    bplab[static_cast<std::size_t>(clan - 1)]->setText(QString::number(state_->BP[clan]));
+    QLabel* label = bplab[static_cast<std::size_t>(clan - 1)];
+    label->setText(QString::number(state_->BP[clan]));
+    label->setAccessibleName(label->text() + QStringLiteral(" BP"));
     update();
 }
 
@@ -105,6 +107,7 @@ void ClanPanel::ShowOrder() {
         const int clan = ClanAtPlace(*state_, place);
         QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
         label->setText(QString::number(state_->Players[clan].Score));
+        label->setAccessibleName(QStringLiteral("score ") + label->text());
         label->setToolTip(
             QStringLiteral("Score %1, place %2 in the order of play").arg(state_->Players[clan].Score).arg(place));
         QPalette palette = label->palette();

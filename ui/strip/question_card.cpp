@@ -149,7 +149,8 @@ void QuestionCard::ArrangeHead() {
     const int speaker = std::min(speaker_->sizeHint().width() + 6, room);
     speaker_->setGeometry(head, 8, speaker, 20);
     const int after = head + speaker + 6;
-    playerlab->setGeometry(after, 8, std::clamp(width() - Pad - after, 20, name), 20);
+    const bool pills = autoeatlab->isVisibleTo(this) || autotenlab->isVisibleTo(this);
+    playerlab->setGeometry(after, 8, std::clamp(width() - Pad - (pills ? 190 : 0) - after, 20, name), 20);
 }
 
 void QuestionCard::Arrange() {

@@ -144,14 +144,14 @@ void BoardMotionsTest::everyHappeningIsSeen() {
     const auto look = [&] { seen = seen || !WhatMoves(stage).isEmpty() || stage.Puddle().Motions().IsLinked(); };
     stage.LookWhile(
         [&] {
-            QTest::qWait(400);
+            QTest::qWait(320);
             seen = false;
             SceneRows[row].Happens();
             look();
         },
         look, __FILE__, __LINE__);
     QVERIFY2(seen || IsStill(SceneRows[row].Name), "nothing is seen of it");
-    QTest::qWait(400);
+    QTest::qWait(320);
     QCOMPARE(WhatMoves(stage), QString());
 }
 
@@ -278,7 +278,7 @@ void BoardMotionsTest::pictures() {
     };
     PHASE(stage, QTest::qWait(300); QTimer::singleShot(row.After, &stage.Board(), take); row.Happens();
           QTest::qWait(row.After + 100));
-    QTest::qWait(400);
+    QTest::qWait(320);
     QVERIFY(during != stage.Board().grab().toImage());
 }
 
