@@ -8,6 +8,7 @@
 #include "model/game_state.h"
 #include "ui/dialogs/choice_panels.h"
 #include "ui/look/cube.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -106,13 +107,13 @@ void FoodPanel::MakeRow(int field) {
     row.Entry->setFixedWidth(46);
     row.Entry->setAlignment(Qt::AlignCenter);
     row.Entry->installEventFilter(this);
-    const QString step = QStringLiteral("padding:0;min-width:24px;max-width:24px;min-height:22px;font-size:15px");
+    const QString step = QStringLiteral("padding:0;min-width:@24px;max-width:@24px;min-height:@22px;font-size:@15px");
     row.Less = new QPushButton(QStringLiteral("−"), row.Line);
     row.Less->setObjectName(QStringLiteral("less%1").arg(field));
     row.More = new QPushButton(QStringLiteral("+"), row.Line);
     row.More->setObjectName(QStringLiteral("more%1").arg(field));
     for (QPushButton* button : {row.Less, row.More}) {
-        button->setStyleSheet(step);
+        WearSheet(*button, step);
         button->setFocusPolicy(Qt::NoFocus);
         button->setAutoRepeat(true);
     }

@@ -5,6 +5,7 @@
 
 #include "model/game_state.h"
 #include "ui/dialogs/choice_panels.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -65,7 +66,7 @@ void GenePanel::MakeBoxes() {
     for (int gene = 1; gene <= GeneCount; ++gene) {
         auto* box = new WideCheckBox(this);
         box->setObjectName(QStringLiteral("gcheck%1").arg(gene));
-        box->setFont(LookFont(12));
+        WearLetters(*box, 12);
         RefuseRepeats(box);
         QLabel* cost = MakeLabel(this, QStringLiteral("gcost%1").arg(gene), 10, false, Tone::Faint);
         cost->setContentsMargins(24, 0, 0, 3);

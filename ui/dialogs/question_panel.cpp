@@ -13,6 +13,7 @@
 #include "ui/dialogs/gene_panel.h"
 #include "ui/dialogs/victim_panel.h"
 #include "ui/look/arrow_keys.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
@@ -71,10 +72,9 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     head->addWidget(title_, 1);
     close_->setToolTip(QStringLiteral("Close (Esc)"));
     close_->setFocusPolicy(Qt::NoFocus);
-    close_->setStyleSheet(
-        Styled(QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:18px;"
-                              "padding:0;min-height:24px;min-width:24px;max-width:24px}"
-                              "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}")));
+    WearSheet(*close_, QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:@18px;"
+                                      "padding:0;min-height:@24px;min-width:@24px;max-width:@24px}"
+                                      "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}"));
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
     outer->addWidget(message_);
@@ -84,7 +84,7 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     foot_->setSpacing(Spacing);
     outer->addLayout(foot_);
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
-    SetColours(Shade(Tone::Card), clan_ > 0 ? ShadesOf(clan_).Dark : Shade(Tone::Accent));
+    SetEdge(clan_ > 0 ? clan_ : -1);
 }
 
 int QuestionPanel::HeightFor(int width) const {

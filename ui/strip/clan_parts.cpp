@@ -5,6 +5,7 @@
 #include "files/text.h"
 #include "model/game_state.h"
 #include "model/genes.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/gene_chips.h"
@@ -55,7 +56,7 @@ HeardPart ClanPanel::Hear(int part) const {
         return {};
     }
     const std::vector<int>& genes = GeneLists[static_cast<std::size_t>(part - 1)]->Genes();
-    return {ToQt(CardWords(*state_, part, genes)), QAccessible::StaticText, CardRect(place).toRect()};
+    return {ToQt(CardWords(*state_, part, genes)), QAccessible::StaticText, InPixels(CardRect(place))};
 }
 
 int ClanPanel::PartAt(QPoint point) const {
@@ -70,14 +71,14 @@ int ClanPanel::PartAt(QPoint point) const {
 void ClanPanel::RiseFromBP(int clan, const QString& words, Tone tone, int milliseconds) {
     if (PlaceOf(clan) > 0) {
         const QRect label = bplab[static_cast<std::size_t>(clan - 1)]->geometry();
-        rising_->Rise(words, QPointF(label.left() + 20, label.top() + 2), tone, milliseconds);
+        rising_->Rise(words, QPointF(label.left() + Px(20), label.top() + 2), tone, milliseconds);
     }
 }
 
 void ClanPanel::RiseFromGenes(int clan, const QString& words, Tone tone, int milliseconds) {
     if (const int place = PlaceOf(clan); place > 0) {
-        const QRectF card = CardRect(place);
-        rising_->Rise(words, QPointF(InLines() ? 34 : 44, card.bottom() - 21), tone, milliseconds);
+        const QRect card = InPixels(CardRect(place));
+        rising_->Rise(words, QPointF(Px(44), card.bottom() - Px(21)), tone, milliseconds);
     }
 }
 

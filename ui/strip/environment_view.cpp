@@ -12,6 +12,7 @@
 #include "model/dice.h"
 #include "model/game_state.h"
 #include "rules/environment.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -20,40 +21,13 @@ namespace plasmos {
 namespace {
 
 constexpr int Pad = 14;
-constexpr double LowestLevel = 0;
-constexpr double HighestLevel = 20;
-
-constexpr double MarkRadius = 5.2;
-
-double OnBar(const QRectF& bar, double level) {
-    return bar.left() + bar.width() * (std::clamp(level, LowestLevel, HighestLevel) - LowestLevel) / HighestLevel;
-}
-
-/// The first place near a point where a mark covers no other: three below each other, then aside, first
-/// towards the middle.
-QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middle) {
-    constexpr double step = 10;
-    const double inward = point.x() > middle ? -step : step;
-    for (const double aside : {0.0, inward, -inward, 2 * inward}) {
-        for (const double below : {0.0, step, 2 * step}) {
-            const QPointF place = point + QPointF(aside, below);
-            const bool covered = std::any_of(taken.begin(), taken.end(), [place](QPointF other) {
-                return std::hypot(place.x() - other.x(), place.y() - other.y()) < step - 0.5;
-            });
-            if (!covered) {
-                return place;
-            }
-        }
-    }
-    return point;
-}
 
 FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
     auto* label = new FitLabel(parent, pixels, 8);
     label->setObjectName(name);
-    label->setFont(LookFont(pixels, true));
+    WearLetters(*label, pixels, true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    SetLabelColour(label, Shade(Tone::Ink));
+    WearTone(*label, Tone::Ink);
     return label;
 }
 
@@ -72,15 +46,6 @@ void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degre
 }
 
 }  // namespace
-
-std::vector<QPointF> LevelMarks(const GameState& state, const QRectF& bar) {
-    std::vector<QPointF> marks;
-    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
-        const double level = OnBar(bar, state.Players[clan].MutationLevel);
-        marks.push_back(FreePlace(marks, QPointF(level, bar.bottom() + 2 + MarkRadius), bar.center().x()));
-    }
-    return marks;
-}
 
 void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius) {
     if (drift == 0) {
@@ -164,19 +129,24 @@ void EnvironmentView::ShowUV() {
     update();
 }
 
-void EnvironmentView::TurnCard(int milliseconds) {
-    beforeUV_ = shownUV_ > 0 ? shownUV_ : state_->UVLevel;
-    shownUV_ = state_->UVLevel;
-    turning_ = clock_.Begin(milliseconds);
-    update();
+double EnvironmentView::DriftLeft() const {
+    return UsualWidth(*this) * 0.41;
 }
 
-void EnvironmentView::resizeEvent(QResizeEvent*) {
-    const int left = Pad + 2;
-    turnlab->setGeometry(left, 8, static_cast<int>(DriftLeft()) - left - 4, 28);
-    const int drift = static_cast<int>(DriftLeft()) + 42;
-    driftlab->setGeometry(drift, 28, static_cast<int>(UvLeft()) - drift - 4, 46);
-    UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 36, 30);
+double EnvironmentView::UvLeft() const {
+    return UsualWidth(*this) * 0.69;
+}
+
+QSize EnvironmentView::sizeHint() const {
+    return {Px(440), Px(88)};
+}
+
+void EnvironmentView::Redress() {
+    const double left = Pad + 2;
+    turnlab->setGeometry(InPixels({left, 8, DriftLeft() - left - 4, 28}));
+    const double drift = DriftLeft() + 42;
+    driftlab->setGeometry(InPixels({drift, 28, UvLeft() - drift - 4, 46}));
+    UVlab->setGeometry(InPixels({UvLeft(), 26, 36, 30}));
 }
 
 void EnvironmentView::DrawTurns(QPainter& painter) const {
@@ -188,7 +158,7 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
         painter.drawEllipse(centre, step * 0.36, step * 0.36);
     }
     if (state_->NumPlayers > 0) {
-        painter.setFont(LookFont(11));
+        painter.setFont(DrawnFont(11));
         painter.setPen(Shade(Tone::Faint));
         QStringList words;
         if (phaseTold_ && !state_->Phase.Empty()) {
@@ -200,7 +170,7 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
 }
 
 void EnvironmentView::DrawArrow(QPainter& painter) const {
-    painter.setFont(LookFont(11));
+    painter.setFont(DrawnFont(11));
     painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
@@ -216,73 +186,15 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.restore();
 }
 
-QRectF EnvironmentView::Bar() const {
-    return {UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11};
-}
-
-void EnvironmentView::DrawPointer(QPainter& painter, const QRectF& bar) const {
-    const double share = clock_.Share(turning_);
-    const double level = share < 1 ? beforeUV_ + (state_->UVLevel - beforeUV_) * share : state_->UVLevel;
-    const double uv = OnBar(bar, level);
-    QPainterPath pointer(QPointF(uv, bar.top() - 1));
-    pointer.lineTo(uv - 6, bar.top() - 10);
-    pointer.lineTo(uv + 6, bar.top() - 10);
-    pointer.closeSubpath();
-    painter.setBrush(Shade(Tone::Ink));
-    painter.drawPath(pointer);
-    painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
-}
-
-void EnvironmentView::DrawLevels(QPainter& painter) const {
-    const QRectF bar = Bar();
-    QLinearGradient levels(bar.topLeft(), bar.topRight());
-    levels.setColorAt(0, Shade(Tone::LevelLow));
-    levels.setColorAt(0.5, Shade(Tone::LevelMiddle));
-    levels.setColorAt(1, Shade(Tone::LevelHigh));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(levels);
-    painter.drawRoundedRect(bar, 5, 5);
-    if (state_->NumPlayers == 0) {
-        return;
-    }
-    DrawPointer(painter, bar);
-    const std::vector<QPointF> marks = LevelMarks(*state_, bar);
-    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
-        DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
-    }
-}
-
-QString EnvironmentView::TipAt(QPointF point) const {
-    const std::vector<QPointF> marks = LevelMarks(*state_, Bar());
-    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
-        const QPointF apart = marks[static_cast<std::size_t>(clan - 1)] - point;
-        if (std::hypot(apart.x(), apart.y()) <= MarkRadius + 1) {
-            return QStringLiteral("%1: mutation level %2")
-                .arg(ToQt(state_->Players[clan].Name.View()))
-                .arg(state_->Players[clan].MutationLevel);
-        }
-    }
-    return {};
-}
-
-bool EnvironmentView::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return Card::event(event);
-    }
-    const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), PlainTip(TipAt(QPointF(help->pos()))), this);
-    return true;
-}
-
 void EnvironmentView::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    PaintUsual(painter);
     if (const double share = clock_.Share(turning_); share < 1) {
         QColor glow = Shade(Tone::Focus);
         glow.setAlphaF(static_cast<float>(1 - share));
         painter.setPen(QPen(glow, 4));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 9, 9);
+        painter.drawRoundedRect(QRectF(0, 0, UsualWidth(*this), UsualHeight(*this)).adjusted(3, 3, -3, -3), 9, 9);
     }
     DrawTurns(painter);
     DrawArrow(painter);

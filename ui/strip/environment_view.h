@@ -36,12 +36,13 @@ public:
     /// Something moves just now.
     bool Runs() const { return clock_.Runs(); }
 
-    QSize sizeHint() const override { return {440, 88}; }
+    QSize sizeHint() const override;
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void resizeEvent(QResizeEvent*) override { Redress(); }
+    void Redress() override;
 
 private:
     void DrawTurns(QPainter& painter) const;
@@ -51,8 +52,8 @@ private:
     QRectF Bar() const;
     QString TipAt(QPointF point) const;
 
-    double DriftLeft() const { return width() * 0.41; }
-    double UvLeft() const { return width() * 0.69; }
+    double DriftLeft() const;
+    double UvLeft() const;
 
     const GameState* state_;
     bool phaseTold_ = false;

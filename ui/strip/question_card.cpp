@@ -6,6 +6,7 @@
 
 #include "model/game_state.h"
 #include "ui/look/arrow_keys.h"
+#include "ui/look/dress.h"
 #include "ui/look/heard.h"
 #include "ui/look/palette.h"
 
@@ -28,7 +29,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
     auto* label = MakeLabel(parent, QString::fromLatin1(name), 10, true, Tone::Ink);
     label->setText(QString::fromLatin1(text));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(Styled(QStringLiteral("background:@Badge;color:@Accent;border-radius:8px;padding:1px 6px")));
+    WearSheet(*label, QStringLiteral("background:@Badge;color:@Accent;border-radius:8px;padding:1px 6px"));
     label->hide();
     return label;
 }
@@ -38,7 +39,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
 QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     : Card(parent),
       playerlab(new PillLabel(this)),
-      msglab(new FitLabel(this, 15, 10)),
+      msglab(new SpeechLabel(this, 15, 10)),
       autoeatlab(MakePill(this, "autoeatlab", "auto-eating")),
       autotenlab(MakePill(this, "autotenlab", "auto-tentacle")),
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
@@ -48,7 +49,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)) {
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
-    playerlab->setFont(LookFont(13, true));
+    WearLetters(*playerlab, 13, true);
     msglab->setObjectName(QStringLiteral("msglab"));
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
@@ -116,54 +117,62 @@ void QuestionCard::Recolour() {
         faint.setAlphaF(Standing);
         SetLabelColour(msglab, faint);
     }
-    SetLabelColour(hint_, LabelText(state_, messageClan_));
-    SetLabelColour(speaker_, LabelText(state_, messageClan_));
-    const bool coloured = messageClan_ != 0;
-    SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : Shade(Tone::CardEdge));
+    SetEdge(messageClan_);
+    update();
 }
 
 int QuestionCard::HeightFor(int width, bool tight) const {
-    const int text = std::clamp(msglab->HeightAt(width - 2 * Pad), 20, tight ? 66 : 84);
-    return tight ? HeadHeight + text + 16 : std::max(HeadHeight + text + ButtonHeight + 26, 148);
+    const int text = std::clamp(msglab->HeightAt(width - 2 * Px(Pad)), Px(20), Px(tight ? 72 : 92));
+    return tight ? Px(HeadHeight + 16) + text : std::max(Px(HeadHeight + ButtonHeight + 26) + text, Px(148));
 }
 
 int QuestionCard::LeastHeight(int width) const {
-    return msglab->LeastHeightAt(width - 2 * Pad) + HeadHeight + ButtonHeight + 28;
+    return msglab->LeastHeightAt(width - 2 * Px(Pad)) + Px(8 + HeadHeight + ButtonHeight + 12);
 }
 
 void QuestionCard::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
+void QuestionCard::Redress() {
+    Recolour();
+    Arrange();
+}
+
 // The name of whom the message is about stands at its sign; who acts meanwhile stands behind it.
 void QuestionCard::ArrangeHead() {
-    const int head = Pad + 26;
-    const int room = std::max(60, width() - head - 190);
-    const int name = std::min(playerlab->sizeHint().width() + 14, room);
+    const int pad = Px(Pad);
+    const int head = pad + Px(26);
+    const int room = std::max(Px(60), width() - head - Px(190));
+    const int name = std::min(playerlab->sizeHint().width() + Px(14), room);
     speaker_->setVisible(IsOfTwo());
     if (!IsOfTwo()) {
-        playerlab->setGeometry(head, 8, name, 20);
+        playerlab->setGeometry(head, Px(9), name, Px(20));
         return;
     }
     speaker_->setText(ToQt(state_.Players[messageClan_].Name.View()));
-    const int speaker = std::min(speaker_->sizeHint().width() + 6, room);
-    speaker_->setGeometry(head, 8, speaker, 20);
-    const int after = head + speaker + 6;
+    const int speaker = std::min(speaker_->sizeHint().width() + Px(6), room);
+    speaker_->setGeometry(head, Px(9), speaker, Px(20));
+    const int after = head + speaker + Px(6);
     const bool pills = autoeatlab->isVisibleTo(this) || autotenlab->isVisibleTo(this);
-    playerlab->setGeometry(after, 8, std::clamp(width() - Pad - (pills ? 190 : 0) - after, 20, name), 20);
+    const int left = width() - pad - (pills ? Px(190) : 0) - after;
+    playerlab->setGeometry(after, Px(9), std::clamp(left, Px(20), std::max(name, Px(20))), Px(20));
 }
 
 void QuestionCard::Arrange() {
     ArrangeHead();
-    autoeatlab->setGeometry(width() - Pad - 84, 9, 84, 18);
-    autotenlab->setGeometry(width() - Pad - 84 - 98, 9, 94, 18);
-    const bool room = height() > 110;
-    const int foot = room ? ButtonHeight + 18 : 8;
-    msglab->setGeometry(Pad, 8 + HeadHeight, width() - 2 * Pad, height() - 10 - HeadHeight - foot);
-    const int top = height() - ButtonHeight - 12;
-    yesb->setGeometry(Pad, top, 104, ButtonHeight);
-    nob->setGeometry(Pad + 116, top, 104, ButtonHeight);
-    hint_->setGeometry(Pad, top, width() - 2 * Pad, ButtonHeight);
+    const int pad = Px(Pad);
+    autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
+    autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
+    const bool room = height() > Px(110);
+    const int foot = Px(room ? ButtonHeight + 12 : 6);
+    const int inner = width() - 2 * pad;
+    const int text = height() - Px(8 + HeadHeight) - foot;
+    msglab->setGeometry(pad, Px(8 + HeadHeight), inner, std::min(text, msglab->HeightAt(inner)));
+    const int top = height() - Px(ButtonHeight + 8);
+    yesb->setGeometry(pad, top, Px(104), Px(ButtonHeight));
+    nob->setGeometry(pad + Px(116), top, Px(104), Px(ButtonHeight));
+    hint_->setGeometry(pad, top, inner, Px(ButtonHeight));
     hint_->setVisible(room && !asking_);
 }
 
@@ -174,9 +183,9 @@ void QuestionCard::paintEvent(QPaintEvent* event) {
     const int sign = messageClan_ > 0 ? messageClan_ : playerClan_;
     if (sign > 0) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(Shade(Tone::Badge));
-        painter.drawEllipse(QPointF(Pad + 11, 18), 11.5, 11.5);
-        DrawClanBadge(painter, sign, QPointF(Pad + 11, 18), 9.5);
+        painter.setBrush(ShadesOf(sign).Body);
+        painter.drawRoundedRect(QRectF(1.5, 1.5, width() - 3, 5), 2.5, 2.5);
+        DrawClanBadge(painter, sign, QPointF(Px(Pad + 11), Px(19)), Px(10));
     }
 }
 

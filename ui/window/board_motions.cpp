@@ -64,52 +64,67 @@ void BoardMotions::Show(const Happening& happening) {
     if (attackIsOver_ && !BelongsToAttack(happening.What)) {
         EndAttack();
     }
-    const int number = happening.Number;
+    ShowOne(happening);
+}
+
+void BoardMotions::ShowOne(const Happening& happening) {
     switch (happening.What) {
         case Kind::Moves:
         case Kind::Rides:
         case Kind::IsDragged: Move(happening); break;
         case Kind::Escapes: Move(happening), AttackEnds(happening, "escapes", true); break;
-        case Kind::CarriesFood:
-            puddle_->Motions().Carry(happening.OtherClan, number,
-                                     puddle_->FoodPlace(happening.From, happening.OtherClan),
-                                     puddle_->FoodPlace(happening.Square, happening.OtherClan), Time());
-            break;
-        case Kind::ChangesSpot:
-            puddle_->Motions().Glide(ActorOf(happening), puddle_->LastSeen(ActorOf(happening), happening.Square),
-                                     Time());
-            break;
+        case Kind::CarriesFood: Load(happening); break;
+        case Kind::ChangesSpot: Shift(happening); break;
         case Kind::Eats: Meal(happening); break;
         case Kind::Starves: Hurt(happening); break;
-        case Kind::IsBorn:
-            puddle_->Motions().Grow(ActorOf(happening), Time());
-            puddle_->Motions().Ring(puddle_->PlaceOf(ActorOf(happening), happening.Square).center(), RingRadius,
-                                    Tone::Accent, Time());
-            break;
+        case Kind::IsBorn: Birth(happening); break;
         case Kind::Dies: Death(happening); break;
         case Kind::IsEaten: AttackEnds(happening, "eaten", false); break;
         case Kind::IsTorn: AttackEnds(happening, "torn to pieces", false); break;
         case Kind::IsWounded: AttackEnds(happening, "wounded", false); break;
         case Kind::Attacks:
         case Kind::AttacksToEat: Attack(happening); break;
-        case Kind::FailsToEscape: puddle_->Motions().EndLink(QStringLiteral("no escape"), false), LookAtIt(); break;
+        case Kind::FailsToEscape: AttackGoesOn("no escape"); break;
         case Kind::Defends: AttackEnds(happening, "beaten off", true); break;
-        case Kind::FailsToDefend: puddle_->Motions().EndLink(QStringLiteral("no defence"), false), LookAtIt(); break;
+        case Kind::FailsToDefend: AttackGoesOn("no defence"); break;
         case Kind::BuysGene:
-            strip_->Clans->RiseFromGenes(happening.Clan, u'+' + GeneWord(number), Tone::Accent, Time());
-            break;
         case Kind::LosesGene:
-            strip_->Clans->RiseFromGenes(happening.Clan, u'−' + GeneWord(number), Tone::Alarm, Time());
-            break;
-        case Kind::PaysBP: PayFor(happening); break;
-        case Kind::GainsBP:
-            strip_->Clans->RiseFromBP(happening.Clan, QStringLiteral("+%1").arg(number), Tone::Accent, Time());
-            break;
+        case Kind::PaysBP:
+        case Kind::GainsBP: ShowCard(happening); break;
         case Kind::ScoreMoves: track_->Walk(happening.Clan, happening.From, Time()); break;
         case Kind::CardIsTurned: strip_->Environment->TurnCard(Time()); break;
-        case Kind::Parasitizes:
-        case Kind::OrderIsMade: break;
+        case Kind::Parasitizes:         // its meal follows
+        case Kind::OrderIsMade: break;  // the cards stand in it
     }
+}
+
+void BoardMotions::ShowCard(const Happening& happening) {
+    const int clan = happening.Clan;
+    ClanPanel& clans = *strip_->Clans;
+    if (happening.What == Kind::BuysGene) {
+        clans.RiseFromGenes(clan, u'+' + GeneWord(happening.Number), Tone::Accent, Time());
+    } else if (happening.What == Kind::LosesGene) {
+        clans.RiseFromGenes(clan, u'−' + GeneWord(happening.Number), Tone::Alarm, Time());
+    } else if (happening.What == Kind::GainsBP) {
+        clans.RiseFromBP(clan, QStringLiteral("+%1").arg(happening.Number), Tone::Accent, Time());
+    } else {
+        PayFor(happening);
+    }
+}
+
+void BoardMotions::Load(const Happening& load) {
+    puddle_->Motions().Carry(load.OtherClan, load.Number, puddle_->FoodPlace(load.From, load.OtherClan),
+                             puddle_->FoodPlace(load.Square, load.OtherClan), Time());
+}
+
+void BoardMotions::Shift(const Happening& shift) {
+    puddle_->Motions().Glide(ActorOf(shift), puddle_->LastSeen(ActorOf(shift), shift.Square), Time());
+}
+
+void BoardMotions::Birth(const Happening& birth) {
+    const QPointF place = puddle_->PlaceOf(ActorOf(birth), birth.Square).center();
+    puddle_->Motions().Grow(ActorOf(birth), Time());
+    puddle_->Motions().Ring(place, RingRadius, Tone::Accent, Time());
 }
 
 void BoardMotions::Move(const Happening& move) {
@@ -165,6 +180,11 @@ void BoardMotions::AttackEnds(const Happening& outcome, const char* word, bool s
     if (outcome.What == Kind::IsWounded) {
         Hurt(outcome);
     }
+    LookAtIt();
+}
+
+void BoardMotions::AttackGoesOn(const char* word) {
+    puddle_->Motions().EndLink(QString::fromLatin1(word), false);
     LookAtIt();
 }
 

@@ -25,12 +25,18 @@ public:
 
 private:
     int Time() const;
+    void ShowOne(const Happening& happening);
+    void ShowCard(const Happening& happening);
+    void Load(const Happening& load);
+    void Shift(const Happening& shift);
+    void Birth(const Happening& birth);
     void Move(const Happening& move);
     void Meal(const Happening& meal);
     void Death(const Happening& death);
     void Hurt(const Happening& hurt);
     void Attack(const Happening& attack);
     void AttackEnds(const Happening& outcome, const char* word, bool safe);
+    void AttackGoesOn(const char* word);
     void PayFor(const Happening& payment);
     void LookAtIt();
 
