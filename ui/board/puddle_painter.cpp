@@ -30,10 +30,13 @@ struct Stacks {
     int High = 3;
 };
 
-Stacks StacksOf(const QPainter& painter) {
+Stacks StacksAt(double scale) {
     constexpr double SmallSquare = 92;
-    const bool small = painter.worldTransform().m11() * SquareUnits < SmallSquare;
-    return small ? Stacks{146, 172, 1} : Stacks{};
+    return scale * SquareUnits < SmallSquare ? Stacks{146, 172, 1} : Stacks{};
+}
+
+Stacks StacksOf(const QPainter& painter) {
+    return StacksAt(painter.worldTransform().m11());
 }
 
 /// Left foot of a colour's stack.
@@ -132,6 +135,14 @@ void DrawFood(const GameState& state, QPainter& painter, int square) {
             DrawCube(painter, clan, QRectF(foot.x(), top, stacks.Cube, stacks.Cube));
         }
     }
+}
+
+QRectF FoodRect(const GameState& state, int square, int clan, double scale) {
+    const Stacks stacks = StacksAt(scale);
+    const QPointF foot = StackFoot(state, stacks, square, clan);
+    const int shown = std::clamp(state.Food[square][clan], 1, stacks.High);
+    const double high = (stacks.Cube + 6) * shown;
+    return {foot.x(), foot.y() - high, stacks.Cube, high};
 }
 
 void DrawFoodCounts(const GameState& state, QPainter& painter, int square) {

@@ -21,6 +21,8 @@ void DrawStone(const GameState& state, QPainter& painter, int square);
 void DrawSquareNumber(const GameState& state, QPainter& painter, int square);
 /// Cubes stacked by colour.
 void DrawFood(const GameState& state, QPainter& painter, int square);
+/// Where a colour's stack stands, at so many pixels to a board unit; on its line where there is none.
+QRectF FoodRect(const GameState& state, int square, int clan, double scale);
 /// The count above every stack that is higher than it shows.
 void DrawFoodCounts(const GameState& state, QPainter& painter, int square);
 /// The amber glow of an offered square; brighter under the pointer or the arrow keys.

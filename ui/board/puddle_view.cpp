@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "model/game_state.h"
+#include "ui/board/motion_painter.h"
 #include "ui/board/puddle_painter.h"
 #include "ui/look/blob_shape.h"
 #include "ui/look/palette.h"
@@ -14,8 +15,6 @@
 namespace plasmos {
 
 namespace {
-
-constexpr int FrameMilliseconds = 16;
 
 QRectF PuddleRect(const GameState& state) {
     return {0, 0, static_cast<double>(state.NumCols) * SquareUnits, static_cast<double>(state.NumRows) * SquareUnits};
@@ -27,18 +26,19 @@ BlobLook LookOf(const GameState& state, int clan, int amoeba) {
 
 }  // namespace
 
-PuddleView::PuddleView(QWidget* parent, const GameState& state) : QWidget(parent), state_(&state) {
+PuddleView::PuddleView(QWidget* parent, const GameState& state)
+    : QWidget(parent), state_(&state), motions_(*this), seen_() {
     setObjectName(QStringLiteral("Picture1"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("The Puddle"));
-    motionTimer_.setInterval(FrameMilliseconds);
-    connect(&motionTimer_, &QTimer::timeout, this, [this] { Tick(); });
+    setAccessibleDescription(QStringLiteral("Arrow keys go from square to square; Enter answers."));
 }
 
 void PuddleView::ShowState(const GameState& state) {
     state_ = &state;
-    cursor_ = 0;
+    cursor_ = cursor_ > state.NumSquares ? 0 : cursor_;
+    seen_ = {};
     Settle();
 }
 
@@ -54,7 +54,6 @@ void PuddleView::ShowNumbers(bool on) {
 
 void PuddleView::SetOffered(const std::vector<int>& squares) {
     offered_ = squares;
-    cursor_ = 0;
     pressed_ = false;
     setCursor(squares.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
     update();
@@ -66,8 +65,10 @@ void PuddleView::SetSpokenOf(int square) {
 }
 
 void PuddleView::OutlinePiece(int clan, int amoeba, bool on) {
-    outlinedClan_ = on ? clan : 0;
-    outlinedAmoeba_ = on ? amoeba : 0;
+    outlined_ = on ? PieceId{clan, amoeba} : PieceId{};
+    if (clan == 0) {
+        motions_.Unlink();
+    }
     update();
 }
 
@@ -126,8 +127,8 @@ void PuddleView::DrawSquares(QPainter& painter) const {
     for (int square = 1; square <= state_->NumSquares; ++square) {
         const bool offered = Offers(square);
         if (offered) {
-            DrawOffer(*state_, painter, square, square == hover_ || square == cursor_);
-        } else if (square == cursor_ || (square == hover_ && !state_->Blocked[square])) {
+            DrawOffer(*state_, painter, square, square == hover_ || (square == cursor_ && hasFocus()));
+        } else if (square == hover_ && !state_->Blocked[square]) {
             DrawHover(*state_, painter, square);
         }
         if (square == spokenOf_) {
@@ -158,28 +159,43 @@ void PuddleView::DrawWaiting(QPainter& painter) const {
     }
 }
 
-void PuddleView::DrawPieces(QPainter& painter) const {
+void PuddleView::DrawPiece(QPainter& painter, PieceId piece, bool outlined) {
+    const QRectF marker = MarkerOf(*state_, piece.Clan, piece.Amoeba);
+    if (marker.isEmpty()) {
+        return;
+    }
+    seen_[static_cast<std::size_t>(piece.Clan)][static_cast<std::size_t>(piece.Amoeba)] = marker;
+    if (!motions_.Carries(piece)) {
+        BlobLook blob = LookOf(*state_, piece.Clan, piece.Amoeba);
+        blob.Outlined = outlined;
+        DrawBlob(painter, blob, marker.center(), marker.width() / 2);
+    }
+}
+
+// The outlined piece lies above the others.
+void PuddleView::DrawPieces(QPainter& painter) {
     if (state_->NumPlayers == 0) {
         DrawWaiting(painter);
     }
     for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
         for (int amoeba = 1; amoeba <= state_->MaxAmoeba; ++amoeba) {
-            const QRectF marker = MarkerOf(*state_, clan, amoeba);
-            const bool outlined = clan == outlinedClan_ && amoeba == outlinedAmoeba_;
-            if (!marker.isEmpty() && !outlined && !Moves(clan, amoeba)) {
-                DrawBlob(painter, LookOf(*state_, clan, amoeba), marker.center(), marker.width() / 2);
+            if (outlined_ != PieceId{clan, amoeba}) {
+                DrawPiece(painter, {clan, amoeba}, false);
             }
         }
     }
-    if (outlinedClan_ > 0 && !Moves(outlinedClan_, outlinedAmoeba_)) {
-        const QRectF marker = MarkerOf(*state_, outlinedClan_, outlinedAmoeba_);
-        if (!marker.isEmpty()) {
-            BlobLook blob = LookOf(*state_, outlinedClan_, outlinedAmoeba_);
-            blob.Outlined = true;
-            DrawBlob(painter, blob, marker.center(), marker.width() / 2);
-        }
+    if (outlined_.Clan > 0) {
+        DrawPiece(painter, outlined_, true);
     }
-    DrawMotions(painter);
+}
+
+void PuddleView::DrawCursor(QPainter& painter) const {
+    if (hasFocus() && cursor_ > 0) {
+        constexpr double Inset = 36;
+        constexpr double Corner = 70;
+        const QRectF square(SquareCorner(*state_, cursor_), QSizeF(SquareUnits, SquareUnits));
+        DrawDoubleFrame(painter, square.adjusted(Inset, Inset, -Inset, -Inset), Corner);
+    }
 }
 
 void PuddleView::paintEvent(QPaintEvent*) {
@@ -193,6 +209,8 @@ void PuddleView::paintEvent(QPaintEvent*) {
     for (int square = 1; square <= state_->NumSquares; ++square) {
         DrawFoodCounts(*state_, painter, square);
     }
+    DrawCursor(painter);
+    motions_.Draw(painter, *state_, outlined_);
 }
 
 }  // namespace plasmos

@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QElapsedTimer>
 #include <QPixmap>
-#include <QTimer>
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <vector>
 
-namespace plasmos {
+#include "model/game_state.h"
+#include "ui/board/puddle_motions.h"
+#include "ui/look/heard.h"
 
-struct GameState;
+namespace plasmos {
 
 /// The board picture, `Picture1`: the puddle with squares, stones, food and pieces, drawn from the state
 /// it is given. What the moment marks - offered squares, the outlined piece - stays when another state is shown.
 /// Points are handed over in board units, SquareUnits to a square whatever its size on the screen.
-class PuddleView : public QWidget {
+///
+/// With the keyboard a cursor goes from square to square: the arrows move it, Tab and Shift+Tab go through the offered
+/// squares and on, Enter and Space answer. By ear every square is a part, with its pieces and its food.
+class PuddleView : public QWidget, public HeardPicture {
     Q_OBJECT
 
 public:
@@ -37,18 +41,37 @@ public:
     void SetSpokenOf(int square);
     int SpokenOf() const { return spokenOf_; }
     void OutlinePiece(int clan, int amoeba, bool on);
-    /// A piece glides from its old square to the place it has now; no square: nothing moves.
-    void Glide(int clan, int amoeba, int fromSquare, int milliseconds);
-    /// A piece that is no longer there fades away on its square.
-    void FadeAway(int clan, int amoeba, int square, int milliseconds);
-    /// Ends every glide and fade.
+    PieceId Outlined() const { return outlined_; }
+    /// The square of the keyboard's cursor; 0: none yet.
+    int CursorSquare() const { return cursor_; }
+
+    /// What moves over the board.
+    PuddleMotions& Motions() { return motions_; }
+    /// Where a piece was last seen in a square, or would lie there.
+    QRectF LastSeen(PieceId piece, int square) const;
+    /// Where a piece lies, or was last seen in a square.
+    QRectF PlaceOf(PieceId piece, int square) const;
+    /// The middle of a colour's heap of food.
+    QPointF FoodPlace(int square, int colour) const;
+    /// Ends every motion, and the link of an attack.
     void Settle();
 
     /// A point of the widget in board units, and back.
     QPoint UnitsAt(QPointF point) const;
     QPointF PointAt(QPointF units) const;
 
+    // ---- by ear ----
+    std::vector<int> PartsOf(int part) const override;
+    int WholeOf(int part) const override;
+    HeardPart Hear(int part) const override;
+    int PartAt(QPoint point) const override;
+    int FocusedPart() const override;
+    void PressPart(int part) override;
+
 protected:
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -59,27 +82,22 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    struct Motion {
-        int Clan;
-        int Amoeba;
-        int Damage;
-        bool Dying;
-        QRectF From;
-        int Milliseconds;
-        QElapsedTimer Clock;
-    };
-
     double Scale() const;
     void DrawBackground();
     void DrawSquares(QPainter& painter) const;
     void DrawWaiting(QPainter& painter) const;
-    void DrawPieces(QPainter& painter) const;
-    void DrawMotions(QPainter& painter) const;
-    bool Moves(int clan, int amoeba) const;
+    void DrawPieces(QPainter& painter);
+    void DrawPiece(QPainter& painter, PieceId piece, bool outlined);
+    void DrawCursor(QPainter& painter) const;
     bool Offers(int square) const;
     void SetHover(int square);
+    void SetCursor(int square);
     void MoveCursor(int columns, int rows);
-    void Tick();
+    /// The offered square after the cursor's, or before it; 0: there is none.
+    int NextOffered(bool next) const;
+    void AnswerAt(int square);
+    QRect SquareRect(int square) const;
+    QString TipAt(QPoint point) const;
 
     const GameState* state_;
     bool gridlines_ = true;
@@ -88,11 +106,10 @@ private:
     int hover_ = 0;
     int cursor_ = 0;
     int spokenOf_ = 0;
-    int outlinedClan_ = 0;
-    int outlinedAmoeba_ = 0;
+    PieceId outlined_;
     std::vector<int> offered_;
-    std::vector<Motion> motions_;
-    QTimer motionTimer_;
+    PuddleMotions motions_;
+    std::array<std::array<QRectF, MaxPieces + 1>, MaxClans + 1> seen_;  ///< where every piece was painted last
     QPixmap background_;
     QString backgroundKey_;
 };

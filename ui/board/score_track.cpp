@@ -31,13 +31,15 @@ int SpaceOf(int score) {
 }  // namespace
 
 ScoreTrack::ScoreTrack(QWidget* parent, const GameState& state)
-    : QWidget(parent), state_(&state), puddle_(new PuddleView(this, state)) {
+    : QWidget(parent), state_(&state), puddle_(new PuddleView(this, state)), clock_(*this) {
     setObjectName(QStringLiteral("ScoreTrack"));
+    setAccessibleName(QStringLiteral("Score track"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void ScoreTrack::ShowState(const GameState& state) {
     state_ = &state;
+    clock_.Stop();
     puddle_->ShowState(state);
     BoardChanged();
 }
@@ -101,6 +103,35 @@ void ScoreTrack::DrawSpaces(QPainter& painter) const {
     }
 }
 
+void ScoreTrack::Walk(int clan, int fromScore, int milliseconds) {
+    walks_[static_cast<std::size_t>(clan)] = {fromScore, clock_.Begin(milliseconds)};
+    update();
+}
+
+double ScoreTrack::SeenScore(int clan) const {
+    const WalkOfMarker& walk = walks_[static_cast<std::size_t>(clan)];
+    const int score = state_->Players[clan].Score;
+    const double share = clock_.Share(walk.Time);
+    return share < 1 ? walk.From + (score - walk.From) * share : score;
+}
+
+QPointF ScoreTrack::MarkerPlace(double score) const {
+    const int before = std::max(static_cast<int>(std::floor(score)), 1);
+    const QPointF from = SpaceRect(SpaceOf(before)).center();
+    const QPointF to = SpaceRect(SpaceOf(before + 1)).center();
+    return from + (to - from) * std::max(score - before, 0.0);
+}
+
+void ScoreTrack::DrawLap(QPainter& painter, int score, QPointF centre, double radius) const {
+    const QRectF tag(centre.x() + radius * 0.25, centre.y() - radius * 1.3, radius * 1.9, radius * 0.95);
+    painter.setBrush(Shade(Tone::Ink));
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(tag, 3, 3);
+    painter.setPen(Shade(Tone::Card));
+    painter.setFont(DrawnFont(radius * 0.72, true));
+    painter.drawText(tag, Qt::AlignCenter, QStringLiteral("+%1").arg((score - 1) / Spaces * Spaces));
+}
+
 void ScoreTrack::DrawMarkers(QPainter& painter) const {
     std::array<int, Spaces + 1> standing{};
     for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
@@ -112,21 +143,39 @@ void ScoreTrack::DrawMarkers(QPainter& painter) const {
         const QRectF rect = SpaceRect(space);
         const double radius = std::clamp(std::min(rect.width(), rect.height()) * 0.46, 6.0, 14.0);
         const double aside = radius * 0.8 * standing[static_cast<std::size_t>(space)]++;
-        const QPointF centre = rect.center() + QPointF(aside, aside * 0.3);
+        const QPointF centre = MarkerPlace(SeenScore(clan)) + QPointF(aside, aside * 0.3);
         painter.setPen(Qt::NoPen);
         painter.setBrush(Shade(Tone::Shadow));
         painter.drawEllipse(centre + QPointF(0, 1.8), radius + 0.6, radius + 0.6);
         DrawClanBadge(painter, clan, centre, radius);
         if (score > Spaces) {
-            const QRectF tag(centre.x() + radius * 0.25, centre.y() - radius * 1.3, radius * 1.9, radius * 0.95);
-            painter.setBrush(Shade(Tone::Ink));
-            painter.setPen(Qt::NoPen);
-            painter.drawRoundedRect(tag, 3, 3);
-            painter.setPen(Shade(Tone::Card));
-            painter.setFont(DrawnFont(radius * 0.72, true));
-            painter.drawText(tag, Qt::AlignCenter, QStringLiteral("+%1").arg((score - 1) / Spaces * Spaces));
+            DrawLap(painter, score, centre, radius);
         }
     }
+}
+
+std::vector<int> ScoreTrack::PartsOf(int part) const {
+    std::vector<int> clans;
+    for (int clan = 1; part == 0 && clan <= state_->NumPlayers; ++clan) {
+        clans.push_back(clan);
+    }
+    return clans;
+}
+
+HeardPart ScoreTrack::Hear(int part) const {
+    if (part > state_->NumPlayers) {
+        return {};
+    }
+    const int score = state_->Players[part].Score;
+    const QString words = QStringLiteral("%1: score %2").arg(ToQt(state_->Players[part].Name.View())).arg(score);
+    return {words, QAccessible::Indicator, SpaceRect(SpaceOf(score)).toRect()};
+}
+
+int ScoreTrack::PartAt(QPoint point) const {
+    const std::vector<int> clans = PartsOf(0);
+    const auto found =
+        std::find_if(clans.begin(), clans.end(), [&](int clan) { return Hear(clan).Place.contains(point); });
+    return found != clans.end() ? *found : 0;
 }
 
 void ScoreTrack::paintEvent(QPaintEvent*) {

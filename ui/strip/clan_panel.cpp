@@ -10,6 +10,7 @@
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/strip/gene_chips.h"
+#include "ui/strip/rising_words.h"
 
 namespace plasmos {
 
@@ -30,7 +31,9 @@ QString Kind(const Clan& clan) {
 
 }  // namespace
 
-ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent), state_(&state) {
+ClanPanel::ClanPanel(QWidget* parent, const GameState& state)
+    : QWidget(parent), state_(&state), rising_(new RisingWords(this)) {
+    setAccessibleName(QStringLiteral("The clans, in the order of play"));
     for (int i = 0; i < MaxClans; ++i) {
         const auto index = static_cast<std::size_t>(i);
         GeneLists[index] = new GeneChips(this, state, i + 1);
@@ -40,13 +43,13 @@ ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent),
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
         WearLetters(*orderlab[index], 15, true);
         bplab[index]->setToolTip(QStringLiteral("Bio-points"));
-        orderlab[index]->setToolTip(QStringLiteral("Score"));
     }
     ShowAll();
 }
 
 void ClanPanel::ShowState(const GameState& state) {
     state_ = &state;
+    rising_->Stop();
     for (GeneChips* chips : GeneLists) {
         chips->ShowState(state);
     }
@@ -91,7 +94,9 @@ ClanPanel::Columns ClanPanel::ColumnsOf() const {
 }
 
 void ClanPanel::ShowBP(int clan) {
-    bplab[static_cast<std::size_t>(clan - 1)]->setText(QString::number(state_->BP[clan]));
+    QLabel* label = bplab[static_cast<std::size_t>(clan - 1)];
+    label->setText(QString::number(state_->BP[clan]));
+    label->setAccessibleName(label->text() + QStringLiteral(" BP"));
     update();
 }
 
@@ -103,6 +108,9 @@ void ClanPanel::ShowOrder() {
         const int clan = ClanAtPlace(*state_, place);
         QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
         label->setText(QString::number(state_->Players[clan].Score));
+        label->setAccessibleName(QStringLiteral("score ") + label->text());
+        label->setToolTip(
+            QStringLiteral("Score %1, place %2 in the order of play").arg(state_->Players[clan].Score).arg(place));
         QPalette palette = label->palette();
         palette.setColor(QPalette::Window, LabelBackground(*state_, clan));
         palette.setColor(QPalette::WindowText, LabelText(*state_, clan));

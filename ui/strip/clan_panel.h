@@ -5,13 +5,18 @@
 #include <QWidget>
 #include <array>
 
+#include "ui/look/heard.h"
+#include "ui/look/theme.h"
+
 namespace plasmos {
 
 class GeneChips;
+class RisingWords;
 struct GameState;
 
-/// One card per clan in the order of play, from the state it is given.
-class ClanPanel : public QWidget {
+/// One card per clan in the order of play, from the state it is given. By ear every card is a part: part 1, 2, ... is
+/// the card of clan 1, 2, ...
+class ClanPanel : public QWidget, public HeardPicture {
 public:
     ClanPanel(QWidget* parent, const GameState& state);
 
@@ -27,6 +32,17 @@ public:
     void ShowCurrentClan(int clan);
     /// Takes everything from the state.
     void ShowAll();
+
+    /// Words rise from a clan's BP or from its genes.
+    void RiseFromBP(int clan, const QString& words, Tone tone, int milliseconds);
+    void RiseFromGenes(int clan, const QString& words, Tone tone, int milliseconds);
+    /// Something moves just now.
+    bool Runs() const;
+
+    // ---- by ear ----
+    std::vector<int> PartsOf(int part) const override;
+    HeardPart Hear(int part) const override;
+    int PartAt(QPoint point) const override;
 
     /// Height of the cards as they are meant, of the lowest cards, and of a line for each clan, which tells
     /// the figures and leaves the genes away.
@@ -50,12 +66,14 @@ private:
     bool Roomy() const { return CardHeight() >= 70; }
     bool InLines() const;
     void Arrange();
+    int PlaceOf(int clan) const;
     void DrawCard(QPainter& painter, int place) const;
     void DrawFigures(QPainter& painter, int clan, double heads, double top) const;
     void DrawLine(QPainter& painter, int place) const;
 
     const GameState* state_;
     int current_ = 0;
+    RisingWords* rising_;
 };
 
 }  // namespace plasmos

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/strip/environment_view.h"
 
+#include <QHelpEvent>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -12,39 +14,13 @@
 #include "rules/environment.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
 
 namespace plasmos {
 
 namespace {
 
 constexpr int Pad = 14;
-constexpr double LowestLevel = 0;
-constexpr double HighestLevel = 20;
-
-constexpr double MarkRadius = 5.2;
-
-double OnBar(const QRectF& bar, double level) {
-    return bar.left() + bar.width() * (std::clamp(level, LowestLevel, HighestLevel) - LowestLevel) / HighestLevel;
-}
-
-/// The first place near a point where a mark covers no other: three below each other, then aside, first
-/// towards the middle.
-QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middle) {
-    constexpr double step = 10;
-    const double inward = point.x() > middle ? -step : step;
-    for (const double aside : {0.0, inward, -inward, 2 * inward}) {
-        for (const double below : {0.0, step, 2 * step}) {
-            const QPointF place = point + QPointF(aside, below);
-            const bool covered = std::any_of(taken.begin(), taken.end(), [place](QPointF other) {
-                return std::hypot(place.x() - other.x(), place.y() - other.y()) < step - 0.5;
-            });
-            if (!covered) {
-                return place;
-            }
-        }
-    }
-    return point;
-}
 
 FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
     auto* label = new FitLabel(parent, pixels, 8);
@@ -71,15 +47,6 @@ void DrawOneArrow(QPainter& painter, QPointF centre, double radius, double degre
 
 }  // namespace
 
-std::vector<QPointF> LevelMarks(const GameState& state, const QRectF& bar) {
-    std::vector<QPointF> marks;
-    for (int clan = 1; clan <= state.NumPlayers; ++clan) {
-        const double level = OnBar(bar, state.Players[clan].MutationLevel);
-        marks.push_back(FreePlace(marks, QPointF(level, bar.bottom() + 2 + MarkRadius), bar.center().x()));
-    }
-    return marks;
-}
-
 void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius) {
     if (drift == 0) {
         painter.setBrush(Shade(Tone::Accent));
@@ -105,7 +72,9 @@ EnvironmentView::EnvironmentView(QWidget* parent, const GameState& state)
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, Tone::Ink)),
       driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
       UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)),
-      state_(&state) {
+      state_(&state),
+      clock_(*this) {
+    Clear();
     driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
     UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));
     driftlab->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -127,6 +96,7 @@ void EnvironmentView::ShowState(const GameState& state) {
 
 void EnvironmentView::ShowTurn() {
     turnlab->setText(ToQt(Concat("Turn ", std::min(state_->Turn, LastTurn))));
+    turnlab->setAccessibleName(QStringLiteral("%1 of %2").arg(turnlab->text()).arg(LastTurn));
     update();
 }
 
@@ -140,16 +110,22 @@ void EnvironmentView::Clear() {
     phaseTold_ = false;
     driftlab->clear();
     UVlab->clear();
-    update();
+    turnlab->setAccessibleName(QStringLiteral("No turn yet"));
+    driftlab->setAccessibleName(QStringLiteral("No drift yet"));
+    UVlab->setAccessibleName(QStringLiteral("No UV level yet"));
+    shownUV_ = beforeUV_ = 0;
+    clock_.Stop();
 }
 
 void EnvironmentView::ShowDrift() {
     driftlab->SetText(ToQt(DirectionText(*state_, state_->Drift)));
+    driftlab->setAccessibleName(QStringLiteral("Drift ") + driftlab->text());
     update();
 }
 
 void EnvironmentView::ShowUV() {
     UVlab->SetText(QString::number(state_->UVLevel));
+    UVlab->setAccessibleName(QStringLiteral("UV level ") + UVlab->text());
     update();
 }
 
@@ -198,41 +174,28 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
     painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
-    if (!driftlab->text().isEmpty()) {
-        DrawDriftArrow(painter, state_->Drift, QPointF(DriftLeft() + 17, 51), 14);
-    }
-}
-
-void EnvironmentView::DrawLevels(QPainter& painter) const {
-    const QRectF bar(UvLeft() + 38, 36, UsualWidth(*this) - UvLeft() - 38 - Pad, 11);
-    QLinearGradient levels(bar.topLeft(), bar.topRight());
-    levels.setColorAt(0, Shade(Tone::LevelLow));
-    levels.setColorAt(0.5, Shade(Tone::LevelMiddle));
-    levels.setColorAt(1, Shade(Tone::LevelHigh));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(levels);
-    painter.drawRoundedRect(bar, 5, 5);
-    if (state_->NumPlayers == 0) {
+    if (driftlab->text().isEmpty()) {
         return;
     }
-    const double uv = OnBar(bar, state_->UVLevel);
-    QPainterPath pointer(QPointF(uv, bar.top() - 1));
-    pointer.lineTo(uv - 6, bar.top() - 10);
-    pointer.lineTo(uv + 6, bar.top() - 10);
-    pointer.closeSubpath();
-    painter.setBrush(Shade(Tone::Ink));
-    painter.drawPath(pointer);
-    painter.drawRect(QRectF(uv - 0.8, bar.top(), 1.6, bar.height()));
-    const std::vector<QPointF> marks = LevelMarks(*state_, bar);
-    for (int clan = 1; clan <= state_->NumPlayers; ++clan) {
-        DrawClanBadge(painter, clan, marks[static_cast<std::size_t>(clan - 1)], MarkRadius);
-    }
+    // A card that is turned shows its edge first, then its face.
+    const QPointF centre(DriftLeft() + 17, 51);
+    painter.save();
+    painter.translate(centre);
+    painter.scale(std::max(clock_.Share(turning_), 0.02), 1);
+    DrawDriftArrow(painter, state_->Drift, {0, 0}, 14);
+    painter.restore();
 }
 
 void EnvironmentView::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     PaintUsual(painter);
+    if (const double share = clock_.Share(turning_); share < 1) {
+        QColor glow = Shade(Tone::Focus);
+        glow.setAlphaF(static_cast<float>(1 - share));
+        painter.setPen(QPen(glow, 4));
+        painter.drawRoundedRect(QRectF(0, 0, UsualWidth(*this), UsualHeight(*this)).adjusted(3, 3, -3, -3), 9, 9);
+    }
     DrawTurns(painter);
     DrawArrow(painter);
     DrawLevels(painter);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ui/look/card.h"
+#include "ui/look/motion_clock.h"
 
 namespace plasmos {
 
@@ -30,9 +31,15 @@ public:
     void ShowDrift();
     void ShowUV();
 
+    /// The UV card that the state has is turned: the arrow of the drift turns over, the pointer goes to the new level.
+    void TurnCard(int milliseconds);
+    /// Something moves just now.
+    bool Runs() const { return clock_.Runs(); }
+
     QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent*) override { Redress(); }
     void Redress() override;
@@ -41,12 +48,19 @@ private:
     void DrawTurns(QPainter& painter) const;
     void DrawArrow(QPainter& painter) const;
     void DrawLevels(QPainter& painter) const;
+    void DrawPointer(QPainter& painter, const QRectF& bar) const;
+    QRectF Bar() const;
+    QString TipAt(QPointF point) const;
 
     double DriftLeft() const;
     double UvLeft() const;
 
     const GameState* state_;
     bool phaseTold_ = false;
+    int shownUV_ = 0;   ///< the level that has been shown last
+    int beforeUV_ = 0;  ///< the level before it
+    MotionClock clock_;
+    MotionClock::Span turning_;
 };
 
 /// Where the marks of clan 1, 2, ... stand under the bar of levels: at the clan's mutation level, below

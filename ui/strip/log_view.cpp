@@ -37,7 +37,7 @@ void LogView::Start(const QString& header) {
     for (const QString& line : header.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const QString text = line.trimmed();
         if (!text.isEmpty()) {
-            Append(QString(), 0, text, true);
+            Append(QString(), 0, text, Manner::Heading);
         }
     }
 }
@@ -46,19 +46,29 @@ void LogView::Heading(const QString& heading) {
     heading_ = heading;
 }
 
-void LogView::Line(const QString& line, int clan) {
+void LogView::WriteHeading() {
     if (!heading_.isEmpty()) {
-        Append(QString(), 0, heading_, true);
+        Append(QString(), 0, heading_, Manner::Heading);
         heading_.clear();
     }
+}
+
+void LogView::Line(const QString& line, int clan) {
+    WriteHeading();
     QString sign = SignCharacter(clan);
     for (const QString& part : line.split(QLatin1Char('\n'))) {
-        Append(sign, clan, part, false);
+        Append(sign, clan, part, Manner::Told);
         sign.clear();
     }
 }
 
-void LogView::Append(const QString& sign, int clan, const QString& text, bool heading) {
+void LogView::QuietLine(const QString& line, int clan) {
+    WriteHeading();
+    Append(SignCharacter(clan), clan, line, Manner::Quiet);
+}
+
+void LogView::Append(const QString& sign, int clan, const QString& text, Manner manner) {
+    const bool heading = manner == Manner::Heading;
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     QTextBlockFormat block;
@@ -70,7 +80,7 @@ void LogView::Append(const QString& sign, int clan, const QString& text, bool he
         letters.setForeground(ShadesOf(clan).Edge);
         cursor.insertText(sign + QLatin1Char(' '), letters);
     }
-    letters.setForeground(Shade(heading ? Tone::Accent : Tone::Ink));
+    letters.setForeground(Shade(heading ? Tone::Accent : manner == Manner::Quiet ? Tone::Faint : Tone::Ink));
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
     cursor.insertText(text, letters);
 }

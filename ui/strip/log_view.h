@@ -15,9 +15,14 @@ public:
     /// A heading that is written when the first line below it comes.
     void Heading(const QString& heading);
     void Line(const QString& line, int clan);
+    /// A line that stands back: what the rules do not tell in words.
+    void QuietLine(const QString& line, int clan);
 
 private:
-    void Append(const QString& sign, int clan, const QString& text, bool heading);
+    enum class Manner { Heading, Told, Quiet };
+
+    void WriteHeading();
+    void Append(const QString& sign, int clan, const QString& text, Manner manner);
 
     QString heading_;
     bool empty_ = true;

@@ -7,6 +7,7 @@
 #include "model/game_state.h"
 #include "ui/look/arrow_keys.h"
 #include "ui/look/dress.h"
+#include "ui/look/heard.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -44,7 +45,8 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
       state_(state),
-      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)) {
+      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)),
+      speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)) {
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
     WearLetters(*playerlab, 13, true);
@@ -63,7 +65,21 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
 
 void QuestionCard::ShowMessage(const QString& text, int clan) {
     messageClan_ = clan;
+    answered_ = false;
     msglab->SetText(text);
+    Recolour();
+    Arrange();
+    if (!text.isEmpty()) {
+        TellAlert(*msglab);
+    }
+}
+
+void QuestionCard::ShowAsked(bool asked) {
+    if (asked) {
+        askedText_ = msglab->text();
+    }
+    answered_ = !asked && (answered_ || (asked_ && msglab->text() == askedText_));
+    asked_ = asked;
     Recolour();
 }
 
@@ -95,6 +111,12 @@ void QuestionCard::ShowHint(const QString& hint) {
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
+    if (answered_) {
+        QColor faint = LabelText(state_, messageClan_);
+        constexpr float Standing = 0.5F;
+        faint.setAlphaF(Standing);
+        SetLabelColour(msglab, faint);
+    }
     SetEdge(messageClan_);
     update();
 }
@@ -117,11 +139,29 @@ void QuestionCard::Redress() {
     Arrange();
 }
 
-void QuestionCard::Arrange() {
+// The name of whom the message is about stands at its sign; who acts meanwhile stands behind it.
+void QuestionCard::ArrangeHead() {
     const int pad = Px(Pad);
     const int head = pad + Px(26);
-    const int name = std::min(playerlab->sizeHint().width() + Px(14), std::max(Px(60), width() - head - Px(190)));
-    playerlab->setGeometry(head, Px(9), name, Px(20));
+    const int room = std::max(Px(60), width() - head - Px(190));
+    const int name = std::min(playerlab->sizeHint().width() + Px(14), room);
+    speaker_->setVisible(IsOfTwo());
+    if (!IsOfTwo()) {
+        playerlab->setGeometry(head, Px(9), name, Px(20));
+        return;
+    }
+    speaker_->setText(ToQt(state_.Players[messageClan_].Name.View()));
+    const int speaker = std::min(speaker_->sizeHint().width() + Px(6), room);
+    speaker_->setGeometry(head, Px(9), speaker, Px(20));
+    const int after = head + speaker + Px(6);
+    const bool pills = autoeatlab->isVisibleTo(this) || autotenlab->isVisibleTo(this);
+    const int left = width() - pad - (pills ? Px(190) : 0) - after;
+    playerlab->setGeometry(after, Px(9), std::clamp(left, Px(20), std::max(name, Px(20))), Px(20));
+}
+
+void QuestionCard::Arrange() {
+    ArrangeHead();
+    const int pad = Px(Pad);
     autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
     autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
     const bool room = height() > Px(110);
@@ -140,7 +180,7 @@ void QuestionCard::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int sign = playerClan_ > 0 ? playerClan_ : messageClan_;
+    const int sign = messageClan_ > 0 ? messageClan_ : playerClan_;
     if (sign > 0) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ShadesOf(sign).Body);

@@ -9,8 +9,9 @@ namespace plasmos {
 
 struct GameState;
 
-/// The message line in the colours of the clan it speaks to, with the current clan's name and the
-/// buttons Yes and No, which answer only while they are asked for.
+/// The message line in the colours of the clan it speaks to and under its sign, with the current clan's name and the
+/// buttons Yes and No, which answer only while they are asked for. Where another clan acts than the message is about,
+/// both are named, each in its own colours.
 class QuestionCard : public Card {
 public:
     QuestionCard(QWidget* parent, const GameState& state);
@@ -28,6 +29,8 @@ public:
     void ShowClan(int clan);
     /// Lets Yes and No answer, or no longer.
     void AskYesNo(bool on);
+    /// Something is asked just now, or nothing any more: a question that has been answered stands back.
+    void ShowAsked(bool asked);
     /// A hint in place of the buttons, such as where to click.
     void ShowHint(const QString& hint);
 
@@ -43,12 +46,19 @@ protected:
 private:
     void Recolour();
     void Arrange();
+    void ArrangeHead();
+    /// Message and current clan are of two clans.
+    bool IsOfTwo() const { return messageClan_ > 0 && playerClan_ > 0 && messageClan_ != playerClan_; }
 
     const GameState& state_;
     QLabel* hint_;
+    QLabel* speaker_;  ///< whom the message is about, where another clan acts
     int messageClan_ = 0;
     int playerClan_ = 0;
     bool asking_ = false;
+    bool asked_ = false;
+    bool answered_ = false;
+    QString askedText_;
 };
 
 }  // namespace plasmos

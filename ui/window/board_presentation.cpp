@@ -13,6 +13,7 @@
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/environment_view.h"
 #include "ui/strip/log_view.h"
+#include "ui/strip/log_words.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
@@ -21,24 +22,32 @@
 
 namespace plasmos {
 
-namespace {
-
-constexpr int GlideMilliseconds = 280;
-
-}  // namespace
-
 BoardPresentation::BoardPresentation(const BoardParts& parts)
-    : window_(&parts.Window), track_(&parts.Track), strip_(&parts.Strip), menus_(&parts.Menus), desk_(&parts.Desk) {}
+    : window_(&parts.Window),
+      track_(&parts.Track),
+      strip_(&parts.Strip),
+      menus_(&parts.Menus),
+      desk_(&parts.Desk),
+      motions_(parts.Track, parts.Strip, parts.Desk) {}
 
+// The log has its line before a motion is looked at.
 void BoardPresentation::ShowHappening(const Happening& happening) {
+    ShowResult(happening);
+    if (const std::string words = QuietWords(game, happening); !words.empty()) {
+        strip_->Log->QuietLine(ToQt(words), happening.Clan);
+    }
+    motions_.Show(happening);
+}
+
+void BoardPresentation::ShowResult(const Happening& happening) {
     using Kind = Happening::Kind;
     switch (happening.What) {
+        case Kind::IsBorn: DrawPuddle(), ShowCurrentClan(happening.Clan); break;
         case Kind::Moves:
         case Kind::Rides:
         case Kind::IsDragged:
-        case Kind::Escapes: Glide(happening); break;
-        case Kind::Dies: FadeAway(happening); break;
-        case Kind::IsBorn: DrawPuddle(), ShowCurrentClan(happening.Clan); break;
+        case Kind::Escapes:
+        case Kind::Dies:
         case Kind::CarriesFood:
         case Kind::ChangesSpot:
         case Kind::Eats:
@@ -51,7 +60,7 @@ void BoardPresentation::ShowHappening(const Happening& happening) {
         case Kind::ScoreMoves:
         case Kind::OrderIsMade: ShowOrder(); break;
         case Kind::CardIsTurned: ShowCard(); break;
-        // The message line tells of these.
+        // Their marks on the board are all there is to see.
         case Kind::Parasitizes:
         case Kind::IsEaten:
         case Kind::IsTorn:
@@ -61,16 +70,6 @@ void BoardPresentation::ShowHappening(const Happening& happening) {
         case Kind::Defends:
         case Kind::FailsToDefend: break;
     }
-}
-
-void BoardPresentation::Glide(const Happening& move) {
-    track_->Puddle()->Glide(move.Clan, move.Amoeba, move.From, desk_->Milliseconds(GlideMilliseconds));
-    DrawPuddle();
-}
-
-void BoardPresentation::FadeAway(const Happening& death) {
-    track_->Puddle()->FadeAway(death.Clan, death.Amoeba, death.Square, desk_->Milliseconds(GlideMilliseconds));
-    DrawPuddle();
 }
 
 void BoardPresentation::DrawPuddle() {
@@ -94,6 +93,7 @@ void BoardPresentation::Log(std::string_view line, int clan) {
 void BoardPresentation::ShowPhase(std::string_view phase) {
     strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
     strip_->Environment->ShowPhase();
+    motions_.EndAttack();
 }
 
 void BoardPresentation::ShowCaption(std::string_view caption) {
@@ -171,6 +171,7 @@ void BoardPresentation::DrawBoard() {
 
 void BoardPresentation::OutlinePiece(int clan, int amoeba, bool on) {
     track_->Puddle()->OutlinePiece(clan, amoeba, on);
+    motions_.EndAttack();
 }
 
 void BoardPresentation::Pause(int units) {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "model/presentation.h"
+#include "ui/window/board_motions.h"
 
 class QMainWindow;
 
@@ -50,8 +51,8 @@ public:
     void Wait() override;
 
 private:
-    void Glide(const Happening& move);
-    void FadeAway(const Happening& death);
+    /// What the state has become: pieces, labels, order of play and scores.
+    void ShowResult(const Happening& happening);
     void DrawPuddle();
     void ShowBP(int clan);
     void ShowGenes(int clan);
@@ -63,6 +64,7 @@ private:
     SideStrip* strip_;
     BoardMenus* menus_;
     QuestionDesk* desk_;
+    BoardMotions motions_;
 };
 
 /// Makes the presentation of a window out of its parts.

@@ -119,6 +119,7 @@ void QuestionDesk::Refresh(Question& question) {
             asked.Panel->Reread();
         }
     }
+    ShowAsked();
     strip_->Arrange();
     if (TopQuestion() == &question) {
         AnnounceTop();
@@ -158,12 +159,19 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
     strip_->SetPanels(panels);
     strip_->Question->AskYesNo(yesNo != nullptr);
+    ShowAsked();
     if (square != nullptr) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {
         asked_.back().Panel->FirstControl()->setFocus(reason);
     }
     AnnounceTop();
+}
+
+// A message box asks nothing.
+void QuestionDesk::ShowAsked() {
+    strip_->Question->ShowAsked(std::any_of(asked_.begin(), asked_.end(),
+                                            [](const Asked& asked) { return asked.What->Kind != QuestionKind::Box; }));
 }
 
 void QuestionDesk::AnnounceTop() {

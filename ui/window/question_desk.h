@@ -68,6 +68,8 @@ private:
 
     /// The topmost question takes the keyboard; one that has just opened brings its first control into sight.
     void ActivateTop(Qt::FocusReason reason);
+    /// Whether anything is asked, for the message line.
+    void ShowAsked();
     void AnnounceTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);
