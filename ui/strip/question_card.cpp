@@ -7,6 +7,7 @@
 #include "model/game_state.h"
 #include "ui/look/arrow_keys.h"
 #include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
 
 namespace plasmos {
 
@@ -43,7 +44,11 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
       state_(state),
-      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)) {
+      hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)),
+      about_(new FitLabel(this, 11, 9)) {
+    about_->setObjectName(QStringLiteral("questionHint"));
+    about_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    about_->hide();
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
     playerlab->setFont(LookFont(13, true));
@@ -91,10 +96,21 @@ void QuestionCard::ShowHint(const QString& hint) {
     hint_->setText(hint);
 }
 
+void QuestionCard::ShowAbout(const QString& about) {
+    about_->SetText(about);
+    setAccessibleDescription(about);
+    Arrange();
+}
+
+int QuestionCard::AboutHeight(int width) const {
+    return about_->text().isEmpty() ? 0 : about_->HeightAt(width - 2 * Pad);
+}
+
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
     SetLabelColour(hint_, LabelText(state_, messageClan_));
+    SetLabelColour(about_, LabelText(state_, messageClan_));
     const bool coloured = messageClan_ != 0;
     SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : Shade(Tone::CardEdge));
 }
@@ -120,12 +136,25 @@ void QuestionCard::Arrange() {
     autotenlab->setGeometry(width() - Pad - 84 - 98, 9, 94, 18);
     const bool room = height() > 110;
     const int foot = room ? ButtonHeight + 18 : 8;
-    msglab->setGeometry(Pad, 8 + HeadHeight, width() - 2 * Pad, height() - 10 - HeadHeight - foot);
+    ArrangeTexts(foot);
     const int top = height() - ButtonHeight - 12;
     yesb->setGeometry(Pad, top, 104, ButtonHeight);
     nob->setGeometry(Pad + 116, top, 104, ButtonHeight);
     hint_->setGeometry(Pad, top, width() - 2 * Pad, ButtonHeight);
     hint_->setVisible(room && !asking_);
+}
+
+// The question comes first; what stands beside it takes what is left.
+void QuestionCard::ArrangeTexts(int foot) {
+    const int wide = width() - 2 * Pad;
+    const int top = 8 + HeadHeight;
+    const int room = height() - 10 - HeadHeight - foot;
+    const int about = std::min(AboutHeight(width()), room - msglab->LeastHeightAt(wide));
+    const bool shown = !about_->text().isEmpty() && about >= about_->LeastHeightAt(wide);
+    about_->setVisible(shown);
+    about_->setGeometry(Pad, top + room - about, wide, std::max(about, 0));
+    msglab->setGeometry(Pad, top, wide, shown ? room - about : room);
+    setToolTip(shown ? QString() : PlainTip(about_->text()));
 }
 
 void QuestionCard::paintEvent(QPaintEvent* event) {

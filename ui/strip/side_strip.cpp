@@ -94,8 +94,8 @@ int SideStrip::ArrangeHead() {
         // The card gives way as long as the clans find room below it.
         const int left = height() - top - Gap - Clans->ShortHeight();
         const int least = std::min(std::max(LeastQuestion, Question->LeastHeight(width())), QuestionHeight);
-        const int question =
-            panels_.empty() ? std::clamp(left, least, QuestionHeight) : Question->HeightFor(width(), true);
+        const int question = panels_.empty() ? std::clamp(left, least, QuestionHeight + Question->AboutHeight(width()))
+                                             : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {

@@ -60,6 +60,8 @@ private:
 
     /// The topmost question takes the keyboard; one that has just opened brings its first control into sight.
     void ActivateTop(Qt::FocusReason reason);
+    /// Who listens is told of the topmost question.
+    void Speak();
     void AnnounceTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);
