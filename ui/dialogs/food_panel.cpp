@@ -216,7 +216,7 @@ void FoodPanel::ShowVerdict() {
                          : verdict.Menu == 0 ? QStringLiteral("Nothing entered: your amoeba must eat.")
                                              : QStringLiteral("Not legal: %1 is no menu of yours.").arg(verdict.Menu);
     verdict_->setText(text);
-    SetLabelColour(verdict_, Shade(verdict.Passes() ? Tone::Accent : Tone::Alarm));
+    SetLabelColour(verdict_, Shade(verdict.Passes() ? Tone::Accent : form_.AllZero() ? Tone::Ink : Tone::Alarm));
     eatb_->setAccessibleDescription(text);
 }
 
