@@ -13,6 +13,7 @@
 #include "ui/app/end_signals.h"
 #include "ui/app/qt_settings.h"
 #include "ui/app/scale_factors.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
 
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
     board.show();
     QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
     notice.setTextFormat(Qt::PlainText);
-    notice.setPalette(LookPalette());
+    Dress(notice);
     if (!fault.empty()) {
         notice.setModal(false);
         notice.show();

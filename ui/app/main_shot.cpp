@@ -19,6 +19,7 @@
 #include "model/services.h"
 #include "ui/app/auto_person.h"
 #include "ui/app/scale_factors.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
 
@@ -34,6 +35,8 @@ struct Wish {
     QString Folder;
     float Replay = 4711;
     QSize Size{1320, 860};
+    std::optional<Scheme> Colours;
+    int Points = 0;  ///< of the desktop's letters; 0: as they are
 };
 
 /// A window that takes pictures of itself.
@@ -88,7 +91,11 @@ DemoBoard::DemoBoard(QString folder)
       folder_(std::move(folder)) {}
 
 int Refuse(const char* why) {
-    std::fprintf(stderr, "plasmos-shot: %s; usage: plasmos-shot FILE [--replay N] [--size WxH] | --demo FOLDER\n", why);
+    std::fprintf(stderr,
+                 "plasmos-shot: %s; "
+                 "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] | "
+                 "--demo FOLDER\n",
+                 why);
     return 2;
 }
 
@@ -103,41 +110,45 @@ bool ReadSize(const QString& text, QSize& size) {
            size.height() <= 8000;
 }
 
+/// Takes the value of an option into a wish; what is wrong with it, or nullptr.
+const char* TakeOption(const QString& option, const QString& value, Wish& wish) {
+    if (option == QLatin1String("--replay")) {
+        return ParseReplayNumber(value.toStdString(), wish.Replay) ? nullptr : "the replay number is no number";
+    }
+    if (option == QLatin1String("--size")) {
+        return ReadSize(value, wish.Size) ? nullptr : "the size is no size";
+    }
+    if (option == QLatin1String("--colours")) {
+        wish.Colours = SchemeNamed(value);
+        return wish.Colours ? nullptr : "the colours are light, dark or contrast";
+    }
+    if (option == QLatin1String("--points")) {
+        wish.Points = value.toInt();
+        return wish.Points >= 6 && wish.Points <= 30 ? nullptr : "letters have 6 to 30 points";
+    }
+    wish.Folder = value;
+    return option == QLatin1String("--demo") ? nullptr : "unknown argument";
+}
+
 /// What is wanted; nothing where the arguments make no sense, with the reason in `why`.
 std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
     Wish wish;
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
+    why = nullptr;
+    for (qsizetype i = 0; i < arguments.size() && why == nullptr; ++i) {
         const QString& argument = arguments[i];
-        const bool takesValue = argument == QLatin1String("--replay") || argument == QLatin1String("--size") ||
-                                argument == QLatin1String("--demo");
-        if (takesValue && i + 1 == arguments.size()) {
-            why = "a value is missing";
-            return std::nullopt;
-        }
-        if (argument == QLatin1String("--replay")) {
-            if (!ParseReplayNumber(arguments[++i].toStdString(), wish.Replay)) {
-                why = "the replay number is no number";
-                return std::nullopt;
-            }
-        } else if (argument == QLatin1String("--size")) {
-            if (!ReadSize(arguments[++i], wish.Size)) {
-                why = "the size is no size";
-                return std::nullopt;
-            }
-        } else if (argument == QLatin1String("--demo")) {
-            wish.Folder = arguments[++i];
-        } else if (argument.startsWith(QLatin1String("--")) || !wish.File.isEmpty()) {
+        if (argument.startsWith(QLatin1String("--"))) {
+            why = i + 1 < arguments.size() ? TakeOption(argument, arguments[i + 1], wish) : "a value is missing";
+            ++i;
+        } else if (!wish.File.isEmpty()) {
             why = "unknown argument";
-            return std::nullopt;
         } else {
             wish.File = argument;
         }
     }
-    if (wish.File.isEmpty() == wish.Folder.isEmpty()) {
+    if (why == nullptr && wish.File.isEmpty() == wish.Folder.isEmpty()) {
         why = "one file or one folder is wanted";
-        return std::nullopt;
     }
-    return wish;
+    return why == nullptr ? std::optional(wish) : std::nullopt;
 }
 
 /// A game with a person who answers at once, until a question is open in the turn of the picture.
@@ -228,6 +239,12 @@ int main(int argc, char** argv) {
     services.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
     services.Settings = &settings;
+    WantScheme(wish->Colours);
+    if (wish->Points > 0) {
+        QFont letters = QApplication::font();
+        letters.setPointSize(wish->Points);
+        QApplication::setFont(letters);
+    }
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
     return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);

@@ -166,6 +166,8 @@ void DrawOffer(const GameState& state, QPainter& painter, int square, bool brigh
         painter.drawRoundedRect(rect, Corner, Corner);
         painter.setBrush(Qt::NoBrush);
     }
+    painter.setPen(QPen(Shade(Tone::OfferLine), bright ? 58 : 48));
+    painter.drawRoundedRect(rect, Corner, Corner);
     painter.setPen(QPen(Shade(Tone::OfferEdge), bright ? 38 : 28));
     painter.drawRoundedRect(rect, Corner, Corner);
 }

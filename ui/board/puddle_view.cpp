@@ -91,13 +91,14 @@ bool PuddleView::Offers(int square) const {
 }
 
 void PuddleView::DrawBackground() {
-    QString key = QStringLiteral("%1x%2x%3 %4x%5 %6:")
+    QString key = QStringLiteral("%1x%2x%3 %4x%5 %6%7:")
                       .arg(width())
                       .arg(height())
                       .arg(devicePixelRatioF())
                       .arg(state_->NumRows)
                       .arg(state_->NumCols)
-                      .arg(gridlines_ ? 1 : 0);
+                      .arg(gridlines_ ? 1 : 0)
+                      .arg(static_cast<int>(CurrentScheme()));
     for (int square = 1; square <= state_->NumSquares; ++square) {
         key += QLatin1Char(state_->Blocked[square] ? '1' : '0');
     }

@@ -8,6 +8,7 @@
 #include "files/text.h"
 #include "model/game_state.h"
 #include "ui/board/puddle_view.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/piece_layout.h"
 
@@ -48,9 +49,9 @@ ToolTips::ToolTips(PuddleView* puddle)
     TTwin_->setObjectName(QStringLiteral("TTwin"));
     TTwin_->setAttribute(Qt::WA_ShowWithoutActivating);
     TTwin_->setTextFormat(Qt::PlainText);
-    TTwin_->setFont(LookFont(13, true));
+    WearLetters(*TTwin_, 13, true);
     TTwin_->setMargin(5);
-    TTwin_->setStyleSheet(Styled(QStringLiteral("background:@Tip;color:@Ink;border:1px solid @FieldEdge")));
+    WearSheet(*TTwin_, QStringLiteral("background:@Tip;color:@Ink;border:1px solid @FieldEdge"));
     ttTimer_->setObjectName(QStringLiteral("ttTimer"));
     connect(ttTimer_, &QTimer::timeout, this, [this] { ttTimer_Timer(); });
     ttTimer_->start(WaitingMilliseconds);

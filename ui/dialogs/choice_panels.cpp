@@ -9,6 +9,7 @@
 
 #include "model/game_state.h"
 #include "ui/look/blob_shape.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -57,8 +58,8 @@ QString ButtonText(const QPushButton& button, const std::string& name) {
 QLabel* MakeText(QWidget* parent, const char* name, int pixels) {
     auto* label = new WrapLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
-    label->setFont(LookFont(pixels));
-    SetLabelColour(label, Shade(Tone::Ink));
+    WearLetters(*label, pixels);
+    WearTone(*label, Tone::Ink);
     return label;
 }
 
@@ -74,7 +75,7 @@ NumberPanel::NumberPanel(QWidget* parent, const GameState& state, AmNumfrm& form
         QPushButton* option = MakeButton(QStringLiteral("amopt%1").arg(k), QString::number(k), false);
         option->setMinimumWidth(30);
         option->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        option->setStyleSheet(QStringLiteral("padding:6px 2px;font-size:16px"));
+        WearSheet(*option, QStringLiteral("padding:6px 2px;font-size:@16px"));
         connect(option, &QPushButton::clicked, this, [this, k] { Handle([this, k] { form_.amopt_Click(k); }); });
         options_[static_cast<std::size_t>(k)] = option;
         grid->addWidget(option, 0, k);

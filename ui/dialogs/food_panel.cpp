@@ -10,6 +10,7 @@
 #include "ui/dialogs/choice_panels.h"
 #include "ui/dialogs/meal_chips.h"
 #include "ui/look/cube.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -58,6 +59,14 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
     }
     MakeRow(FirstLent);
     MakeRow(SecondLent);
+    MakeMeals();
+    MakeAlternatives();
+    Body()->addWidget(Hint());
+    MakeButtons();
+    FoodPanel::Reread();
+}
+
+void FoodPanel::MakeMeals() {
     Body()->addWidget(suggest_);
     connect(suggest_, &QPushButton::clicked, this, [this] { Handle([this] { form_.suggest_Click(); }); });
     Body()->addWidget(legal_);
@@ -67,8 +76,9 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
         eatb_->setFocus();
         Handle([this, meal] { form_.meal_Click(meal); });
     };
-    MakeAlternatives();
-    Body()->addWidget(Hint());
+}
+
+void FoodPanel::MakeButtons() {
     verdict_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     Foot()->addWidget(verdict_);
     auto* buttons = new QHBoxLayout;
@@ -85,7 +95,6 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
     const auto meals = meals_->Buttons();
     controls.insert(controls.end(), meals.begin(), meals.end());
     OrderTabs(controls);
-    FoodPanel::Reread();
 }
 
 void FoodPanel::MakeAlternatives() {
@@ -216,7 +225,7 @@ void FoodPanel::ShowVerdict() {
                          : verdict.Menu == 0 ? QStringLiteral("Nothing entered: your amoeba must eat.")
                                              : QStringLiteral("Not legal: %1 is no menu of yours.").arg(verdict.Menu);
     verdict_->setText(text);
-    SetLabelColour(verdict_, Shade(verdict.Passes() ? Tone::Accent : form_.AllZero() ? Tone::Ink : Tone::Alarm));
+    WearTone(*verdict_, verdict.Passes() ? Tone::Accent : form_.AllZero() ? Tone::Ink : Tone::Alarm);
     eatb_->setAccessibleDescription(text);
 }
 

@@ -34,7 +34,9 @@ private:
     };
 
     void MakeRow(int field);
+    void MakeMeals();
     void MakeAlternatives();
+    void MakeButtons();
     void RereadRow(int field);
     void Step(int field, int by);
     void NameRow(int field);

@@ -6,6 +6,7 @@
 #include "model/gene_texts.h"
 #include "questions/gene_form.h"
 #include "ui/dialogs/steady_label.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -89,7 +90,7 @@ GeneExplanation::GeneExplanation(QWidget* parent, const GameState& state, const 
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(1);
     name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    SetLabelColour(standing_, Shade(Tone::Accent));
+    WearTone(*standing_, Tone::Accent);
     for (QLabel* label : {name_, text_, standing_}) {
         lines->addWidget(label);
     }

@@ -8,6 +8,7 @@
 #include "model/gene_texts.h"
 #include "ui/dialogs/choice_panels.h"
 #include "ui/dialogs/gene_explanation.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -56,6 +57,15 @@ GenePanel::GenePanel(QWidget* parent, const GameState& state, GeneForm& form)
     MakeButtons();
     Connect();
     GenePanel::Reread();
+    made_ = true;
+}
+
+// The letters that are struck through are this dialog's own.
+void GenePanel::Redress() {
+    QuestionPanel::Redress();
+    if (made_) {
+        Reread();
+    }
 }
 
 void GenePanel::Connect() {

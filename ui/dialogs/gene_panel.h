@@ -23,6 +23,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void Redress() override;
 
 private:
     /// A gene's check box, with its price and what it gives below.
@@ -45,6 +46,7 @@ private:
     Line& At(int gene) { return lines_[static_cast<std::size_t>(gene)]; }
 
     GeneForm& form_;
+    bool made_ = false;
     bool rereading_ = false;
     std::array<Line, GeneCount + 1> lines_{};
     QLabel* text_;

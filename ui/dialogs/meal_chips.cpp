@@ -10,6 +10,7 @@
 
 #include "ui/dialogs/question_panel.h"
 #include "ui/look/cube.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -62,7 +63,7 @@ void MealChips::Make(const FoodForm& form) {
     for (const int menu : form.LegalMenus) {
         auto* button = new QPushButton(QString::number(menu), this);
         button->setObjectName(QStringLiteral("meal%1").arg(menu));
-        button->setStyleSheet(QStringLiteral("padding:2px 5px;min-height:18px;font-size:12px"));
+        WearSheet(*button, QStringLiteral("padding:2px 5px;min-height:@18px;font-size:@12px"));
         RefuseRepeats(button);
         const auto place = chips_.size();
         connect(button, &QPushButton::clicked, this, [this, place] { OnMeal(chips_[place].Meal); });

@@ -13,6 +13,7 @@
 #include "ui/dialogs/gene_panel.h"
 #include "ui/dialogs/victim_panel.h"
 #include "ui/look/arrow_keys.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
@@ -72,10 +73,9 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     title_->setWordWrap(true);
     head->addWidget(title_, 1);
     close_->setFocusPolicy(Qt::NoFocus);
-    close_->setStyleSheet(
-        Styled(QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:18px;"
-                              "padding:0;min-height:24px;min-width:24px;max-width:24px}"
-                              "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}")));
+    WearSheet(*close_, QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:@18px;"
+                                      "padding:0;min-height:@24px;min-width:@24px;max-width:@24px}"
+                                      "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}"));
     head->addWidget(close_, 0, Qt::AlignTop);
     outer->addLayout(head);
     outer->addWidget(message_);
@@ -88,10 +88,10 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     outer->addWidget(closing_);
     hint_->setText(ToQt(question.Hint));
     hint_->setVisible(!question.Hint.empty());
-    SetLabelColour(hint_, Shade(Tone::Faint));
+    WearTone(*hint_, Tone::Faint);
     setAccessibleDescription(Spoken());
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
-    SetColours(Shade(Tone::Card), clan_ > 0 ? ShadesOf(clan_).Dark : Shade(Tone::Accent));
+    SetEdge(clan_ > 0 ? clan_ : -1);
 }
 
 int QuestionPanel::HeightFor(int width) const {
@@ -151,7 +151,7 @@ void QuestionPanel::SayClosing(const QString& effect) {
 QPushButton* QuestionPanel::MakeStep(QWidget* parent, const QString& name, bool up) {
     auto* button = new QPushButton(up ? QStringLiteral("+") : QStringLiteral("−"), parent);
     button->setObjectName(name);
-    button->setStyleSheet(QStringLiteral("padding:0;min-width:24px;max-width:24px;min-height:22px;font-size:15px"));
+    WearSheet(*button, QStringLiteral("padding:0;min-width:@24px;max-width:@24px;min-height:@22px;font-size:@15px"));
     button->setFocusPolicy(Qt::NoFocus);
     button->setAutoRepeat(true);
     return button;

@@ -4,20 +4,20 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/look/palette.h"
+#include "ui/look/dress.h"
 
 namespace plasmos {
 
 SteadyLabel::SteadyLabel(QWidget* parent, const char* name, int pixels, QStringList texts)
     : WrapLabel(parent), texts_(std::move(texts)) {
     setObjectName(QString::fromLatin1(name));
-    setFont(LookFont(pixels));
+    WearLetters(*this, pixels);
     setAlignment(Qt::AlignTop);
-    SetLabelColour(this, Shade(Tone::Ink));
+    WearTone(*this, Tone::Ink);
 }
 
 int SteadyLabel::heightForWidth(int width) const {
-    if (width != width_) {
+    if (width != width_ || font() != font_) {
         WrapLabel other(nullptr);
         other.setFont(font());
         height_ = 0;
@@ -26,6 +26,7 @@ int SteadyLabel::heightForWidth(int width) const {
             height_ = std::max(height_, other.heightForWidth(width));
         }
         width_ = width;
+        font_ = font();
     }
     return height_;
 }

@@ -18,7 +18,8 @@ public:
 
 private:
     QStringList texts_;
-    mutable int width_ = -1;  ///< for which the height is known
+    mutable int width_ = -1;  ///< for which, with the letters, the height is known
+    mutable QFont font_;
     mutable int height_ = 0;
 };
 

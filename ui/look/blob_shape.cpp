@@ -22,7 +22,7 @@ QRadialGradient BodyGradient(const ClanShades& shades, QPointF centre, double ra
     QRadialGradient gradient(centre - QPointF(0.34, 0.46) * radius, radius * 1.6);
     gradient.setColorAt(0, shades.Light);
     gradient.setColorAt(0.42, shades.Body);
-    gradient.setColorAt(1, shades.Dark);
+    gradient.setColorAt(1, shades.Deep);
     return gradient;
 }
 
@@ -47,7 +47,7 @@ void DrawNucleus(QPainter& painter, const BlobLook& blob, QPointF centre, double
     const ClanShades& shades = ShadesOf(blob.Clan);
     const QPointF nucleus = centre - QPointF(0, radius * 0.1);
     painter.setBrush(shades.Nucleus);
-    painter.setPen(QPen(QColor(shades.Dark.red(), shades.Dark.green(), shades.Dark.blue(), 110), radius * 0.04));
+    painter.setPen(QPen(QColor(shades.Deep.red(), shades.Deep.green(), shades.Deep.blue(), 110), radius * 0.04));
     painter.drawEllipse(nucleus, radius * 0.5, radius * 0.5);
     QFont font = DrawnFont(radius * 0.62, true);
     painter.setFont(font);
@@ -95,7 +95,7 @@ void DrawBlob(QPainter& painter, const BlobLook& blob, QPointF centre, double ra
         painter.drawPath(path);
     }
     painter.setBrush(BodyGradient(shades, centre, radius));
-    painter.setPen(blob.Outlined ? QPen(Shade(Tone::PieceEdge), radius * 0.15) : QPen(shades.Dark, radius * 0.065));
+    painter.setPen(blob.Outlined ? QPen(Shade(Tone::PieceEdge), radius * 0.15) : QPen(shades.Edge, radius * 0.065));
     painter.drawPath(path);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Shade(Tone::Shine));

@@ -6,6 +6,7 @@
 #include <QTextLayout>
 #include <cmath>
 
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -22,22 +23,24 @@ void PillLabel::paintEvent(QPaintEvent*) {
     painter.drawText(rect(), Qt::AlignCenter, fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * margin));
 }
 
-void Card::SetColours(const QColor& background, const QColor& edge) {
-    background_ = background;
-    edge_ = edge;
+void Card::SetEdge(int clan) {
+    clan_ = clan;
     update();
+}
+
+void Card::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::StyleChange) {
+        Redress();
+        update();
+    }
+    QWidget::changeEvent(event);
 }
 
 void Card::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(edge_, 1.2));
-    constexpr double Sheen = 30;
-    QLinearGradient light(0, 0, 0, Sheen);
-    const QColor& own = background_;
-    light.setColorAt(0, QColor((own.red() + 255) / 2, (own.green() + 255) / 2, (own.blue() + 255) / 2));
-    light.setColorAt(1, own);
-    painter.setBrush(light);
+    painter.setPen(QPen(clan_ > 0 ? ShadesOf(clan_).Edge : Shade(clan_ == 0 ? Tone::CardEdge : Tone::Accent), 1.2));
+    painter.setBrush(Shade(Tone::Card));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
 }
 
@@ -48,6 +51,13 @@ FitLabel::FitLabel(QWidget* parent, int largest, int smallest)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     setFont(LookFont(largest));
+}
+
+void FitLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::StyleChange) {
+        Fit();
+    }
+    QLabel::changeEvent(event);
 }
 
 void FitLabel::SetText(const QString& text) {
@@ -65,7 +75,8 @@ int FitLabel::LeastHeightAt(int width) const {
 
 int FitLabel::HeightWith(int pixels, int width) const {
     const QFontMetrics metrics(LookFont(pixels, font().bold()));
-    return metrics.boundingRect(QRect(0, 0, std::max(width, 10), 10000), Qt::TextWordWrap, text()).height() + 2;
+    const int inner = std::max(width - 2 * margin(), 10);
+    return metrics.boundingRect(QRect(0, 0, inner, 10000), Qt::TextWordWrap, text()).height() + 2 * margin() + 2;
 }
 
 void FitLabel::resizeEvent(QResizeEvent* event) {
@@ -76,13 +87,28 @@ void FitLabel::resizeEvent(QResizeEvent* event) {
 void FitLabel::Fit() {
     for (int pixels = largest_; pixels >= smallest_; --pixels) {
         const QFont candidate = LookFont(pixels, font().bold());
-        const QRect room(0, 0, std::max(width(), 10), 10000);
+        const QSize inner = size() - QSize(2 * margin(), 2 * margin());
+        const QRect room(0, 0, std::max(inner.width(), 10), 10000);
         const QRect needed = QFontMetrics(candidate).boundingRect(room, Qt::TextWordWrap, text());
-        if (pixels == smallest_ || (needed.height() <= height() && needed.width() <= width())) {
+        if (pixels == smallest_ || (needed.height() <= inner.height() && needed.width() <= inner.width())) {
             setFont(candidate);
             return;
         }
     }
+}
+
+SpeechLabel::SpeechLabel(QWidget* parent, int largest, int smallest) : FitLabel(parent, largest, smallest) {
+    setMargin(Around);
+}
+
+void SpeechLabel::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(rect(), 8, 8);
+    painter.end();
+    FitLabel::paintEvent(event);
 }
 
 WrapLabel::WrapLabel(QWidget* parent) : QLabel(parent) {
@@ -138,8 +164,8 @@ QLabel* MakeLabel(QWidget* parent, const QString& name, int pixels, bool bold, T
     auto* label = new QLabel(parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(LookFont(pixels, bold));
-    SetLabelColour(label, Shade(tone));
+    WearLetters(*label, pixels, bold);
+    WearTone(*label, tone);
     return label;
 }
 

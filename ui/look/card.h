@@ -16,15 +16,17 @@ class Card : public QWidget {
 public:
     explicit Card(QWidget* parent) : QWidget(parent) {}
 
-    /// The background is exactly the colour from 30 pixels down, with light on the upper edge.
-    void SetColours(const QColor& background, const QColor& edge);
+    /// The edge is a clan's, of no clan (0), or that of what asks for nobody (-1).
+    void SetEdge(int clan);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    /// Colours or letters have changed.
+    virtual void Redress() {}
 
 private:
-    QColor background_ = Shade(Tone::Card);
-    QColor edge_ = Shade(Tone::CardEdge);
+    int clan_ = 0;
 };
 
 /// A label that fills a rounded rectangle with its palette's window colour.
@@ -49,6 +51,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     int HeightWith(int pixels, int width) const;
@@ -56,6 +59,18 @@ private:
 
     int largest_;
     int smallest_;
+};
+
+/// The same on a rounded ground of its palette's window colour.
+class SpeechLabel : public FitLabel {
+public:
+    SpeechLabel(QWidget* parent, int largest, int smallest);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    static constexpr int Around = 4;
 };
 
 /// A text that breaks at blanks, and within a word that is longer than a line, such as a path.

@@ -11,7 +11,7 @@ void DrawCube(QPainter& painter, int clan, const QRectF& cube) {
     const ClanShades& shades = ShadesOf(clan);
     const double side = cube.width();
     painter.setBrush(shades.Body);
-    painter.setPen(QPen(shades.Dark, side * 0.085));
+    painter.setPen(QPen(shades.Edge, side * 0.085));
     painter.drawRoundedRect(cube.adjusted(side * 0.04, side * 0.04, -side * 0.04, -side * 0.04), side * 0.2,
                             side * 0.2);
     painter.setPen(QPen(Shade(Tone::Shine), side * 0.11, Qt::SolidLine, Qt::RoundCap));

@@ -75,17 +75,18 @@ QString SignCharacter(int clan) {
 
 void DrawClanBadge(QPainter& painter, int clan, QPointF centre, double radius) {
     const ClanShades& shades = ShadesOf(clan);
-    painter.setPen(QPen(shades.Dark, radius * 0.14));
+    painter.setPen(QPen(shades.Edge, radius * 0.14));
     painter.setBrush(shades.Body);
     painter.drawEllipse(centre, radius, radius);
     painter.setPen(Qt::NoPen);
     painter.setBrush(shades.Ink);
-    painter.drawPath(SignPath(clan, centre, radius * 0.44));
+    painter.drawPath(SignPath(clan, centre, radius * 0.58));
 }
 
 QFont DrawnFont(double pixels, bool bold) {
     QFont font;
-    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI"), QStringLiteral("DejaVu Sans")});
+    font.setFamilies({QApplication::font().family(), QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI"),
+                      QStringLiteral("DejaVu Sans")});
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -93,7 +94,7 @@ QFont DrawnFont(double pixels, bool bold) {
 }
 
 QFont LookFont(double pixels, bool bold) {
-    return DrawnFont(pixels, bold);
+    return DrawnFont(pixels * Letters(), bold);
 }
 
 QPalette LookPalette() {
@@ -120,14 +121,14 @@ QPalette LookPalette() {
 
 QString LookSheet() {
     return Styled(QStringLiteral(
-        "QMenuBar{background:@Button;color:@Ink;border-bottom:1px solid @MenuEdge}"
+        "QMenuBar{background:@Button;color:@Ink;border-bottom:1px solid @MenuEdge;font-size:@13px}"
         "QMenuBar::item{padding:4px 12px;background:transparent}"
         "QMenuBar::item:selected{background:@Highlight;border-radius:4px}"
-        "QMenu{background:@Card;color:@Ink;border:1px solid @MenuEdge}"
+        "QMenu{background:@Card;color:@Ink;border:1px solid @MenuEdge;font-size:@13px}"
         "QMenu::item:selected{background:@Accent;color:@OnAccent}"
         "QMenu::item:disabled{color:@Disabled}"
         "QPushButton{background:@Card;color:@Accent;border:1.5px solid @Accent;border-radius:7px;"
-        "padding:4px 14px;font-weight:bold;min-height:18px}"
+        "padding:4px 14px;font-weight:bold;font-size:@13px;min-height:@18px}"
         "QPushButton:hover{background:@Highlight}"
         "QPushButton:pressed{background:@AccentPressed}"
         "QPushButton:focus{border:2.5px solid @Focus}"
@@ -135,7 +136,8 @@ QString LookSheet() {
         "QPushButton[main=\"true\"]{background:@Accent;color:@OnAccent}"
         "QPushButton[main=\"true\"]:hover{background:@AccentHover}"
         "QPushButton[main=\"true\"]:disabled{background:@AccentDisabled;color:@OnAccent;border-color:@AccentDisabled}"
-        "QLineEdit{background:@Field;color:@Ink;border:1px solid @FieldEdge;border-radius:5px;padding:2px 5px}"
+        "QLineEdit{background:@Field;color:@Ink;border:1px solid @FieldEdge;border-radius:5px;padding:2px "
+        "5px;font-size:@13px}"
         "QLineEdit:focus{border:2px solid @Focus}"
         "QLineEdit:disabled{background:@FieldDisabled;color:@Disabled}"
         "QScrollBar:vertical{background:transparent;width:11px;margin:0}"
@@ -150,8 +152,6 @@ void PrepareApplication() {
     QApplication::setOrganizationName(QStringLiteral("QX"));
     QApplication::setApplicationName(QStringLiteral("Plasmos"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(LookPalette());
-    QApplication::setFont(LookFont(13));
 }
 
 }  // namespace plasmos

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/look/theme.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 #include <vector>
 
@@ -15,84 +17,86 @@ namespace {
 struct ToneRow {
     Tone What;
     const char* Name;
-    QRgb Light;
+    std::array<QRgb, SchemeCount> In;  ///< by scheme
 };
 
+// ---------- light, dark, high contrast ----------
 constexpr ToneRow Tones[] = {
-    {Tone::Window, "Window", 0xFFF4F2EC},
-    {Tone::Card, "Card", 0xFFFFFFFF},
-    {Tone::CardEdge, "CardEdge", 0xFFDDD8CB},
-    {Tone::Ink, "Ink", 0xFF22272B},
-    {Tone::Faint, "Faint", 0xFF7A7669},
-    {Tone::Disabled, "Disabled", 0xFFA5A195},
-    {Tone::Placeholder, "Placeholder", 0xFF9A958A},
-    {Tone::Accent, "Accent", 0xFF2C6E78},
-    {Tone::OnAccent, "OnAccent", 0xFFFFFFFF},
-    {Tone::AccentHover, "AccentHover", 0xFF37848F},
-    {Tone::AccentPressed, "AccentPressed", 0xFFCFE5E4},
-    {Tone::AccentDisabled, "AccentDisabled", 0xFFB9C9C8},
-    {Tone::Highlight, "Highlight", 0xFFE4F1F0},
-    {Tone::HighlightPressed, "HighlightPressed", 0xFFEFEBDF},
-    {Tone::Focus, "Focus", 0xFFFFAE00},
-    {Tone::Alarm, "Alarm", 0xFFC8231E},
-    {Tone::Field, "Field", 0xFFFFFFFF},
-    {Tone::FieldEdge, "FieldEdge", 0xFFBDB7A8},
-    {Tone::FieldDisabled, "FieldDisabled", 0xFFEFEDE6},
-    {Tone::Button, "Button", 0xFFFBFAF7},
-    {Tone::ButtonDisabled, "ButtonDisabled", 0xFFF3F1EA},
-    {Tone::MenuEdge, "MenuEdge", 0xFFCFC8B8},
-    {Tone::Tip, "Tip", 0xFFFFFBE6},
-    {Tone::Chip, "Chip", 0xFFF3EFE4},
-    {Tone::ChipEdge, "ChipEdge", 0xFFDDD7C8},
-    {Tone::ChipInk, "ChipInk", 0xFF3C3A33},
-    {Tone::Badge, "Badge", 0xC8FFFFFF},
-    {Tone::Shadow, "Shadow", 0x2D000000},
-    {Tone::Track, "Track", 0xFFFFFDF8},
-    {Tone::TrackEdge, "TrackEdge", 0xFFCFC8B8},
-    {Tone::TrackOdd, "TrackOdd", 0xFFF7F3E8},
-    {Tone::TrackLine, "TrackLine", 0xFFE3DCCB},
-    {Tone::TrackInk, "TrackInk", 0xFF8A8270},
-    {Tone::Goal, "Goal", 0xFFFFF0A8},
-    {Tone::GoalEdge, "GoalEdge", 0xFFD9B100},
-    {Tone::GoalInk, "GoalInk", 0xFF7A6200},
-    {Tone::LevelLow, "LevelLow", 0xFF8FD3FF},
-    {Tone::LevelMiddle, "LevelMiddle", 0xFFFFD65A},
-    {Tone::LevelHigh, "LevelHigh", 0xFFFF5A4A},
-    {Tone::WaterLight, "WaterLight", 0xFFCFEFEA},
-    {Tone::WaterMiddle, "WaterMiddle", 0xFF8FCFCB},
-    {Tone::WaterDeep, "WaterDeep", 0xFF4C9AA3},
-    {Tone::WaterEdge, "WaterEdge", 0x782F7E88},
-    {Tone::Ripple, "Ripple", 0x2CFFFFFF},
-    {Tone::Glass, "Glass", 0x2EFFFFFF},
-    {Tone::GlassFar, "GlassFar", 0x14FFFFFF},
-    {Tone::GlassEdge, "GlassEdge", 0x82FFFFFF},
-    {Tone::Stone, "Stone", 0xFFCFC9BE},
-    {Tone::StoneDark, "StoneDark", 0xFF7E776B},
-    {Tone::StoneEdge, "StoneEdge", 0xFF6A6458},
-    {Tone::StoneShadow, "StoneShadow", 0x28083B42},
-    {Tone::StoneShine, "StoneShine", 0x82FFFFFF},
-    {Tone::SquareInk, "SquareInk", 0xDC1F555E},
-    {Tone::NoFood, "NoFood", 0x46FFFFFF},
-    {Tone::CountGround, "CountGround", 0xCDE6F6F3},
-    {Tone::CountInk, "CountInk", 0xFF0F3D45},
-    {Tone::Offer, "Offer", 0x5CFFF8D6},
-    {Tone::OfferBright, "OfferBright", 0x96FFF8D6},
-    {Tone::OfferGlow, "OfferGlow", 0x2AFFBE28},
-    {Tone::OfferGlowBright, "OfferGlowBright", 0x40FFBE28},
-    {Tone::OfferEdge, "OfferEdge", 0xFFFFAE00},
-    {Tone::SpokenOf, "SpokenOf", 0x3CFFFFFF},
-    {Tone::SpokenOfEdge, "SpokenOfEdge", 0xEBFFFFFF},
-    {Tone::Hover, "Hover", 0xD2FFFFFF},
-    {Tone::PieceEdge, "PieceEdge", 0xFF101416},
-    {Tone::PieceHalo, "PieceHalo", 0xFFFFFFFF},
-    {Tone::Crack, "Crack", 0xFF141414},
-    {Tone::PieceShadow, "PieceShadow", 0x22083B42},
-    {Tone::Shine, "Shine", 0x4BFFFFFF},
-    {Tone::PlanWater, "PlanWater", 0xFF9AD5D0},
-    {Tone::PlanLine, "PlanLine", 0xAAFFFFFF},
-    {Tone::PlanStone, "PlanStone", 0xFF9A9488},
-    {Tone::PlanEdge, "PlanEdge", 0xFF000000},
-    {Tone::PlanPicked, "PlanPicked", 0xFFFFFF00},
+    {Tone::Window, "Window", {0xFFF4F2EC, 0xFF1B2124, 0xFF000000}},
+    {Tone::Card, "Card", {0xFFFFFFFF, 0xFF252C30, 0xFF000000}},
+    {Tone::CardEdge, "CardEdge", {0xFFDDD8CB, 0xFF46525A, 0xFFFFFFFF}},
+    {Tone::Ink, "Ink", {0xFF22272B, 0xFFECEFF0, 0xFFFFFFFF}},
+    {Tone::Faint, "Faint", {0xFF67634F, 0xFFABB4B8, 0xFFFFFFFF}},
+    {Tone::Disabled, "Disabled", {0xFFA5A195, 0xFF7C868B, 0xFFB4B4B4}},
+    {Tone::Placeholder, "Placeholder", {0xFF6F6A5E, 0xFF9AA4A9, 0xFFD0D0D0}},
+    {Tone::Accent, "Accent", {0xFF2C6E78, 0xFF7CCBD3, 0xFF7FE9FF}},
+    {Tone::OnAccent, "OnAccent", {0xFFFFFFFF, 0xFF0E1517, 0xFF000000}},
+    {Tone::AccentHover, "AccentHover", {0xFF37848F, 0xFF9BDBE1, 0xFFB8F3FF}},
+    {Tone::AccentPressed, "AccentPressed", {0xFFCFE5E4, 0xFF35525A, 0xFF00404C}},
+    {Tone::AccentDisabled, "AccentDisabled", {0xFFB9C9C8, 0xFF4A6468, 0xFF707070}},
+    {Tone::Highlight, "Highlight", {0xFFE4F1F0, 0xFF31444A, 0xFF003A46}},
+    {Tone::HighlightPressed, "HighlightPressed", {0xFFEFEBDF, 0xFF3A454B, 0xFF00404C}},
+    {Tone::Focus, "Focus", {0xFFC27400, 0xFFFFB92E, 0xFFFFFF00}},
+    {Tone::Alarm, "Alarm", {0xFFC8231E, 0xFFFF8C84, 0xFFFFA0A0}},
+    {Tone::Field, "Field", {0xFFFFFFFF, 0xFF1F2528, 0xFF000000}},
+    {Tone::FieldEdge, "FieldEdge", {0xFF8E8878, 0xFF748189, 0xFFFFFFFF}},
+    {Tone::FieldDisabled, "FieldDisabled", {0xFFEFEDE6, 0xFF2A3236, 0xFF000000}},
+    {Tone::Button, "Button", {0xFFFBFAF7, 0xFF2A3236, 0xFF000000}},
+    {Tone::ButtonDisabled, "ButtonDisabled", {0xFFF3F1EA, 0xFF283034, 0xFF000000}},
+    {Tone::MenuEdge, "MenuEdge", {0xFFCFC8B8, 0xFF55626A, 0xFFFFFFFF}},
+    {Tone::Tip, "Tip", {0xFFFFFBE6, 0xFF3A3A2A, 0xFF000000}},
+    {Tone::Chip, "Chip", {0xFFF3EFE4, 0xFF333C41, 0xFF000000}},
+    {Tone::ChipEdge, "ChipEdge", {0xFFDDD7C8, 0xFF586770, 0xFFFFFFFF}},
+    {Tone::ChipInk, "ChipInk", {0xFF3C3A33, 0xFFE2E7E9, 0xFFFFFFFF}},
+    {Tone::Badge, "Badge", {0xC8FFFFFF, 0xFF252C30, 0xFF000000}},
+    {Tone::Shadow, "Shadow", {0x2D000000, 0x50000000, 0x50000000}},
+    {Tone::Track, "Track", {0xFFFFFDF8, 0xFF22292D, 0xFF000000}},
+    {Tone::TrackEdge, "TrackEdge", {0xFFCFC8B8, 0xFF55626A, 0xFFFFFFFF}},
+    {Tone::TrackOdd, "TrackOdd", {0xFFF7F3E8, 0xFF2A3236, 0xFF000000}},
+    {Tone::TrackLine, "TrackLine", {0xFFE3DCCB, 0xFF3C484F, 0xFF8A8A8A}},
+    {Tone::TrackInk, "TrackInk", {0xFF6B6452, 0xFFA9B3B8, 0xFFFFFFFF}},
+    {Tone::Goal, "Goal", {0xFFFFF0A8, 0xFF5A4B00, 0xFF3A3000}},
+    {Tone::GoalEdge, "GoalEdge", {0xFFD9B100, 0xFFE3BC1A, 0xFFFFFF00}},
+    {Tone::GoalInk, "GoalInk", {0xFF6B5600, 0xFFFFE680, 0xFFFFFF00}},
+    {Tone::LevelLow, "LevelLow", {0xFF8FD3FF, 0xFF5BB4EA, 0xFF5BB4EA}},
+    {Tone::LevelMiddle, "LevelMiddle", {0xFFFFD65A, 0xFFE8BC3A, 0xFFE8BC3A}},
+    {Tone::LevelHigh, "LevelHigh", {0xFFFF5A4A, 0xFFF0604F, 0xFFF0604F}},
+    {Tone::WaterLight, "WaterLight", {0xFFCFEFEA, 0xFF1F5560, 0xFF06222A}},
+    {Tone::WaterMiddle, "WaterMiddle", {0xFF8FCFCB, 0xFF17444E, 0xFF041A20}},
+    {Tone::WaterDeep, "WaterDeep", {0xFF74BBC0, 0xFF0F333C, 0xFF021014}},
+    {Tone::WaterEdge, "WaterEdge", {0xFF1F6570, 0xFF5FA9B4, 0xFFFFFFFF}},
+    {Tone::Ripple, "Ripple", {0x2CFFFFFF, 0x18FFFFFF, 0x00FFFFFF}},
+    {Tone::Glass, "Glass", {0x2EFFFFFF, 0x1EFFFFFF, 0x00FFFFFF}},
+    {Tone::GlassFar, "GlassFar", {0x14FFFFFF, 0x0CFFFFFF, 0x00FFFFFF}},
+    {Tone::GlassEdge, "GlassEdge", {0x82FFFFFF, 0x6EFFFFFF, 0xFFC8C8C8}},
+    {Tone::Stone, "Stone", {0xFFCFC9BE, 0xFF8D887C, 0xFF8D887C}},
+    {Tone::StoneDark, "StoneDark", {0xFF7E776B, 0xFF5A564C, 0xFF5A564C}},
+    {Tone::StoneEdge, "StoneEdge", {0xFF3A362E, 0xFFB9B3A4, 0xFFFFFFFF}},
+    {Tone::StoneShadow, "StoneShadow", {0x28083B42, 0x50000000, 0x50000000}},
+    {Tone::StoneShine, "StoneShine", {0x82FFFFFF, 0x50FFFFFF, 0x50FFFFFF}},
+    {Tone::SquareInk, "SquareInk", {0xDC1F555E, 0xF0D6EEF0, 0xFFFFFFFF}},
+    {Tone::NoFood, "NoFood", {0x46FFFFFF, 0x46FFFFFF, 0x64FFFFFF}},
+    {Tone::CountGround, "CountGround", {0xCDE6F6F3, 0xE60C2026, 0xFF000000}},
+    {Tone::CountInk, "CountInk", {0xFF0F3D45, 0xFFE8F6F4, 0xFFFFFFFF}},
+    {Tone::Offer, "Offer", {0x5CFFF8D6, 0x50FFC84A, 0x40FFFF00}},
+    {Tone::OfferBright, "OfferBright", {0x96FFF8D6, 0x82FFC84A, 0x70FFFF00}},
+    {Tone::OfferGlow, "OfferGlow", {0x2AFFBE28, 0x2AFFBE28, 0x20FFFF00}},
+    {Tone::OfferGlowBright, "OfferGlowBright", {0x40FFBE28, 0x40FFBE28, 0x30FFFF00}},
+    {Tone::OfferEdge, "OfferEdge", {0xFFFFAE00, 0xFFFFB92E, 0xFFFFFF00}},
+    {Tone::OfferLine, "OfferLine", {0xFF5A3A00, 0xFFFFD98A, 0xFFFFFF00}},
+    {Tone::SpokenOf, "SpokenOf", {0x3CFFFFFF, 0x32FFFFFF, 0x32FFFFFF}},
+    {Tone::SpokenOfEdge, "SpokenOfEdge", {0xEBFFFFFF, 0xEBFFFFFF, 0xEBFFFFFF}},
+    {Tone::Hover, "Hover", {0xD2FFFFFF, 0xD2FFFFFF, 0xD2FFFFFF}},
+    {Tone::PieceEdge, "PieceEdge", {0xFF101416, 0xFFFFFFFF, 0xFFFFFFFF}},
+    {Tone::PieceHalo, "PieceHalo", {0xFFFFFFFF, 0xFF101416, 0xFF101416}},
+    {Tone::Crack, "Crack", {0xFF141414, 0xFF141414, 0xFF141414}},
+    {Tone::PieceShadow, "PieceShadow", {0x22083B42, 0x50000000, 0x50000000}},
+    {Tone::Shine, "Shine", {0x4BFFFFFF, 0x4BFFFFFF, 0x4BFFFFFF}},
+    {Tone::PlanWater, "PlanWater", {0xFF9AD5D0, 0xFF17444E, 0xFF06222A}},
+    {Tone::PlanLine, "PlanLine", {0xAAFFFFFF, 0x78FFFFFF, 0xFFC8C8C8}},
+    {Tone::PlanStone, "PlanStone", {0xFF9A9488, 0xFF8D887C, 0xFF8D887C}},
+    {Tone::PlanEdge, "PlanEdge", {0xFF000000, 0xFFECEFF0, 0xFFFFFFFF}},
+    {Tone::PlanPicked, "PlanPicked", {0xFFFFFF00, 0xFFFFFF00, 0xFFFFFF00}},
 };
 
 constexpr bool InOrder() {
@@ -106,23 +110,99 @@ constexpr bool InOrder() {
 }
 static_assert(InOrder(), "a row for every tone, in their order");
 
+Scheme current = Scheme::Light;
+double letters = 1;
+
+/// Relative luminance of a colour, 0 (black) to 1 (white).
+double Luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
+Scheme CurrentScheme() {
+    return current;
+}
+
+void SetScheme(Scheme scheme) {
+    current = scheme;
+}
+
+Scheme SchemeOf(const QPalette& desktop) {
+    const QColor ground = desktop.color(QPalette::Window);
+    const QColor letters = desktop.color(QPalette::WindowText);
+    constexpr double nearlyBlackAndWhite = 20.5;
+    if (ContrastOf(ground, letters) >= nearlyBlackAndWhite) {
+        return Scheme::Contrast;
+    }
+    return ground.lightnessF() < letters.lightnessF() ? Scheme::Dark : Scheme::Light;
+}
+
+double ContrastOf(const QColor& one, const QColor& other) {
+    const double first = Luminance(one);
+    const double second = Luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QColor ShadeIn(Scheme scheme, Tone tone) {
+    return QColor::fromRgba(Tones[static_cast<std::size_t>(tone)].In[static_cast<std::size_t>(scheme)]);
+}
+
 QColor Shade(Tone tone) {
-    return QColor::fromRgba(Tones[static_cast<std::size_t>(tone)].Light);
+    return ShadeIn(CurrentScheme(), tone);
+}
+
+namespace {
+
+using Shades = std::array<ClanShades, MaxClans + 1>;
+
+/// Blobs and cubes keep their colours in every scheme; their outlines stand out from what lies under them.
+Shades MakeShades(const std::array<QRgb, MaxClans + 1>& edges) {
+    constexpr QRgb bodies[][4] = {
+        {0xFFE8E6E0, 0xFFB5B1A6, 0xFF6E6A60, 0xFF222222}, {0xFF9DA8FF, 0xFF2A3BFF, 0xFF0A1AA8, 0xFFFFFFFF},
+        {0xFFFFC2FF, 0xFFE637E6, 0xFF8E0F8E, 0xFFFFFFFF}, {0xFFFFF8B8, 0xFFFFE52B, 0xFF9C8500, 0xFF1B1B12},
+        {0xFFFFB3B6, 0xFFF0303A, 0xFF8A0A12, 0xFFFFFFFF}, {0xFFA9EBB4, 0xFF0E9F25, 0xFF07611A, 0xFFFFFFFF},
+        {0xFFFFD3A6, 0xFFFF8A1F, 0xFF9A4B00, 0xFF1B1B12},
+    };
+    constexpr QRgb white = 0xFFFFFFFF;
+    Shades shades;
+    for (std::size_t clan = 0; clan < shades.size(); ++clan) {
+        const auto& [light, body, deep, ink] = bodies[clan];
+        const QColor nucleus = QColor::fromRgba(ink == white ? 0x26FFFFFF : 0x78FFFFFF);
+        shades[clan] = {QColor(light), QColor(body), QColor(deep), QColor(edges[clan]), QColor(ink), nucleus};
+    }
+    return shades;
+}
+
+}  // namespace
+
+const ClanShades& ShadesIn(Scheme scheme, int clan) {
+    static const std::array<Shades, SchemeCount> shades = {
+        MakeShades({0xFF5E5A50, 0xFF0A1AA8, 0xFF7A0A7A, 0xFF5C4E00, 0xFF8A0A12, 0xFF07541A, 0xFF7E3D00}),
+        MakeShades({0xFFE8E6E0, 0xFFB4BDFF, 0xFFFFC2FF, 0xFFFFF8B8, 0xFFFFB3B6, 0xFFA9EBB4, 0xFFFFD3A6}),
+        MakeShades({0xFFFFFFFF, 0xFFC8CFFF, 0xFFFFD6FF, 0xFFFFFAC8, 0xFFFFCBCD, 0xFFC2F2CA, 0xFFFFDFBD}),
+    };
+    const bool named = clan >= 1 && clan <= MaxClans;
+    return shades[static_cast<std::size_t>(scheme)][named ? static_cast<std::size_t>(clan) : 0];
 }
 
 const ClanShades& ShadesOf(int clan) {
-    static const std::array<ClanShades, 7> shades = {{
-        {QColor(0xE8E6E0), QColor(0xB5B1A6), QColor(0x6E6A60), QColor(0x222222), QColor(255, 255, 255, 120)},
-        {QColor(0x9DA8FF), QColor(0x2A3BFF), QColor(0x0A1AA8), QColor(0xFFFFFF), QColor(255, 255, 255, 38)},
-        {QColor(0xFFC2FF), QColor(0xE637E6), QColor(0x8E0F8E), QColor(0xFFFFFF), QColor(255, 255, 255, 38)},
-        {QColor(0xFFF8B8), QColor(0xFFE52B), QColor(0x9C8500), QColor(0x1B1B12), QColor(255, 255, 255, 120)},
-        {QColor(0xFFB3B6), QColor(0xF0303A), QColor(0x8A0A12), QColor(0xFFFFFF), QColor(255, 255, 255, 38)},
-        {QColor(0xA9EBB4), QColor(0x12B02A), QColor(0x07611A), QColor(0xFFFFFF), QColor(255, 255, 255, 38)},
-        {QColor(0xFFD3A6), QColor(0xFF8A1F), QColor(0x9A4B00), QColor(0x1B1B12), QColor(255, 255, 255, 120)},
-    }};
-    return shades[clan >= 1 && clan <= MaxClans ? static_cast<std::size_t>(clan) : 0];
+    return ShadesIn(CurrentScheme(), clan);
+}
+
+double Letters() {
+    return letters;
+}
+
+void SetLetters(double factor) {
+    letters = factor;
+}
+
+int Px(double usual) {
+    return static_cast<int>(std::lround(usual * letters));
 }
 
 // Longer names first: "@CardEdge" is not "@Card" and more.
@@ -144,6 +224,11 @@ QString Styled(QString sheet) {
                                                                        .arg(colour.green())
                                                                        .arg(colour.blue())
                                                                        .arg(colour.alpha()));
+    }
+    static const QRegularExpression length(QStringLiteral("@(\\d+)px"));
+    for (auto found = length.match(sheet); found.hasMatch(); found = length.match(sheet)) {
+        sheet.replace(found.capturedStart(), found.capturedLength(),
+                      QStringLiteral("%1px").arg(Px(found.captured(1).toInt())));
     }
     return sheet;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 #include <QString>
 
 namespace plasmos {
@@ -77,6 +78,7 @@ enum class Tone {
     OfferGlow,
     OfferGlowBright,
     OfferEdge,
+    OfferLine,  ///< around the glow, for whom amber and water are alike
     SpokenOf,
     SpokenOfEdge,
     Hover,
@@ -92,21 +94,44 @@ enum class Tone {
     PlanPicked,
 };
 
-/// The colour that something has now.
+/// What a window is coloured for.
+enum class Scheme { Light, Dark, Contrast };
+inline constexpr int SchemeCount = 3;
+
+/// The scheme in force; the light one until another is set.
+Scheme CurrentScheme();
+void SetScheme(Scheme scheme);
+/// The scheme that goes with a desktop's palette: light letters want the dark one, and black with white or white with
+/// black, and nothing between, high contrast.
+Scheme SchemeOf(const QPalette& desktop);
+
+/// The colour that something has now, and in a scheme.
 QColor Shade(Tone tone);
+QColor ShadeIn(Scheme scheme, Tone tone);
+/// How well two colours are told apart, 1 (not at all) to 21, by their relative luminance; 4.5 lets a text be read.
+double ContrastOf(const QColor& one, const QColor& other);
 /// The shades in which one clan is drawn.
 struct ClanShades {
     QColor Light;    ///< the lit side of a blob
-    QColor Body;     ///< cubes, markers, signs on white
-    QColor Dark;     ///< outlines and small signs
+    QColor Body;     ///< cubes, markers, signs
+    QColor Deep;     ///< the far side of a blob
+    QColor Edge;     ///< outlines and small signs, on water and on cards
     QColor Ink;      ///< numbers and signs on the body colour
     QColor Nucleus;  ///< laid over the body colour, under the number
 };
 
-/// Shades of clan 1..6; greys for any other number.
+/// Shades of clan 1..6 in the scheme in force; greys for any other number.
 const ClanShades& ShadesOf(int clan);
+const ClanShades& ShadesIn(Scheme scheme, int clan);
 
-/// A style sheet in which "@Ink" stands for the colour of Tone::Ink.
+/// How much larger letters are than usual: 1 up to a desktop's letters of 11 points, more with larger ones and in a
+/// large window.
+double Letters();
+void SetLetters(double factor);
+/// A length for what surrounds letters, in pixels, from what it is with usual ones.
+int Px(double usual);
+/// A style sheet in which "@Ink" stands for the colour of Tone::Ink, and "@13px" for what 13 pixels are among usual
+/// letters.
 QString Styled(QString sheet);
 
 }  // namespace plasmos

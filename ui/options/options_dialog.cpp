@@ -13,6 +13,7 @@
 #include "files/settings_store.h"
 #include "model/game_state.h"
 #include "ui/look/card.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
@@ -22,7 +23,7 @@ OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles
     : QDialog(parent), settings_(settings), files_(files), model_(settings), tbsOptions_(new QTabWidget(this)) {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(QStringLiteral("Preferences"));
-    setPalette(LookPalette());
+    Dress(*this);
     tbsOptions_->setObjectName(QStringLiteral("tbsOptions"));
     auto* outer = new QVBoxLayout(this);
     outer->addWidget(tbsOptions_);

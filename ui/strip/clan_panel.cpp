@@ -7,6 +7,7 @@
 
 #include "model/game_state.h"
 #include "ui/look/card.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/strip/gene_chips.h"
 
@@ -37,7 +38,7 @@ ClanPanel::ClanPanel(QWidget* parent, const GameState& state) : QWidget(parent),
         bplab[index] = MakeLabel(this, QStringLiteral("bplab%1").arg(i), 16, true, Tone::Ink);
         orderlab[index] = new PillLabel(this);
         orderlab[index]->setObjectName(QStringLiteral("orderlab%1").arg(i));
-        orderlab[index]->setFont(LookFont(15, true));
+        WearLetters(*orderlab[index], 15, true);
         bplab[index]->setToolTip(QStringLiteral("Bio-points"));
         orderlab[index]->setToolTip(QStringLiteral("Score"));
     }
@@ -57,15 +58,15 @@ bool ClanPanel::Shown() const {
 }
 
 int ClanPanel::FullHeight() const {
-    return static_cast<int>((FullCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
+    return Px((FullCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
 }
 
 int ClanPanel::LeastHeight() const {
-    return static_cast<int>((LeastCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
+    return Px((LeastCard + Gap) * state_->NumPlayers - (state_->NumPlayers > 0 ? Gap : 0));
 }
 
 int ClanPanel::ShortHeight() const {
-    return static_cast<int>(state_->NumPlayers > 0 ? LineHeads + LineHeight * state_->NumPlayers : 0);
+    return Px(state_->NumPlayers > 0 ? LineHeads + LineHeight * state_->NumPlayers : 0);
 }
 
 bool ClanPanel::InLines() const {
@@ -73,19 +74,19 @@ bool ClanPanel::InLines() const {
 }
 
 double ClanPanel::CardHeight() const {
-    return std::min(FullCard, (height() - Gap * (state_->NumPlayers - 1)) / std::max(state_->NumPlayers, 1));
+    return std::min(FullCard, (UsualHeight(*this) - Gap * (state_->NumPlayers - 1)) / std::max(state_->NumPlayers, 1));
 }
 
 QRectF ClanPanel::CardRect(int place) const {
     if (InLines()) {
-        return {0, LineHeads + LineHeight * (place - 1), static_cast<double>(width()), LineHeight};
+        return {0, LineHeads + LineHeight * (place - 1), UsualWidth(*this), LineHeight};
     }
-    return {0, (CardHeight() + Gap) * (place - 1), static_cast<double>(width()), CardHeight()};
+    return {0, (CardHeight() + Gap) * (place - 1), UsualWidth(*this), CardHeight()};
 }
 
 ClanPanel::Columns ClanPanel::ColumnsOf() const {
-    const double column = std::clamp(width() * 0.135, 44.0, 66.0);
-    const double first = width() - 4 * column - 6;
+    const double column = std::clamp(UsualWidth(*this) * 0.135, 44.0, 66.0);
+    const double first = UsualWidth(*this) - 4 * column - 6;
     return {first, first + column, first + 2 * column, first + 3 * column, column};
 }
 
@@ -151,24 +152,26 @@ void ClanPanel::Arrange() {
         const QRectF card = CardRect(place);
         const double figures = card.top() + (InLines() ? 0 : Roomy() ? 22 : 19);
         orderlab[static_cast<std::size_t>(place - 1)]->setGeometry(
-            QRectF(at.Score, figures + 1, std::min(at.Width - 12, 40.0), 22).toRect());
-        bplab[clan]->setGeometry(QRectF(at.BP, figures, at.Width - 4, 24).toRect());
+            InPixels({at.Score, figures + 1, std::min(at.Width - 12, 40.0), 22}));
+        bplab[clan]->setGeometry(InPixels({at.BP, figures, at.Width - 4, 24}));
         const double left = Roomy() ? 20 : 44;
-        const double right = Roomy() ? width() - 10 : at.Score - 6;
+        const double right = Roomy() ? UsualWidth(*this) - 10 : at.Score - 6;
         const double top = card.top() + (Roomy() ? 50 : 25);
-        GeneLists[clan]->setGeometry(QRectF(left, top, right - left, card.bottom() - top - 2).toRect());
+        GeneLists[clan]->setGeometry(InPixels({left, top, right - left, card.bottom() - top - 2}));
     }
 }
 
 void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double top) const {
     const Columns at = ColumnsOf();
-    painter.setFont(LookFont(10));
+    constexpr double letters = 10;
+    const double widest = QFontMetricsF(DrawnFont(letters)).horizontalAdvance(QStringLiteral("mutation"));
+    painter.setFont(DrawnFont(letters * std::min(1.0, (at.Width - 3) / widest)));
     painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(at.Score, heads), QStringLiteral("score"));
     painter.drawText(QPointF(at.BP, heads), QStringLiteral("BP"));
     painter.drawText(QPointF(at.Amoebas, heads), QStringLiteral("amoebas"));
     painter.drawText(QPointF(at.Mutation, heads), QStringLiteral("mutation"));
-    painter.setFont(LookFont(16, true));
+    painter.setFont(DrawnFont(16, true));
     painter.setPen(Shade(Tone::Ink));
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("%1/%2").arg(state_->AmoebaCount[clan]).arg(state_->MaxAmoeba));
@@ -195,20 +198,21 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
     DrawClanBadge(painter, clan, QPointF(card.left() + 26, card.top() + (Roomy() ? 25 : 20)), Roomy() ? 13 : 11);
     const double left = card.left() + (Roomy() ? 47 : 43);
     const double wide = ColumnsOf().Score - left - 6;
-    const QFont nameFont = LookFont(Roomy() ? 14 : 12, true);
+    const QFont nameFont = DrawnFont(Roomy() ? 14 : 12, true);
     painter.setFont(nameFont);
     painter.setPen(Shade(Tone::Ink));
     const QString name =
         QFontMetricsF(nameFont).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide);
     painter.drawText(QPointF(left, card.top() + (Roomy() ? 22 : 17)), name);
-    painter.setFont(LookFont(Roomy() ? 11.5 : 10));
+    painter.setFont(DrawnFont(Roomy() ? 11.5 : 10));
     painter.setPen(Shade(Tone::Faint));
     if (Roomy()) {
         painter.drawText(QPointF(left, card.top() + 39), Kind(state_->Players[clan]));
     } else {
         const double after = QFontMetricsF(nameFont).horizontalAdvance(name) + 6;
-        painter.drawText(QRectF(left + after, card.top() + 5, wide - after, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                         Kind(state_->Players[clan]));
+        const double room = wide - after;
+        painter.drawText(QRectF(left + after, card.top() + 5, room, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                         QFontMetricsF(painter.font()).elidedText(Kind(state_->Players[clan]), Qt::ElideRight, room));
     }
     const double top = CardRect(place).top();
     DrawFigures(painter, clan, top + (Roomy() ? 17 : 15), top + (Roomy() ? 22 : 19));
@@ -223,7 +227,7 @@ void ClanPanel::DrawLine(QPainter& painter, int place) const {
         painter.drawRoundedRect(line.adjusted(1, 1, -1, -1), 6, 6);
     }
     DrawClanBadge(painter, clan, QPointF(line.left() + 15, line.center().y()), 9);
-    const QFont font = LookFont(13, true);
+    const QFont font = DrawnFont(13, true);
     const double wide = ColumnsOf().Score - 34;
     painter.setFont(font);
     painter.setPen(Shade(Tone::Ink));
@@ -237,7 +241,7 @@ void ClanPanel::paintEvent(QPaintEvent*) {
         return;
     }
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    PaintUsual(painter);
     for (int place = 1; place <= state_->NumPlayers; ++place) {
         InLines() ? DrawLine(painter, place) : DrawCard(painter, place);
     }

@@ -10,6 +10,7 @@
 #include "model/dice.h"
 #include "model/game_state.h"
 #include "rules/environment.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -48,9 +49,9 @@ QPointF FreePlace(const std::vector<QPointF>& taken, QPointF point, double middl
 FitLabel* MakeFitLabel(QWidget* parent, const QString& name, int pixels) {
     auto* label = new FitLabel(parent, pixels, 8);
     label->setObjectName(name);
-    label->setFont(LookFont(pixels, true));
+    WearLetters(*label, pixels, true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    SetLabelColour(label, Shade(Tone::Ink));
+    WearTone(*label, Tone::Ink);
     return label;
 }
 
@@ -152,12 +153,24 @@ void EnvironmentView::ShowUV() {
     update();
 }
 
-void EnvironmentView::resizeEvent(QResizeEvent*) {
-    const int left = Pad + 2;
-    turnlab->setGeometry(left, 8, static_cast<int>(DriftLeft()) - left - 4, 28);
-    const int drift = static_cast<int>(DriftLeft()) + 42;
-    driftlab->setGeometry(drift, 28, static_cast<int>(UvLeft()) - drift - 4, 46);
-    UVlab->setGeometry(static_cast<int>(UvLeft()), 26, 36, 30);
+double EnvironmentView::DriftLeft() const {
+    return UsualWidth(*this) * 0.41;
+}
+
+double EnvironmentView::UvLeft() const {
+    return UsualWidth(*this) * 0.69;
+}
+
+QSize EnvironmentView::sizeHint() const {
+    return {Px(440), Px(88)};
+}
+
+void EnvironmentView::Redress() {
+    const double left = Pad + 2;
+    turnlab->setGeometry(InPixels({left, 8, DriftLeft() - left - 4, 28}));
+    const double drift = DriftLeft() + 42;
+    driftlab->setGeometry(InPixels({drift, 28, UvLeft() - drift - 4, 46}));
+    UVlab->setGeometry(InPixels({UvLeft(), 26, 36, 30}));
 }
 
 void EnvironmentView::DrawTurns(QPainter& painter) const {
@@ -169,7 +182,7 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
         painter.drawEllipse(centre, step * 0.36, step * 0.36);
     }
     if (state_->NumPlayers > 0) {
-        painter.setFont(LookFont(11));
+        painter.setFont(DrawnFont(11));
         painter.setPen(Shade(Tone::Faint));
         QStringList words;
         if (phaseTold_ && !state_->Phase.Empty()) {
@@ -181,7 +194,7 @@ void EnvironmentView::DrawTurns(QPainter& painter) const {
 }
 
 void EnvironmentView::DrawArrow(QPainter& painter) const {
-    painter.setFont(LookFont(11));
+    painter.setFont(DrawnFont(11));
     painter.setPen(Shade(Tone::Faint));
     painter.drawText(QPointF(DriftLeft(), 22), QStringLiteral("drift"));
     painter.drawText(QPointF(UvLeft(), 22), QStringLiteral("UV"));
@@ -191,7 +204,7 @@ void EnvironmentView::DrawArrow(QPainter& painter) const {
 }
 
 void EnvironmentView::DrawLevels(QPainter& painter) const {
-    const QRectF bar(UvLeft() + 38, 36, width() - UvLeft() - 38 - Pad, 11);
+    const QRectF bar(UvLeft() + 38, 36, UsualWidth(*this) - UvLeft() - 38 - Pad, 11);
     QLinearGradient levels(bar.topLeft(), bar.topRight());
     levels.setColorAt(0, Shade(Tone::LevelLow));
     levels.setColorAt(0.5, Shade(Tone::LevelMiddle));
@@ -219,7 +232,7 @@ void EnvironmentView::DrawLevels(QPainter& painter) const {
 void EnvironmentView::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    PaintUsual(painter);
     DrawTurns(painter);
     DrawArrow(painter);
     DrawLevels(painter);

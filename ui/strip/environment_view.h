@@ -30,19 +30,20 @@ public:
     void ShowDrift();
     void ShowUV();
 
-    QSize sizeHint() const override { return {440, 88}; }
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void resizeEvent(QResizeEvent*) override { Redress(); }
+    void Redress() override;
 
 private:
     void DrawTurns(QPainter& painter) const;
     void DrawArrow(QPainter& painter) const;
     void DrawLevels(QPainter& painter) const;
 
-    double DriftLeft() const { return width() * 0.41; }
-    double UvLeft() const { return width() * 0.69; }
+    double DriftLeft() const;
+    double UvLeft() const;
 
     const GameState* state_;
     bool phaseTold_ = false;

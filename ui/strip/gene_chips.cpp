@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "model/gene_texts.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -15,10 +16,14 @@ namespace plasmos {
 
 namespace {
 
-constexpr double ChipHeight = 17;
+constexpr double UsualChipHeight = 17;
 constexpr int FullNames = 0;
 constexpr int Codes = 1;
 constexpr int TinyCodes = 2;
+
+double ChipHeight() {
+    return UsualChipHeight * Letters();
+}
 
 QString ChipText(int gene, int form) {
     return form == FullNames ? ToQt(GeneName(gene)) : ToQt(GeneCodes[gene]);
@@ -79,7 +84,7 @@ QString GeneChips::Names() const {
 bool GeneChips::Arrange(int form, std::vector<Chip>& chips) const {
     chips.clear();
     const QFontMetricsF metrics(ChipFont(form));
-    const double padding = form == TinyCodes ? 3.5 : 7;
+    const double padding = (form == TinyCodes ? 3.5 : 7) * Letters();
     const double gap = form == TinyCodes ? 2 : 4;
     double x = 0;
     double y = 0;
@@ -88,12 +93,12 @@ bool GeneChips::Arrange(int form, std::vector<Chip>& chips) const {
         const double wide = metrics.horizontalAdvance(text) + 2 * padding;
         if (x > 0 && x + wide > width()) {
             x = 0;
-            y += ChipHeight + 2;
+            y += ChipHeight() + 2;
         }
-        chips.push_back({gene, QRectF(x, y, wide, ChipHeight), text, form});
+        chips.push_back({gene, QRectF(x, y, wide, ChipHeight()), text, form});
         x += wide + gap;
     }
-    return y + ChipHeight <= height() + 1;
+    return y + ChipHeight() <= height() + 1;
 }
 
 std::vector<GeneChips::Chip> GeneChips::Chips() const {

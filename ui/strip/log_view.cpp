@@ -5,6 +5,7 @@
 #include <QTextBlockFormat>
 #include <QTextCursor>
 
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -14,7 +15,7 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setAccessibleName(QStringLiteral("Game log"));
-    setFont(LookFont(12));
+    WearLetters(*this, 12);
     setPlaceholderText(QStringLiteral("The game log"));
     document()->setDocumentMargin(8);
     QScrollBar* bar = verticalScrollBar();
@@ -25,8 +26,8 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
             bar->setValue(most);
         }
     });
-    setStyleSheet(
-        Styled(QStringLiteral("QTextEdit{background:@Field;color:@Ink;border:1px solid @CardEdge;border-radius:9px}")));
+    WearSheet(*this,
+              QStringLiteral("QTextEdit{background:@Field;color:@Ink;border:1px solid @CardEdge;border-radius:9px}"));
 }
 
 void LogView::Start(const QString& header) {
@@ -66,7 +67,7 @@ void LogView::Append(const QString& sign, int clan, const QString& text, bool he
     empty_ = false;
     QTextCharFormat letters;
     if (!sign.isEmpty()) {
-        letters.setForeground(ShadesOf(clan).Dark);
+        letters.setForeground(ShadesOf(clan).Edge);
         cursor.insertText(sign + QLatin1Char(' '), letters);
     }
     letters.setForeground(Shade(heading ? Tone::Accent : Tone::Ink));

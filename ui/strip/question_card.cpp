@@ -6,6 +6,7 @@
 
 #include "model/game_state.h"
 #include "ui/look/arrow_keys.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
 
@@ -28,7 +29,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
     auto* label = MakeLabel(parent, QString::fromLatin1(name), 10, true, Tone::Ink);
     label->setText(QString::fromLatin1(text));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(Styled(QStringLiteral("background:@Badge;color:@Accent;border-radius:8px;padding:1px 6px")));
+    WearSheet(*label, QStringLiteral("background:@Badge;color:@Accent;border-radius:8px;padding:1px 6px"));
     label->hide();
     return label;
 }
@@ -38,7 +39,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
 QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     : Card(parent),
       playerlab(new PillLabel(this)),
-      msglab(new FitLabel(this, 15, 10)),
+      msglab(new SpeechLabel(this, 15, 10)),
       autoeatlab(MakePill(this, "autoeatlab", "auto-eating")),
       autotenlab(MakePill(this, "autotenlab", "auto-tentacle")),
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
@@ -48,10 +49,11 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       about_(new FitLabel(this, 11, 9)) {
     about_->setObjectName(QStringLiteral("questionHint"));
     about_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    WearTone(*about_, Tone::Faint);
     about_->hide();
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
-    playerlab->setFont(LookFont(13, true));
+    WearLetters(*playerlab, 13, true);
     msglab->setObjectName(QStringLiteral("msglab"));
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
@@ -103,57 +105,61 @@ void QuestionCard::ShowAbout(const QString& about) {
 }
 
 int QuestionCard::AboutHeight(int width) const {
-    return about_->text().isEmpty() ? 0 : about_->HeightAt(width - 2 * Pad);
+    return about_->text().isEmpty() ? 0 : about_->HeightAt(width - 2 * Px(Pad)) + 2;
 }
 
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
-    SetLabelColour(hint_, LabelText(state_, messageClan_));
-    SetLabelColour(about_, LabelText(state_, messageClan_));
-    const bool coloured = messageClan_ != 0;
-    SetColours(LabelBackground(state_, messageClan_), coloured ? ShadesOf(messageClan_).Dark : Shade(Tone::CardEdge));
+    SetEdge(messageClan_);
+    update();
 }
 
 int QuestionCard::HeightFor(int width, bool tight) const {
-    const int text = std::clamp(msglab->HeightAt(width - 2 * Pad), 20, tight ? 66 : 84);
-    return tight ? HeadHeight + text + 16 : std::max(HeadHeight + text + ButtonHeight + 26, 148);
+    const int text = std::clamp(msglab->HeightAt(width - 2 * Px(Pad)), Px(20), Px(tight ? 72 : 92));
+    return tight ? Px(HeadHeight + 16) + text : std::max(Px(HeadHeight + ButtonHeight + 26) + text, Px(148));
 }
 
 int QuestionCard::LeastHeight(int width) const {
-    return msglab->LeastHeightAt(width - 2 * Pad) + HeadHeight + ButtonHeight + 28;
+    return msglab->LeastHeightAt(width - 2 * Px(Pad)) + Px(8 + HeadHeight + ButtonHeight + 12);
 }
 
 void QuestionCard::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
+void QuestionCard::Redress() {
+    Recolour();
+    Arrange();
+}
+
 void QuestionCard::Arrange() {
-    const int head = Pad + 26;
-    const int name = std::min(playerlab->sizeHint().width() + 14, std::max(60, width() - head - 190));
-    playerlab->setGeometry(head, 8, name, 20);
-    autoeatlab->setGeometry(width() - Pad - 84, 9, 84, 18);
-    autotenlab->setGeometry(width() - Pad - 84 - 98, 9, 94, 18);
-    const bool room = height() > 110;
-    const int foot = room ? ButtonHeight + 18 : 8;
-    ArrangeTexts(foot);
-    const int top = height() - ButtonHeight - 12;
-    yesb->setGeometry(Pad, top, 104, ButtonHeight);
-    nob->setGeometry(Pad + 116, top, 104, ButtonHeight);
-    hint_->setGeometry(Pad, top, width() - 2 * Pad, ButtonHeight);
+    const int pad = Px(Pad);
+    const int head = pad + Px(26);
+    const int name = std::min(playerlab->sizeHint().width() + Px(14), std::max(Px(60), width() - head - Px(190)));
+    playerlab->setGeometry(head, Px(9), name, Px(20));
+    autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
+    autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
+    const bool room = height() > Px(110);
+    const int foot = Px(room ? ButtonHeight + 12 : 6);
+    const int inner = width() - 2 * pad;
+    ArrangeTexts(QRect(pad, Px(8 + HeadHeight), inner, height() - Px(8 + HeadHeight) - foot));
+    const int top = height() - Px(ButtonHeight + 8);
+    yesb->setGeometry(pad, top, Px(104), Px(ButtonHeight));
+    nob->setGeometry(pad + Px(116), top, Px(104), Px(ButtonHeight));
+    hint_->setGeometry(pad, top, inner, Px(ButtonHeight));
     hint_->setVisible(room && !asking_);
 }
 
 // The question comes first; what stands beside it takes what is left.
-void QuestionCard::ArrangeTexts(int foot) {
-    const int wide = width() - 2 * Pad;
-    const int top = 8 + HeadHeight;
-    const int room = height() - 10 - HeadHeight - foot;
-    const int about = std::min(AboutHeight(width()), room - msglab->LeastHeightAt(wide));
+void QuestionCard::ArrangeTexts(const QRect& room) {
+    const int wide = room.width();
+    const int about = std::min(AboutHeight(width()), room.height() - msglab->LeastHeightAt(wide));
     const bool shown = !about_->text().isEmpty() && about >= about_->LeastHeightAt(wide);
+    const int message = std::min(shown ? room.height() - about : room.height(), msglab->HeightAt(wide));
+    msglab->setGeometry(room.x(), room.y(), wide, message);
     about_->setVisible(shown);
-    about_->setGeometry(Pad, top + room - about, wide, std::max(about, 0));
-    msglab->setGeometry(Pad, top, wide, shown ? room - about : room);
+    about_->setGeometry(room.x(), room.y() + message + 2, wide, std::max(about, 0));
     setToolTip(shown ? QString() : PlainTip(about_->text()));
 }
 
@@ -164,9 +170,9 @@ void QuestionCard::paintEvent(QPaintEvent* event) {
     const int sign = playerClan_ > 0 ? playerClan_ : messageClan_;
     if (sign > 0) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(Shade(Tone::Badge));
-        painter.drawEllipse(QPointF(Pad + 11, 18), 11.5, 11.5);
-        DrawClanBadge(painter, sign, QPointF(Pad + 11, 18), 9.5);
+        painter.setBrush(ShadesOf(sign).Body);
+        painter.drawRoundedRect(QRectF(1.5, 1.5, width() - 3, 5), 2.5, 2.5);
+        DrawClanBadge(painter, sign, QPointF(Px(Pad + 11), Px(19)), Px(10));
     }
 }
 

@@ -44,11 +44,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void Redress() override;
 
 private:
     void Recolour();
     void Arrange();
-    void ArrangeTexts(int foot);
+    void ArrangeTexts(const QRect& room);
 
     const GameState& state_;
     QLabel* hint_;

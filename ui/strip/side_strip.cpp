@@ -6,6 +6,7 @@
 
 #include "model/game_state.h"
 #include "ui/dialogs/question_panel.h"
+#include "ui/look/dress.h"
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/environment_view.h"
 #include "ui/strip/log_view.h"
@@ -17,7 +18,7 @@ namespace plasmos {
 namespace {
 
 constexpr int Gap = 8;
-constexpr int QuestionHeight = 154;
+constexpr int UsualQuestion = 154;
 constexpr int LeastQuestion = 124;
 constexpr int LeastLog = 48;
 constexpr int PleasantLog = 130;
@@ -58,9 +59,9 @@ void SideStrip::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
-// A dialog wants another height: somebody was marked, a line came or went.
+// A dialog wants another height: somebody was marked, a line came or went. Or all is read in other letters.
 bool SideStrip::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::StyleChange) {
         Arrange();
     }
     return QWidget::event(event);
@@ -93,9 +94,9 @@ int SideStrip::ArrangeHead() {
     if (playing_) {
         // The card gives way as long as the clans find room below it.
         const int left = height() - top - Gap - Clans->ShortHeight();
-        const int least = std::min(std::max(LeastQuestion, Question->LeastHeight(width())), QuestionHeight);
-        const int question = panels_.empty() ? std::clamp(left, least, QuestionHeight + Question->AboutHeight(width()))
-                                             : Question->HeightFor(width(), true);
+        const int least = std::min(std::max(Px(LeastQuestion), Question->LeastHeight(width())), Px(UsualQuestion));
+        const int most = Px(UsualQuestion) + Question->AboutHeight(width());
+        const int question = panels_.empty() ? std::clamp(left, least, most) : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {
@@ -124,7 +125,7 @@ int SideStrip::ArrangePanels(int top) {
         (*panel)->ShowMessage(alone);
         (*panel)->setVisible(first || fits);
         if (first || fits) {
-            (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, 60)));
+            (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, Px(60))));
             top += wanted + Gap;
         }
         first = false;
@@ -143,14 +144,14 @@ void SideStrip::Arrange() {
     const bool clans = least > 0 && room >= Clans->ShortHeight();
     Clans->setVisible(clans);
     if (clans) {
-        const int wanted =
-            cards ? std::clamp(room - PleasantLog, least, std::max(Clans->FullHeight(), least)) : Clans->ShortHeight();
+        const int wanted = cards ? std::clamp(room - Px(PleasantLog), least, std::max(Clans->FullHeight(), least))
+                                 : Clans->ShortHeight();
         Clans->setGeometry(0, top, width(), wanted);
         top += wanted + Gap;
     }
     const int log = height() - top;
-    Log->setVisible(log >= LeastLog);
-    Log->setGeometry(0, top, width(), std::max(log, LeastLog));
+    Log->setVisible(log >= Px(LeastLog));
+    Log->setGeometry(0, top, width(), std::max(log, Px(LeastLog)));
 }
 
 }  // namespace plasmos

@@ -2,9 +2,11 @@
 #include "ui/strip/start_card.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "model/game_state.h"
 #include "ui/look/blob_shape.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -15,7 +17,7 @@ constexpr int Pad = 18;
 constexpr int Foot = 62;
 constexpr int BelowTitle = 46;
 constexpr int BelowBlobs = 92;
-constexpr int UsualHeight = 214;
+constexpr int WelcomeHeight = 214;
 const char* const Welcome =
     "Your amoebas share this puddle with hungry neighbours. Drift or swim, eat what the others leave, keep your "
     "mutation below the UV level, buy genes, divide and conquer. Ten turns; the highest score wins.";
@@ -51,34 +53,41 @@ void StartCard::ShowResult(const QString& line, int clan) {
     update();
 }
 
-int StartCard::HeightFor(int width) const {
-    return IsShort(width) ? BelowTitle + text_->HeightAt(width - 2 * Pad) + 10 + Foot : UsualHeight;
+bool StartCard::IsShort(int width) const {
+    return winner_ > 0 && width < Px(Roomy);
 }
 
-void StartCard::resizeEvent(QResizeEvent*) {
-    const int inner = width() - 2 * Pad;
+int StartCard::HeightFor(int width) const {
+    return IsShort(width) ? Px(BelowTitle + 10 + Foot) + text_->HeightAt(width - 2 * Px(Pad)) : Px(WelcomeHeight);
+}
+
+void StartCard::Redress() {
+    const double wide = UsualWidth(*this);
+    const double high = UsualHeight(*this);
+    const double inner = wide - 2 * Pad;
     const int below = IsShort(width()) ? BelowTitle : BelowBlobs;
-    title_->setGeometry(Pad, 12, inner, 30);
-    text_->setGeometry(Pad, below, inner, height() - below - Foot);
-    const int top = height() - 50;
-    const int go = width() < Roomy ? 66 : 84;
-    const int watch = std::max(watchb->sizeHint().width(), width() < Roomy ? 116 : 136);
-    gob->setGeometry(Pad, top, go, 36);
-    watchb->setGeometry(Pad + go + 8, top, watch, 36);
-    const int left = Pad + go + 8 + watch + 10;
-    replayLabel_->setGeometry(left, top - 16, width() - Pad - left, 16);
-    txtReplay->setGeometry(left, top + 3, width() - Pad - left, 30);
+    title_->setGeometry(InPixels({Pad, 12, inner, 30}));
+    text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot}));
+    const double top = high - 50;
+    const double go = wide < Roomy ? 66 : 84;
+    const double watch = std::max(watchb->sizeHint().width() / Letters(), wide < Roomy ? 116.0 : 136.0);
+    gob->setGeometry(InPixels({Pad, top, go, 36}));
+    watchb->setGeometry(InPixels({Pad + go + 8, top, watch, 36}));
+    const double left = Pad + go + 8 + watch + 10;
+    replayLabel_->setGeometry(InPixels({left, top - 16, wide - Pad - left, 16}));
+    txtReplay->setGeometry(InPixels({left, top + 3, wide - Pad - left, 30}));
 }
 
 void StartCard::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    PaintUsual(painter);
+    const double wide = UsualWidth(*this);
     if (IsShort(width())) {
-        DrawBlob(painter, {winner_, winner_, 0, true, false, 1}, QPointF(width() - Pad - 16, 28), 15);
+        DrawBlob(painter, {winner_, winner_, 0, true, false, 1}, QPointF(wide - Pad - 16, 28), 15);
         return;
     }
-    const double pitch = std::min(52.0, (width() - 2.0 * Pad) / MaxClans);
+    const double pitch = std::min(52.0, (wide - 2.0 * Pad) / MaxClans);
     const int clans = winner_ > 0 ? state_.NumPlayers : MaxClans;
     for (int clan = 1; clan <= clans; ++clan) {
         const QPointF centre(Pad + pitch * (clan - 0.5), 66);

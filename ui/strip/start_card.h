@@ -26,10 +26,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void resizeEvent(QResizeEvent*) override { Redress(); }
+    void Redress() override;
 
 private:
-    bool IsShort(int width) const { return winner_ > 0 && width < Roomy; }
+    bool IsShort(int width) const;
 
     static constexpr int Roomy = 420;
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/table_top.h"
 
+#include <QEvent>
 #include <algorithm>
 
 #include "ui/board/score_track.h"
+#include "ui/look/dress.h"
 #include "ui/strip/side_strip.h"
 
 namespace plasmos {
@@ -18,7 +20,19 @@ TableTop::TableTop(QWidget* parent, const GameState& state)
     : QWidget(parent), Track(new ScoreTrack(this, state)), Strip(new SideStrip(this, state)) {}
 
 void TableTop::resizeEvent(QResizeEvent*) {
-    const int side = std::clamp(width() * 36 / 100, 380, 490);
+    Arrange();
+}
+
+void TableTop::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::StyleChange) {
+        Arrange();
+    }
+    QWidget::changeEvent(event);
+}
+
+// Half of the window is the puddle's, however large the letters are.
+void TableTop::Arrange() {
+    const int side = std::min(std::clamp(width() * 36 / 100, Px(380), Px(490)), std::max(width() / 2, 380));
     const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
     Strip->setGeometry(inner.right() - side + 1, inner.top(), side, inner.height());
     Track->setGeometry(inner.left(), inner.top(), inner.width() - side - Margin, inner.height());

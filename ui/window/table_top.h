@@ -19,6 +19,10 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Arrange();
 };
 
 }  // namespace plasmos

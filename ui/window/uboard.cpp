@@ -17,6 +17,7 @@
 #include "ui/board/score_track.h"
 #include "ui/board/ttip.h"
 #include "ui/dialogs/question_panel.h"
+#include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/options/options_dialog.h"
 #include "ui/strip/clan_panel.h"
@@ -45,9 +46,7 @@ UBoard::UBoard() : UBoard(MakePresentation) {}
 UBoard::UBoard(const PresentationMaker& make) {
     setObjectName(QStringLiteral("UBoard"));
     setWindowTitle(QStringLiteral("The Puddle"));
-    setPalette(LookPalette());
-    setStyleSheet(LookSheet());
-    setFont(LookFont(13));
+    Dress(*this);
     LoadBoard();
     auto* table = new TableTop(this, game);
     track_ = table->Track;
@@ -169,7 +168,7 @@ void UBoard::ClearBoard() {
 void UBoard::Tell(const QString& text) {
     auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Plasmos"), text, QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
-    box->setPalette(LookPalette());
+    Dress(*box);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->show();
@@ -225,6 +224,11 @@ void UBoard::EndProgram() {
     lent_->Stop();
     tips_->Stop();
     desk_->EndProgram();
+}
+
+void UBoard::resizeEvent(QResizeEvent* event) {
+    FitLetters(size());
+    QMainWindow::resizeEvent(event);
 }
 
 void UBoard::showEvent(QShowEvent* event) {

@@ -45,7 +45,7 @@ public:
         }
     }
     void AnswerTop() {
-        if (Question* top = scene_.Board().TopQuestion(); top != nullptr) {
+        if (Question* top = scene_.Board().TopQuestion(); top != nullptr && !top->Answered()) {
             scene_.Player().Answer(*top);
         }
     }

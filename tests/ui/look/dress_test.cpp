@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The window follows the desktop's colours and letters.
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "tests/ui/support/scene.h"
+#include "ui/look/dress.h"
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+namespace {
+
+QPalette Desktop(QColor ground, QColor letters) {
+    QPalette palette;
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        palette.setColor(role, ground);
+    }
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, letters);
+    }
+    return palette;
+}
+
+}  // namespace
+
+class DressTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void desktops_data();
+    void desktops();
+    void followsTheDesktopWhileItRuns();
+    void whatThePersonWantsGoesFirst();
+    void lettersFollowTheDesktop();
+    void aLargeWindowHasLargerLetters();
+
+private:
+    QPalette palette_;
+    QFont font_;
+};
+
+void DressTest::init() {
+    palette_ = QApplication::palette();
+    font_ = QApplication::font();
+}
+
+void DressTest::cleanup() {
+    WantScheme(std::nullopt);
+    QApplication::setPalette(palette_);
+    QApplication::setFont(font_);
+}
+
+void DressTest::desktops_data() {
+    QTest::addColumn<QColor>("ground");
+    QTest::addColumn<QColor>("letters");
+    QTest::addColumn<QString>("scheme");
+    QTest::newRow("light grey") << QColor(239, 239, 239) << QColor(0, 0, 0) << QStringLiteral("light");
+    QTest::newRow("dark grey") << QColor(50, 50, 50) << QColor(255, 255, 255) << QStringLiteral("dark");
+    QTest::newRow("white on black") << QColor(0, 0, 0) << QColor(255, 255, 255) << QStringLiteral("contrast");
+    QTest::newRow("black on white") << QColor(255, 255, 255) << QColor(0, 0, 0) << QStringLiteral("contrast");
+}
+
+void DressTest::desktops() {
+    QFETCH(QColor, ground);
+    QFETCH(QColor, letters);
+    QFETCH(QString, scheme);
+    QCOMPARE(SchemeName(SchemeOf(Desktop(ground, letters))), scheme);
+}
+
+void DressTest::followsTheDesktopWhileItRuns() {
+    Scene scene;
+    const auto ground = [&] { return scene.Board().grab().toImage().pixelColor(4, scene.Board().height() - 4); };
+    QCOMPARE(ground(), ShadeIn(Scheme::Light, Tone::Window));
+    QApplication::setPalette(Desktop(QColor(50, 50, 50), Qt::white));
+    QCOMPARE(CurrentScheme(), Scheme::Dark);
+    QCOMPARE(ground(), ShadeIn(Scheme::Dark, Tone::Window));
+    const auto* title = scene.Board().findChild<QLabel*>(QStringLiteral("titlelab"));
+    QCOMPARE(title->palette().color(QPalette::WindowText), ShadeIn(Scheme::Dark, Tone::Ink));
+    QApplication::setPalette(Desktop(QColor(240, 240, 240), QColor(0, 0, 0)));
+    QCOMPARE(ground(), ShadeIn(Scheme::Light, Tone::Window));
+}
+
+void DressTest::whatThePersonWantsGoesFirst() {
+    Scene scene;
+    WantScheme(Scheme::Contrast);
+    QCOMPARE(CurrentScheme(), Scheme::Contrast);
+    QApplication::setPalette(Desktop(QColor(50, 50, 50), Qt::white));
+    QCOMPARE(CurrentScheme(), Scheme::Contrast);
+    WantScheme(std::nullopt);
+    QCOMPARE(CurrentScheme(), Scheme::Dark);
+}
+
+void DressTest::lettersFollowTheDesktop() {
+    Scene scene;
+    scene.Board().resize(1320, 860);
+    const QWidget* button = scene.Find(QStringLiteral("gob"));
+    const int usual = button->fontMetrics().height();
+    const int menu = scene.Board().menuBar()->fontMetrics().height();
+    QFont large = QApplication::font();
+    large.setPointSize(20);
+    QApplication::setFont(large);
+    QVERIFY(button->fontMetrics().height() > usual * 3 / 2);
+    QVERIFY(scene.Board().menuBar()->fontMetrics().height() > menu * 3 / 2);
+    QVERIFY(button->height() > button->fontMetrics().height());
+    QApplication::setFont(font_);
+    QCOMPARE(button->fontMetrics().height(), usual);
+}
+
+void DressTest::aLargeWindowHasLargerLetters() {
+    Scene scene;
+    scene.Board().resize(1320, 860);
+    QCOMPARE(Letters(), 1.0);
+    scene.Board().setMinimumSize(0, 0);
+    scene.Board().resize(2560, 1440);
+    QVERIFY(Letters() > 1.4);
+    scene.Board().resize(940, 640);
+    QCOMPARE(Letters(), 1.0);
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::DressTest>(argc, argv);
+}
+
+#include "dress_test.moc"
