@@ -19,11 +19,12 @@ struct GeneWords {
 inline constexpr GeneWords GeneTexts[] = {
     {"int", "Does nothing in play, but counts among the genes that are scored, and is the cheapest of them."},
     {"mv1",
-     "Who pays to move throws the direction die twice and chooses between the two squares. "
+     "An amoeba that attempts to move, or escapes, throws the direction die twice and you choose between the squares. "
      "Leads to Movement 2, which replaces it."},
     {"spo", "New amoebas may be placed in any square without one of your own, not only next to your others."},
     {"spe",
-     "After a paid move an amoeba may try a second one, free of charge. Leads to Persistence, which replaces it."},
+     "After its attempt to move an amoeba may make a second one, free of charge. Leads to Persistence, which "
+     "replaces it."},
     {"def",
      "An attacked amoeba may pay 1 BP and beat the attack off by two dice: one chance in two. "
      "Leads to Armor, which replaces it."},
@@ -51,15 +52,17 @@ inline constexpr GeneWords GeneTexts[] = {
      "attacked by you."},
     {"div", "New amoebas cost 4 BP instead of 6."},
     {"per",
-     "Needs Speed and replaces it: a second move, free of charge. A defence that failed, and an attack that was "
-     "escaped or beaten off, may be tried once more for 1 BP."},
-    {"mv2", "Needs Movement 1 and replaces it: who pays to move, or escapes, chooses the square without a die."},
+     "Needs Speed and replaces it: a second attempt to move, free of charge. A defence that failed, and an attack "
+     "that was escaped or beaten off, may be tried once more for 1 BP."},
+    {"mv2",
+     "Needs Movement 1 and replaces it: an amoeba that attempts to move, or escapes, goes where you choose, without a "
+     "die."},
     {"agg",
      "Needs Struggle for Survival and replaces it: its amoebas attack to eat, those in Armor too, and one may attack "
      "for 1 BP in the aggression phase, if no clan before yours does."},
     {"arm",
      "Needs Defence or Escape and replaces it (Defence where both are held). An attack in the aggression phase "
-     "does 1 damage instead of tearing your amoeba to pieces."},
+     "does 1 damage instead of tearing your amoeba to pieces, and Struggle for Survival cannot be turned against it."},
 };
 
 static_assert(std::size(GeneTexts) == std::size(GeneRows), "every gene has its text");

@@ -83,6 +83,13 @@ std::string_view PlaceText(int clan, bool inPlay) {
 
 }  // namespace
 
+std::string ClansHint(int persons) {
+    return HintsAreWanted() ? Concat("You play ", persons == 1 ? "one" : "two",
+                                     " of them. With 3 or 4 a clan has up to 7 amoebas and 10 BP a turn, with 5 or 6 "
+                                     "up to 6 and 11 BP.")
+                            : "";
+}
+
 std::string MoveOfferHint(int clan, int amoeba, bool first) {
     if (!HintsAreWanted()) {
         return {};

@@ -11,6 +11,10 @@ namespace plasmos {
 /// What the answers to a question cost and bring, in a line or two that stand beside the question. The rules that
 /// ask hand it over with the question. Where nobody reads hints every one of these is empty, and no text is made.
 
+// ---- setup ----
+/// How many clans play; the persons play so many of them.
+std::string ClansHint(int persons);
+
 // ---- movement ----
 /// The offer to move elsewhere: its price, where the faces of the die lead, what a "no" means, and the genes that
 /// would change it.

@@ -8,7 +8,7 @@
 
 #include <functional>
 
-#include "model/bio_points.h"
+#include "flow/new_game.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
 #include "rules/fight.h"
@@ -269,6 +269,12 @@ const HintRow HintRows[] = {
       "itself.",
       "Nothing is paid before the victim is picked; None ends the step.",
       "1 BP of your 9, paid with the pick. Torn to pieces it leaves 2 of every colour; in Armor it takes 1 damage."}},
+    {"the_number_of_clans",
+     {},
+     {},
+     AskPlayerCount,
+     {Number(4)},
+     {"You play one of them. With 3 or 4 a clan has up to 7 amoebas and 10 BP a turn, with 5 or 6 up to 6 and 11 BP."}},
     {"genes_to_buy",
      {},
      {},
