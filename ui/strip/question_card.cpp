@@ -140,7 +140,7 @@ void QuestionCard::Arrange() {
     playerlab->setGeometry(head, Px(9), name, Px(20));
     autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
     autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
-    const bool room = height() > Px(110);
+    const bool room = height() > Px(115);  // more than a dialog leaves it
     const int foot = Px(room ? ButtonHeight + 12 : 6);
     const int inner = width() - 2 * pad;
     ArrangeTexts(QRect(pad, Px(8 + HeadHeight), inner, height() - Px(8 + HeadHeight) - foot));

@@ -8,6 +8,7 @@
 
 #include "rules/environment.h"
 #include "tests/ui/support/adapting.h"
+#include "ui/look/card.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
@@ -32,6 +33,8 @@ private slots:
     void bpThatAreNotCountedAreToldOf();
     void theRefusalStaysAsItIs();
     void allThatAnswersIsInALowWindow();
+    void whatHasHappenedIsReadInFull_data();
+    void whatHasHappenedIsReadInFull();
 };
 
 void DialogsAdaptHelpTest::onlyTheOwnGenesAreShownToAdapt() {
@@ -162,6 +165,26 @@ void DialogsAdaptHelpTest::allThatAnswersIsInALowWindow() {
             const QWidget* control = scene.Find(QString::fromLatin1(name));
             QVERIFY2(control->visibleRegion().boundingRect() == control->rect(), name);
         }
+        scene.Click(QStringLiteral("adaptb"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+}
+
+void DialogsAdaptHelpTest::whatHasHappenedIsReadInFull_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("a usual window") << QSize(1320, 860);
+    QTest::newRow("a low window") << QSize(940, 640);
+}
+
+void DialogsAdaptHelpTest::whatHasHappenedIsReadInFull() {
+    QFETCH(QSize, size);
+    AdaptScene scene(9, 6);
+    scene.Board().resize(size);
+    scene.ThenGenes([&] {
+        QCoreApplication::processEvents();
+        const auto* line = dynamic_cast<FitLabel*>(scene.Find(QStringLiteral("msglab")));
+        QVERIFY(!scene.Sees(QStringLiteral("msglab")) || line->LeastHeightAt(line->width()) <= line->height() + 2);
         scene.Click(QStringLiteral("adaptb"));
         scene.Click(QStringLiteral("doneb"));
     });
