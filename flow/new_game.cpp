@@ -19,6 +19,7 @@
 #include "questions/choice_forms.h"
 #include "rules/directions.h"
 #include "rules/division.h"
+#include "rules/hints.h"
 
 namespace plasmos {
 
@@ -151,6 +152,7 @@ int AskPlayerCount() {
     for (int count = MinClans; count <= MaxClans; ++count) {
         form.amopt[count].Visible = form.amopt[count].Enabled = true;
     }
+    form.Hint = ClansHint(game.Menu.twoplayermen ? 2 : 1);
     OpenQuestion open(form);
     open.Wait();
     const int count = form.Chosen();

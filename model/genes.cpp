@@ -53,24 +53,24 @@ constexpr std::array<FamilyTie, TieCount> FamilyTies = [] {
 static_assert(std::ranges::none_of(FamilyTies, [](const FamilyTie& tie) { return tie.Lower == 0; }),
               "an upgrade names a code that no gene has");
 
-bool FamilyAllows(int clan, int gene) {
+GeneBar FamilyBar(const GameState& state, int clan, int gene) {
     bool needsLower = false;
     bool hasLower = false;
     for (const FamilyTie& tie : FamilyTies) {
-        if (tie.Lower == gene && game.Genes[tie.Upgrade][clan]) {
-            return false;
+        if (tie.Lower == gene && state.Genes[tie.Upgrade][clan]) {
+            return GeneBar::UpgradeHeld;
         }
         needsLower = needsLower || tie.Upgrade == gene;
-        hasLower = hasLower || (tie.Upgrade == gene && game.Genes[tie.Lower][clan]);
+        hasLower = hasLower || (tie.Upgrade == gene && state.Genes[tie.Lower][clan]);
     }
-    return hasLower || !needsLower;
+    return hasLower || !needsLower ? GeneBar::None : GeneBar::NeedsLower;
 }
 
 /// The gene that an upgrade replaces in a clan: the first that it holds, else the last of them; 0: none.
-int ReplacedGene(int clan, int upgrade) {
+int ReplacedGene(const GameState& state, int clan, int upgrade) {
     int replaced = 0;
     for (const FamilyTie& tie : FamilyTies) {
-        if (tie.Upgrade == upgrade && !(replaced != 0 && game.Genes[replaced][clan])) {
+        if (tie.Upgrade == upgrade && !(replaced != 0 && state.Genes[replaced][clan])) {
             replaced = tie.Lower;
         }
     }
@@ -96,12 +96,37 @@ int CountGenes(const GameState& state, int clan) {
     return count;
 }
 
-bool CanBuyGene(int clan, int gene) {
-    const GeneRecord& record = game.Catalogue[gene];
-    if (game.Genes[gene][clan] || record.Supply < 1 || record.Cost > game.BP[clan]) {
-        return false;
+GeneBar WhyNotGene(const GameState& state, int clan, int gene) {
+    const GeneRecord& record = state.Catalogue[gene];
+    if (state.Genes[gene][clan]) {
+        return GeneBar::Held;
     }
-    return FamilyAllows(clan, gene);
+    if (record.Supply < 1) {
+        return GeneBar::SoldOut;
+    }
+    return record.Cost > state.BP[clan] ? GeneBar::TooDear : FamilyBar(state, clan, gene);
+}
+
+LowerGenes LowerGenesOf(int gene) {
+    LowerGenes lower;
+    for (const FamilyTie& tie : FamilyTies) {
+        if (tie.Upgrade == gene) {
+            (lower.First == 0 ? lower.First : lower.OrElse) = tie.Lower;
+        }
+    }
+    return lower;
+}
+
+int UpgradeOf(int gene) {
+    const auto* tie = std::ranges::find(FamilyTies, gene, &FamilyTie::Lower);
+    return tie != FamilyTies.end() ? tie->Upgrade : 0;
+}
+
+int LevelWith(const GameState& state, int clan, int gene) {
+    const int replaced = ReplacedGene(state, clan, gene);
+    const bool loses = replaced != 0 && state.Genes[replaced][clan];
+    return state.Players[clan].MutationLevel + state.Catalogue[gene].MutationPoints -
+           (loses ? state.Catalogue[replaced].MutationPoints : 0);
 }
 
 void BuyGene(int gene) {
@@ -114,7 +139,7 @@ void BuyGene(int gene) {
     game.BoughtAs[gene][clan] = ++game.Purchases;
     Happened({.What = Kind::BuysGene, .Clan = clan, .Number = gene});
     Happened({.What = Kind::PaysBP, .Clan = clan, .Number = record.Cost});
-    if (const int replaced = ReplacedGene(clan, gene); replaced != 0) {
+    if (const int replaced = ReplacedGene(game, clan, gene); replaced != 0) {
         DiscardGene(replaced);
     }
     if (gene == GeneId("ten") && !game.Players[clan].IsComputer) {

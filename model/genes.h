@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -74,9 +75,39 @@ inline int CountGenes(int clan) {
     return CountGenes(game, clan);
 }
 
-/// Whether a clan may buy a gene now: it does not hold it, a copy is left, it has the BP, and the
-/// family rule allows it (an upgrade needs a lower gene, a lower gene is refused beside its upgrade).
-bool CanBuyGene(int clan, int gene);
+/// What keeps a clan from buying a gene.
+enum class GeneBar : std::uint8_t {
+    None,         ///< it may buy it
+    Held,         ///< it holds the gene
+    SoldOut,      ///< no copy is left
+    TooDear,      ///< it has not the BP
+    UpgradeHeld,  ///< a lower gene is refused beside its upgrade
+    NeedsLower    ///< an upgrade needs a lower gene
+};
+
+/// The first of the bars, in the order above, between a clan and a gene now.
+GeneBar WhyNotGene(const GameState& state, int clan, int gene);
+
+/// Whether a clan may buy a gene now: nothing bars it.
+inline bool CanBuyGene(const GameState& state, int clan, int gene) {
+    return WhyNotGene(state, clan, gene) == GeneBar::None;
+}
+inline bool CanBuyGene(int clan, int gene) {
+    return CanBuyGene(game, clan, gene);
+}
+
+/// The lower genes of an upgrade, in the order in which they are looked for; 0: no more.
+struct LowerGenes {
+    int First = 0;
+    int OrElse = 0;
+};
+LowerGenes LowerGenesOf(int gene);
+
+/// The upgrade that replaces a gene; 0: none.
+int UpgradeOf(int gene);
+
+/// The mutation level that a clan would have after buying a gene, without the gene that it replaces.
+int LevelWith(const GameState& state, int clan, int gene);
 
 /// Gives a gene to the current clan and charges it. An upgrade discards the gene it replaces,
 /// the first lower one of its row that the clan holds.

@@ -27,6 +27,9 @@ public:
     /// Whether narration is to be put into words for this presentation.
     virtual bool WantsText() const { return true; }
 
+    /// Whether a question is to say what its answers cost and bring.
+    virtual bool WantsHints() const { return false; }
+
     // ---- the message line and the log ----
     /// Replaces the text of the message line, which the state holds. The colours are those of the clan; 0: no clan's.
     virtual void ShowMessage(std::string_view /*text*/, int /*clan*/) {}

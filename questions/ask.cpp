@@ -33,8 +33,9 @@ void PutButton(const Answer& answer) {
     }
 }
 
-bool WaitForYes(int clan, const std::string& text, int about) {
+bool WaitForYes(int clan, const std::string& text, int about, std::string hint) {
     YesNoQuestion question(clan, text, about);
+    question.Hint = std::move(hint);
     game.Reply = 0;
     OpenQuestion open(question);
     open.Wait();
@@ -161,15 +162,15 @@ void Picture1_MouseUp(int x, int y) {
     game.ReplyY = y;
 }
 
-bool AskYesNo(int clan, const std::string& text, int about) {
+bool AskYesNo(int clan, const std::string& text, int about, std::string hint) {
     ShowQuestionText(text, clan);
-    return WaitForYes(clan, text, about);
+    return WaitForYes(clan, text, about, std::move(hint));
 }
 
-bool AskYesNoBelow(int clan, const std::string& text) {
+bool AskYesNoBelow(int clan, const std::string& text, std::string hint) {
     const std::string before = game.Message.String();
     ShowQuestionText(BelowMessage(text), clan);
-    const bool yes = WaitForYes(clan, text, 0);
+    const bool yes = WaitForYes(clan, text, 0, std::move(hint));
     PutBackMessage(before, game.CurPlayer);
     return yes;
 }
@@ -186,7 +187,7 @@ int SquareAt(const GameState& state, int x, int y) {
     return row * state.NumCols + col + 1;
 }
 
-int AskSquare(int clan, const std::string& text, const std::vector<int>& offered) {
+int AskSquare(int clan, const std::string& text, const std::vector<int>& offered, std::string hint) {
     std::vector<int> squares = offered;
     std::sort(squares.begin(), squares.end());
     squares.erase(std::unique(squares.begin(), squares.end()), squares.end());
@@ -197,6 +198,7 @@ int AskSquare(int clan, const std::string& text, const std::vector<int>& offered
         return squares.front();
     }
     SquareQuestion question(clan, text, squares);
+    question.Hint = std::move(hint);
     ShowQuestionText(text, clan);
     game.Reply = game.ReplyY = -1;
     game.WantSquare = true;

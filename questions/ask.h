@@ -113,14 +113,14 @@ void Picture1_MouseUp(int x, int y);
 // ---- asking ----
 
 /// Asks a clan a yes/no question, about a square if it speaks of one; true is yes.
-bool AskYesNo(int clan, const std::string& text, int about = 0);
+bool AskYesNo(int clan, const std::string& text, int about = 0, std::string hint = {});
 
 /// The same below what the message line tells, which stays in sight and is put back.
-bool AskYesNoBelow(int clan, const std::string& text);
+bool AskYesNoBelow(int clan, const std::string& text, std::string hint = {});
 
 /// Asks a clan for one of the offered squares (in any order, not empty); every other answer is
 /// refused and the wait goes on. A single square is the answer without a question.
-int AskSquare(int clan, const std::string& text, const std::vector<int>& offered);
+int AskSquare(int clan, const std::string& text, const std::vector<int>& offered, std::string hint = {});
 
 /// The square at a point in board units; 0: no square there.
 int SquareAt(const GameState& state, int x, int y);

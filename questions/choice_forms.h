@@ -29,6 +29,9 @@ public:
     /// The number chosen; only once there is one.
     int Chosen() const { return chosen_.value(); }
 
+    /// What closing the window answers; below 0: nothing that is accepted.
+    int CloseReply() const { return closeReply_; }
+
     /// Cell division: option k is visible up to the clan's amoeba limit and enabled up to its BP
     /// divided by the price, plus 1 for the amoeba that may be free. Runs once, before the dialog shows.
     void Activate(int price);

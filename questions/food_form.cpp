@@ -61,6 +61,27 @@ std::vector<int> FoodForm::Entry() const {
     return entry;
 }
 
+std::vector<PossibleMeal> FoodForm::PossibleMeals() const {
+    std::vector<PossibleMeal> meals;
+    for (const int menu : LegalMenus) {
+        Takings takings(*this);
+        takings.TakeMenu(menu);
+        if (const auto best = takings.FromTheFullest(); !best.empty()) {
+            meals.push_back({menu, best});
+        }
+    }
+    return meals;
+}
+
+void FoodForm::meal_Click(const PossibleMeal& meal) {
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        const int amount = meal.Amounts[static_cast<std::size_t>(colour - 1)];
+        if (fdtxt[colour].Enabled && Amount(colour) != amount) {
+            fdtxt_Change(colour, Concat(amount));
+        }
+    }
+}
+
 void FoodForm::UpdateButtons() {
     victimbEnabled = (paroptEnabled && paroptValue) || (sfsoptEnabled && sfsoptValue);
     eatbEnabled = !sfsoptValue;

@@ -8,6 +8,29 @@
 
 namespace plasmos {
 
+/// What pressing eatb would come to as the fields stand.
+struct EntryVerdict {
+    enum class Kind {
+        Legal,     ///< it is eaten, or carried
+        Starves,   ///< nothing is eaten, and the amoeba cannot eat
+        TooMuch,   ///< more of a colour than the square holds
+        NotLegal,  ///< the clan may not eat such a menu
+        TooHeavy   ///< more than a tentacle carries
+    };
+
+    Kind What = Kind::Legal;
+    int Menu = 0;  ///< what is typed, as a menu; 0 where it is carried
+
+    /// Whether eatb would be taken.
+    bool Passes() const { return What == Kind::Legal || What == Kind::Starves; }
+};
+
+/// A legal menu, and pieces of the colours 1 to NumPlayers that make it up beside what is lent.
+struct PossibleMeal {
+    int Menu = 0;
+    std::vector<int> Amounts;
+};
+
 /// The food dialog: what an amoeba eats, or carries along in the mode "TENTACLE".
 /// One entry field per clan colour 1..NumPlayers; the fields 0 and 7 stand for pieces lent by hosts.
 ///
@@ -42,12 +65,16 @@ public:
     void victimb_Click() { Put(Plain(Answer::Kind::Victim)); }
     /// The suggestion is clicked: the fields show the colours it would take.
     void suggest_Click() { Put(Plain(Answer::Kind::Suggestion)); }
+    /// A possible meal is clicked: the entry fields change to its amounts.
+    void meal_Click(const PossibleMeal& meal);
     void Form_Close() { Put(Plain(Answer::Kind::Close)); }
 
     /// What was pressed is done with; the dialog goes on.
     void Resume() { Pressed = Button::None; }
     /// The whole value of a field; 0 where the text is no plain decimal number.
     int Amount(int field) const;
+    /// The menus of which the square holds enough now, each with the colours of which most lies there.
+    std::vector<PossibleMeal> PossibleMeals() const;
     /// What the fields of the colours 1 to NumPlayers hold.
     std::vector<int> Entry() const;
     bool AllZero() const;
@@ -62,6 +89,8 @@ public:
     Table<int, 0, MaxClans> SuggestedAmounts;  ///< what the suggestion takes of each colour
     /// The rule's count of what is typed, made again with every change of a field: the typed menu in the work lists.
     std::function<void(const FoodForm&)> Recount;
+    /// The rule's check of what is typed, the one that eatb has to pass; it changes nothing.
+    std::function<EntryVerdict(const FoodForm&)> Judge;
     std::vector<int> LegalMenus;  ///< the menus that the clan may eat
     int CarryingLimit = 0;        ///< pieces that may be carried in the mode "TENTACLE"
 

@@ -103,6 +103,7 @@ void GeneForm::PrepareEnvironment() {
     Adapts = true;
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel);
     SetDiscarded(0);
+    suggestion_ = CheapestAdaptation(game, Clan);
     game.DoneFlag = 0;
 }
 
@@ -161,7 +162,7 @@ void GeneForm::Click(const Answer& answer) {
 }
 
 void GeneForm::GiveUp(int gene) {
-    const int points = gene == GeneId("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
+    const int points = PointsOf(gene);
     SetDiscarded(discarded_ + (gcheck[gene].Ticked ? -points : points));
     SetUVdiff(game.Players[Clan].MutationLevel - game.UVLevel - discarded_);
     resetbVisible = true;
@@ -210,6 +211,36 @@ void GeneForm::Finish() {
     if (Adapts && !refused) {
         UVdiffVisible = EnvBPVisible = ofLabVisible = resetbVisible = false;
         BPlabelVisible = true;
+    }
+}
+
+int GeneForm::PointsOf(int gene) {
+    return gene == GeneId("ray") ? RayCredit : game.Catalogue[gene].MutationPoints;
+}
+
+int GeneForm::UncountedBP() const {
+    return UVdiff - (game.Players[Clan].MutationLevel - game.UVLevel - discarded_ - PaidBP());
+}
+
+bool GeneForm::ShowsSuggestion() const {
+    const auto& given = suggestion_.GivenUp;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (IsGivenUp(gene) != (std::find(given.begin(), given.end(), gene) != given.end())) {
+            return false;
+        }
+    }
+    return PaidBP() == suggestion_.Paid && UncountedBP() == 0;
+}
+
+void GeneForm::adaptb_Click() {
+    const auto& given = suggestion_.GivenUp;
+    for (int gene = 1; gene <= GeneCount; ++gene) {
+        if (IsGivenUp(gene) != (std::find(given.begin(), given.end(), gene) != given.end())) {
+            gcheck_Click(gene);
+        }
+    }
+    if (EnvBPVisible && (PaidBP() != suggestion_.Paid || UncountedBP() != 0)) {
+        EnvBP_Change(Concat(suggestion_.Paid));
     }
 }
 

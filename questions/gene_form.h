@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "questions/adaptation.h"
 #include "questions/question.h"
 
 namespace plasmos {
@@ -40,6 +41,8 @@ public:
     void gcheck_Click(int gene);
     /// The text of the field for BP changes.
     void EnvBP_Change(std::string text) { Put(TypedInto(Answer::Kind::Pay, 0, std::move(text))); }
+    /// The suggestion is taken: the boxes of its genes are clicked and its BP typed, where they differ from it.
+    void adaptb_Click();
     void resetb_Click() { Put(Plain(Answer::Kind::Reset)); }
     /// "done"; closing the window is the same.
     void doneb_Click() { Put(Plain(Answer::Kind::Done)); }
@@ -53,6 +56,15 @@ public:
     void ShowHeld();
     /// What is paid when the clan is done adapting: what stands in the field, at most its BP, at least 0.
     int PaidBP() const;
+    /// BP in the field that the UV cost leaves out, as a box was clicked after they had been typed.
+    int UncountedBP() const;
+    /// What giving up a gene takes off the UV cost.
+    static int PointsOf(int gene);
+    /// A gene was held when the dialog opened and is given up.
+    bool IsGivenUp(int gene) const { return Adapts && gcheck[gene].Enabled && !gcheck[gene].Ticked; }
+    /// The cheapest way to adapt; the choices may have come to it already.
+    const Adaptation& Suggestion() const { return suggestion_; }
+    bool ShowsSuggestion() const;
 
     bool Adapts = false;  ///< the mode is "ENVIRONMENT"
     Button Pressed = Button::None;
@@ -85,6 +97,7 @@ private:
     void Finish();
 
     int discarded_ = 0;
+    Adaptation suggestion_;
     FixedText<100> heldOnEntry_;  ///< "~", the number and "~" for every gene held when the dialog opened
 };
 

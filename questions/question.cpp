@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "model/observer.h"
+#include "model/presentation.h"
 #include "model/services.h"
 
 namespace plasmos {
@@ -23,6 +24,10 @@ void Question::Put(const Answer& answer) {
         services.Listener->OnInput(*this, answer);
     }
     Store(answer);
+}
+
+bool HintsAreWanted() {
+    return services.Window != nullptr && services.Window->WantsHints();
 }
 
 void NoteAnswer(const Question& question, const Answer& answer, bool accepted) {

@@ -48,11 +48,17 @@ public:
     const QuestionKind Kind;
     const int Clan;    ///< the asked clan, 1..NumPlayers; 0 before the clans are known
     std::string Text;  ///< the question as it is shown, with line breaks
+    /// What the answers cost and bring, and which of several like it this question is; shown beside the text. Empty
+    /// where there is nothing to say, or nobody who reads it.
+    std::string Hint;
 
 protected:
     /// Takes an answer that was put in.
     virtual void Store(const Answer& answer) = 0;
 };
+
+/// Whether anybody reads what stands beside a question. No hint is put into words when nobody does.
+bool HintsAreWanted();
 
 /// Tells a listener what came back.
 void NoteAnswer(const Question& question, const Answer& answer, bool accepted);

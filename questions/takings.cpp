@@ -2,6 +2,7 @@
 #include "questions/takings.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace plasmos {
 
@@ -41,6 +42,21 @@ void Takings::TakeDigits(int colour, const std::vector<int>& digits) {
             Of(colour) = 0;
         }
     }
+}
+
+std::vector<int> Takings::FromTheFullest() const {
+    const auto worth = [this](const std::vector<int>& amounts) {
+        std::pair<int, int> sum;
+        for (int colour = 1; colour <= static_cast<int>(amounts.size()); ++colour) {
+            const int pieces = amounts[static_cast<std::size_t>(colour - 1)];
+            sum.first += pieces * form_.fdtxt[colour].InSquare;
+            sum.second += pieces * game.Players[colour].Score;
+        }
+        return sum;
+    };
+    const auto best = std::max_element(Found.begin(), Found.end(),
+                                       [&](const auto& one, const auto& other) { return worth(one) < worth(other); });
+    return best != Found.end() ? *best : std::vector<int>();
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): one colour deeper each time

@@ -18,6 +18,10 @@ public:
     /// Up to a number of pieces of any colour.
     void TakeUpTo(int most) { TakePieces(1, most); }
 
+    /// The one of those found that takes its pieces where most lies; on a tie that of the clans with the higher
+    /// scores. Empty: none was found.
+    std::vector<int> FromTheFullest() const;
+
     std::vector<std::vector<int>> Found;
 
 private:

@@ -14,6 +14,7 @@
 #include "rules/computer_clan.h"
 #include "rules/feeding.h"
 #include "rules/fight.h"
+#include "rules/hints.h"
 
 namespace plasmos {
 
@@ -52,6 +53,7 @@ std::vector<int> SquaresWithVictims(int clan) {
 /// Which of the clan's pieces in a square attacks; 0: none.
 int ChooseAttacker(int square, int clan) {
     AmChoicefrm form(clan, "Aggression", "Which amoeba shall attack?");
+    form.Hint = AttackerHint();
     int count = 0;
     int only = 0;
     for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
@@ -76,8 +78,9 @@ Attack AttackByPerson(int clan) {
     if (squares.empty()) {
         return Attack::NobodyAsked;
     }
-    if (AskYesNo(clan, Concat(game.Players[clan].Name, ": would you like to Aggress another amoeba now?"))) {
-        const int square = AskSquare(clan, "Choose the square in which to aggress:", squares);
+    if (AskYesNo(clan, Concat(game.Players[clan].Name, ": would you like to Aggress another amoeba now?"), 0,
+                 AggressHint())) {
+        const int square = AskSquare(clan, "Choose the square in which to aggress:", squares, AggressHint());
         game.CurAmoeba = ChooseAttacker(square, clan);
         if (game.CurAmoeba != 0) {
             AttackAmoeba(0, square, 0);

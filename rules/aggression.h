@@ -10,11 +10,14 @@ void AggressionPhase();
 /// Damage at which an amoeba of a clan dies: 3 with "lif", else 2.
 int DamageLimit(int clan);
 
+/// What an amoeba is attacked for.
+enum class Assault { ToEat, Aggression };
+
 /// The attacked clan's answer by "def": up to two attempts with "per". True: the attack is beaten off.
-bool DefendAmoeba(int clan, int amoeba);
+bool DefendAmoeba(int clan, int amoeba, Assault assault = Assault::Aggression);
 
 /// The attacked clan's answer by "esc". True: the amoeba has left the square.
-bool EscapeAmoeba(int clan, int amoeba);
+bool EscapeAmoeba(int clan, int amoeba, Assault assault = Assault::Aggression);
 
 /// Takes a piece off the board for good: square, damage and spot are 0, its name stays. Food: the pieces of every
 /// colour that have been laid down for it and have not been told of.

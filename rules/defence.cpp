@@ -8,6 +8,7 @@
 #include "questions/ask.h"
 #include "rules/aggression.h"
 #include "rules/computer_clan.h"
+#include "rules/hints.h"
 #include "rules/move_amoeba.h"
 #include "rules/movement.h"
 
@@ -29,7 +30,7 @@ Happening AttackEnds(Kind kind, int clan, int amoeba, int square) {
             .OtherAmoeba = game.CurAmoeba};
 }
 
-bool AgreesToDefend(int clan, int amoeba, bool again) {
+bool AgreesToDefend(int clan, int amoeba, Assault assault, bool again) {
     if (game.BP[clan] < 1) {
         return false;
     }
@@ -39,7 +40,8 @@ bool AgreesToDefend(int clan, int amoeba, bool again) {
     return AskYesNoBelow(clan,
                          Concat(game.Players[clan].Name,
                                 again ? ": would you like to pay another BP for " : ": would you like to pay 1BP for ",
-                                game.Amoeba[amoeba][clan].Name, " to Defend itself against the attack?"));
+                                game.Amoeba[amoeba][clan].Name, " to Defend itself against the attack?"),
+                         DefenceHint(clan, assault, again));
 }
 
 /// Two dice, rolled again as long as they are equal; the defence succeeds when the first is lower.
@@ -69,13 +71,15 @@ bool DefendOnce(int clan, int amoeba) {
     return beatenOff;
 }
 
-bool AgreesToEscape(int clan, int amoeba) {
+bool AgreesToEscape(int clan, int amoeba, Assault assault) {
     const auto& name = game.Amoeba[amoeba][clan].Name;
     const auto& clanName = game.Players[clan].Name;
     return AskYesNoBelow(
-        clan, HasGene(clan, "str")
-                  ? Concat(clanName, ": Would ", name, " like to attempt to Escape the attack?")
-                  : Concat(clanName, ": Would you like to pay 1BP for ", name, " to attempt to Escape the attack?"));
+        clan,
+        HasGene(clan, "str")
+            ? Concat(clanName, ": Would ", name, " like to attempt to Escape the attack?")
+            : Concat(clanName, ": Would you like to pay 1BP for ", name, " to attempt to Escape the attack?"),
+        EscapeHint(clan, amoeba, assault));
 }
 
 void PayForEscape(int clan) {
@@ -84,9 +88,9 @@ void PayForEscape(int clan) {
     }
 }
 
-bool MayTryToEscape(int clan, int amoeba) {
+bool MayTryToEscape(int clan, int amoeba, Assault assault) {
     return game.Players[clan].IsComputer ? game.Amoeba[amoeba][clan].Damage < DamageLimit(clan)
-                                         : AgreesToEscape(clan, amoeba);
+                                         : AgreesToEscape(clan, amoeba, assault);
 }
 
 int FindRefuge(int clan, int amoeba) {
@@ -96,21 +100,21 @@ int FindRefuge(int clan, int amoeba) {
 
 }  // namespace
 
-bool DefendAmoeba(int clan, int amoeba) {
+bool DefendAmoeba(int clan, int amoeba, Assault assault) {
     if (game.Amoeba[amoeba][clan].Damage >= DamageLimit(clan)) {
         return false;
     }
-    if (!AgreesToDefend(clan, amoeba, false)) {
+    if (!AgreesToDefend(clan, amoeba, assault, false)) {
         return false;
     }
     if (DefendOnce(clan, amoeba)) {
         return true;
     }
-    return HasGene(clan, "per") && AgreesToDefend(clan, amoeba, true) && DefendOnce(clan, amoeba);
+    return HasGene(clan, "per") && AgreesToDefend(clan, amoeba, assault, true) && DefendOnce(clan, amoeba);
 }
 
-bool EscapeAmoeba(int clan, int amoeba) {
-    if (game.BP[clan] < 1 || !MayTryToEscape(clan, amoeba)) {
+bool EscapeAmoeba(int clan, int amoeba, Assault assault) {
+    if (game.BP[clan] < 1 || !MayTryToEscape(clan, amoeba, assault)) {
         return false;
     }
     const Piece& piece = game.Amoeba[amoeba][clan];

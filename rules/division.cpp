@@ -13,6 +13,7 @@
 #include "questions/ask.h"
 #include "questions/choice_forms.h"
 #include "rules/computer_clan.h"
+#include "rules/hints.h"
 #include "rules/move_amoeba.h"
 
 namespace plasmos {
@@ -77,10 +78,10 @@ int DrawStartSquare() {
     return SquaresWhere(IsEmptySquare).Lowest();
 }
 
-int ChooseSquareFor(int clan) {
+int ChooseSquareFor(int clan, const NewAmoeba& which) {
     const bool inPlay = game.Turn >= 1;
     if (!game.Players[clan].IsComputer) {
-        return PlacingSquares(clan, inPlay).Empty() ? 0 : ChoosePlaceSquare(clan, inPlay);
+        return PlacingSquares(clan, inPlay).Empty() ? 0 : ChoosePlaceSquare(clan, inPlay, which);
     }
     if (!inPlay) {
         return DrawStartSquare();
@@ -114,6 +115,7 @@ int AskHowMany(int clan, int affordable) {
     AmNumfrm form(clan, "Amoeba-number form", "How many amoebas would you like to create?", -1, 0);
     form.Activate(DivisionPrice(clan));
     form.LimitTo(affordable);
+    form.Hint = DivisionHint(clan, DivisionPrice(clan), affordable);
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
     open.Wait();
@@ -128,14 +130,16 @@ void DividePerson(int clan, int price) {
         return;
     }
     const auto& name = game.Players[clan].Name;
-    if (AskYesNo(clan, Concat("Clan ", name, ", would you like to Divide new Plasmos onto the board?"))) {
-        if (game.AmoebaCount[clan] == 0) {
+    const bool first = game.AmoebaCount[clan] == 0;
+    if (AskYesNo(clan, Concat("Clan ", name, ", would you like to Divide new Plasmos onto the board?"), 0,
+                 DivisionHint(clan, price, affordable + (first ? 1 : 0)))) {
+        if (first) {
             ShowBox(clan, Concat("Your first amoeba will be free of cost; all further amoebas will cost you ", price,
                                  " BPs as normal."));
             ++affordable;
         }
         const int count = AskHowMany(clan, affordable);
-        for (int i = 1; i <= count && DivideOnce(clan, price); ++i) {
+        for (int i = 1; i <= count && DivideOnce(clan, price, {i, count}); ++i) {
         }
     }
     ClearMessage();
@@ -164,16 +168,17 @@ SquareSet PlacingSquares(int clan, bool inPlay) {
     return squares.Empty() ? SquaresWhere(withoutOwn) : squares;
 }
 
-int ChoosePlaceSquare(int clan, bool inPlay) {
-    return AskSquare(clan, "Choose a square in which to place your amoeba:", PlacingSquares(clan, inPlay).List());
+int ChoosePlaceSquare(int clan, bool inPlay, const NewAmoeba& which) {
+    return AskSquare(clan, "Choose a square in which to place your amoeba:", PlacingSquares(clan, inPlay).List(),
+                     PlacingHint(clan, inPlay, which));
 }
 
-bool CreateAmoeba(int clan) {
+bool CreateAmoeba(int clan, const NewAmoeba& which) {
     const int amoeba = FreeSlot(clan);
     if (amoeba == 0) {
         return false;
     }
-    const int square = ChooseSquareFor(clan);
+    const int square = ChooseSquareFor(clan, which);
     if (square == 0) {
         return false;
     }
@@ -181,14 +186,14 @@ bool CreateAmoeba(int clan) {
     return true;
 }
 
-bool DivideOnce(int clan, int price) {
+bool DivideOnce(int clan, int price, const NewAmoeba& which) {
     if (FreeSlot(clan) == 0 || !HasRoom(clan)) {
         return false;
     }
     if (game.AmoebaCount[clan] >= 1) {
         PayBP(clan, price);
     }
-    return CreateAmoeba(clan);
+    return CreateAmoeba(clan, which);
 }
 
 void DivisionPhase() {

@@ -10,6 +10,7 @@
 #include "questions/ask.h"
 #include "questions/gene_form.h"
 #include "rules/computer_clan.h"
+#include "rules/hints.h"
 
 namespace plasmos {
 
@@ -52,6 +53,7 @@ void AdaptPerson(int clan) {
         "UV-level, and/or discard genes until the difference is reduced to 0 or below.";
     GeneForm form(clan, text);
     form.PrepareEnvironment();
+    form.Hint = AdaptingHint(clan);
     ShowQuestionText(text, clan);
     {
         OpenQuestion open(form);

@@ -10,6 +10,7 @@
 #include "questions/food_form.h"
 #include "questions/victim_form.h"
 #include "rules/feeding.h"
+#include "rules/hints.h"
 #include "rules/menus.h"
 
 namespace plasmos {
@@ -24,16 +25,16 @@ int CountHosts(int square, int clan) {
     return hosts;
 }
 
-/// The menu that the person has typed: fills the menu work lists from the fields, own colour left out,
-/// lent pieces as 1 of colour 0, and sorts them.
-int MakeEatStr(const FoodForm& form) {
-    game.MenuAmounts = {};
-    game.MenuColours = {};
+/// The menu that the person has typed: fills two lists from the fields, own colour left out, lent pieces as 1 of
+/// colour 0, and sorts them.
+int TypedMenu(const FoodForm& form, Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours) {
+    amounts = {};
+    colours = {};
     int place = 0;
     const auto add = [&](int amount, int colour) {
         ++place;
-        game.MenuAmounts[place] = amount;
-        game.MenuColours[place] = colour;
+        amounts[place] = amount;
+        colours[place] = colour;
     };
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         const int amount = form.Amount(colour);
@@ -47,7 +48,38 @@ int MakeEatStr(const FoodForm& form) {
     if (form.fdtxt[7].Visible) {
         add(1, 0);
     }
-    return SortMenuDigits(game.MenuAmounts, game.MenuColours);
+    return SortMenuDigits(amounts, colours);
+}
+
+/// The same into the menu work lists.
+int MakeEatStr(const FoodForm& form) {
+    return TypedMenu(form, game.MenuAmounts, game.MenuColours);
+}
+
+template <class Test>
+bool AnyForeignAmount(const FoodForm& form, Test&& test) {
+    for (int colour = 1; colour <= game.NumPlayers; ++colour) {
+        if (colour != form.Clan && test(colour, form.Amount(colour))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// What eatb would come to: the amounts are looked at first, then the menu.
+EntryVerdict JudgeMeal(const FoodForm& form) {
+    using Kind = EntryVerdict::Kind;
+    Table<int, 0, 7> amounts;
+    Table<int, 0, 7> colours;
+    const int menu = TypedMenu(form, amounts, colours);
+    if (menu == 0 && form.SuggestedMenu == 0) {
+        return {Kind::Starves, 0};
+    }
+    if (AnyForeignAmount(form, [&](int colour, int amount) { return amount > game.Food[form.Square][colour]; })) {
+        return {Kind::TooMuch, menu};
+    }
+    const bool tooLarge = AnyForeignAmount(form, [](int, int amount) { return amount > 9; });
+    return {tooLarge || !IsLegalMenu(menu) ? Kind::NotLegal : Kind::Legal, menu};
 }
 
 bool CanParasitize(int square, int clan) {
@@ -61,6 +93,7 @@ void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     form.LegalMenuLabel = Concat("Legal menu(s): ", game.LegalMenus);
     form.LegalMenus = LegalMenusOf(clan);
     form.Recount = [](const FoodForm& typed) { LegalEat(MakeEatStr(typed)); };
+    form.Judge = JudgeMeal;
     form.SuggestedMenu = menu;
     form.SuggestedAmounts = SuggestedAmounts(square, clan);
     form.sfsoptVisible = form.sfsoptEnabled = victim && IsFighter(clan) && menu == 0 && game.BP[clan] >= 1;
@@ -70,6 +103,7 @@ void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     }
     form.Text = Concat("Your amoeba may eat the suggested menu in square ", square,
                        ", or using your amoebas' genes you may design your own.");
+    form.Hint = FeedingHint(clan, game.CurAmoeba, menu != 0, form.sfsoptEnabled, form.paroptEnabled);
     form.UpdateButtons();
 }
 
@@ -115,24 +149,6 @@ private:
         ShowQuestionText(form_.Text, form_.Clan);
     }
 
-    bool TakesTooMuch() const {
-        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-            if (colour != form_.Clan && form_.Amount(colour) > game.Food[form_.Square][colour]) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    bool AmountTooLarge() const {
-        for (int colour = 1; colour <= game.NumPlayers; ++colour) {
-            if (colour != form_.Clan && form_.Amount(colour) > 9) {
-                return true;
-            }
-        }
-        return false;
-    }
-
     std::string NotLegal(int menu) const {
         LegalEat(menu);
         return Concat("The menu you chose was not legal.\nPossible menus are: ", game.LegalMenus,
@@ -140,15 +156,16 @@ private:
     }
 
     void Eat() {
-        const int menu = MakeEatStr(form_);
-        if (menu == 0 && form_.SuggestedMenu == 0) {
+        const EntryVerdict verdict = JudgeMeal(form_);
+        if (verdict.What == EntryVerdict::Kind::Starves) {
             End(Outcome::Starves, Plain(Answer::Kind::Starve));
-        } else if (TakesTooMuch()) {
+        } else if (verdict.What == EntryVerdict::Kind::TooMuch) {
             Refuse("You cannot eat more food than is in the square; please try again.");
-        } else if (AmountTooLarge() || !LegalEat(menu)) {
-            Refuse(NotLegal(menu));
+        } else if (!verdict.Passes()) {
+            Refuse(NotLegal(verdict.Menu));
         } else {
-            Menu = menu;
+            MakeEatStr(form_);
+            Menu = verdict.Menu;
             End(Outcome::Eats, WithAmounts(Answer::Kind::Eat, form_.Entry()));
         }
     }
@@ -163,6 +180,7 @@ private:
 
     void PickHost() {
         VictimForm victims(form_.Clan, "PARASITE", "Choose your Parasite-victim:", form_.Square);
+        victims.Hint = HostHint();
         const int next = form_.fdtxt[0].Visible ? 2 : 1;
         for (const VictimFigure& figure : victims.Figures) {
             if (IsHost(form_.Square, form_.Clan, figure.Clan) && figure.Clan != form_.Hosts[1] && next <= 2) {
@@ -184,6 +202,7 @@ private:
 
     void Struggle() {
         VictimForm victims(form_.Clan, "SFS", "Choose your Attack-victim:", form_.Square);
+        victims.Hint = StruggleHint(form_.Clan, game.CurAmoeba);
         for (const VictimFigure& figure : victims.Figures) {
             if (IsVictim(form_.Square, form_.Clan, figure.Clan)) {
                 victims.Allow(figure.Clan, figure.Amoeba);

@@ -9,6 +9,7 @@
 #include "questions/victim_form.h"
 #include "rules/aggression.h"
 #include "rules/feeding.h"
+#include "rules/hints.h"
 #include "rules/move_amoeba.h"
 
 namespace plasmos {
@@ -38,11 +39,11 @@ int PickByDamage(int square, int clan, bool highest) {
 }
 
 /// The victim's clan answers by its genes: escape first, then defence. True: the victim got away.
-bool GetsAway(int clan, int amoeba) {
-    if (HasGene(clan, "esc") && EscapeAmoeba(clan, amoeba)) {
+bool GetsAway(int clan, int amoeba, Assault assault) {
+    if (HasGene(clan, "esc") && EscapeAmoeba(clan, amoeba, assault)) {
         return true;
     }
-    return HasGene(clan, "def") && DefendAmoeba(clan, amoeba);
+    return HasGene(clan, "def") && DefendAmoeba(clan, amoeba, assault);
 }
 
 struct Victim {
@@ -79,6 +80,7 @@ Victim PickByPerson(int square, int attacker) {
             form.Allow(figure.Clan, figure.Amoeba);
         }
     }
+    form.Hint = AggressVictimHint(attacker);
     ShowQuestionText(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
     const auto picked = AskVictims(form);
     if (picked.empty()) {
@@ -122,7 +124,7 @@ int SecondVictimClan(int square, int clan) {
 bool Resolve(const Victim& victim, int square) {
     MoveBeside(game.CurPlayer, game.CurAmoeba, game.Amoeba[victim.Amoeba][victim.Clan].Slot);
     Happened(Does(Kind::Attacks, victim, square));
-    const bool gotAway = GetsAway(victim.Clan, victim.Amoeba);
+    const bool gotAway = GetsAway(victim.Clan, victim.Amoeba, Assault::Aggression);
     if (!gotAway) {
         Outcome(victim, square);
     }
@@ -139,7 +141,7 @@ void AttackToEat(int victimClan, int square, int attacker, bool& stillHungry, in
     const Victim victim{victimClan, victimAmoeba != 0 ? victimAmoeba : PickByDamage(square, victimClan, false)};
     MoveBeside(victimClan, victim.Amoeba, game.Amoeba[game.CurAmoeba][attacker].Slot);
     Happened(Does(Kind::AttacksToEat, victim, square));
-    if (GetsAway(victimClan, victim.Amoeba)) {
+    if (GetsAway(victimClan, victim.Amoeba, Assault::ToEat)) {
         return;
     }
     stillHungry = false;

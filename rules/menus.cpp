@@ -50,13 +50,17 @@ std::vector<int> LegalMenusOf(int clan) {
     return menus;
 }
 
-bool LegalEat(int menu) {
+bool IsLegalMenu(int menu) {
     const std::vector<int> legal = LegalMenusOf(game.CurPlayer);
+    return std::find(legal.begin(), legal.end(), menu) != legal.end();
+}
+
+bool LegalEat(int menu) {
     game.LegalMenus = "";
-    for (const int shown : legal) {
+    for (const int shown : LegalMenusOf(game.CurPlayer)) {
         game.LegalMenus += Concat(" ", shown, ",");
     }
-    return std::find(legal.begin(), legal.end(), menu) != legal.end();
+    return IsLegalMenu(menu);
 }
 
 int SortMenuDigits(Table<int, 0, 7>& amounts, Table<int, 0, 7>& colours) {

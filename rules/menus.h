@@ -14,7 +14,10 @@ namespace plasmos {
 /// they are shown. What it finds in a square limits them further.
 std::vector<int> LegalMenusOf(int clan);
 
-/// Whether the current clan may eat a menu. Keeps the text of its legal menus in `LegalMenus`.
+/// Whether the current clan may eat a menu.
+bool IsLegalMenu(int menu);
+
+/// The same. Keeps the text of its legal menus in `LegalMenus`.
 bool LegalEat(int menu);
 
 /// Sorts the menu work lists by amount, the largest first, and gives the menu they spell.

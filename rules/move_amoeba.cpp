@@ -11,6 +11,7 @@
 #include "model/trace.h"
 #include "questions/ask.h"
 #include "questions/victim_form.h"
+#include "rules/hints.h"
 #include "rules/menus.h"
 
 namespace plasmos {
@@ -72,10 +73,11 @@ void ForPiecesIn(int square, int clan, Visit&& visit) {
 void AskRiders(int clan, int from, int to, RiderList& riders) {
     const auto text = Concat(game.Players[clan].Name, ": there is an amoeba moving from square ", from, " to ", to,
                              "\nWould any of your amoebas like to hitch a ride?");
-    if (!AskYesNo(clan, text)) {
+    if (!AskYesNo(clan, text, 0, RidersHint(to))) {
         return;
     }
     VictimForm form(clan, "HOLD", "Choose the Hitch-hiker(s):", from);
+    form.Hint = RidersHint(to);
     ForPiecesIn(from, clan, [&](int amoeba) { form.Allow(clan, amoeba); });
     for (const VictimFigure& figure : AskVictims(form)) {
         riders.Add({figure.Clan, figure.Amoeba});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
+
 #include "model/genes.h"
 #include "rules/directions.h"
 
@@ -20,7 +22,7 @@ void MovePersonsAmoeba(int clan, int amoeba);
 
 /// Asks a person to click the square an amoeba is to move into. With `neighbours` the squares it
 /// reaches are offered, else those of `list`. The message line has its text back afterwards.
-int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list = {});
+int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list = {}, std::string hint = {});
 
 /// What a person's amoeba moves for.
 enum class MoveKind { FirstAttempt, SecondAttempt, Escape };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <utility>
 #include <vector>
 
 #include "model/bio_points.h"
@@ -7,6 +8,7 @@
 #include "model/presentation.h"
 #include "questions/ask.h"
 #include "rules/environment.h"
+#include "rules/hints.h"
 #include "rules/move_amoeba.h"
 #include "rules/movement.h"
 
@@ -56,7 +58,7 @@ void DriftPersonsAmoeba(int clan, int amoeba) {
         return;
     }
     const auto list = WithOwnSquare(Neighbours(square, clan), square);
-    MoveAmoeba(clan, amoeba, ChooseSquare(clan, amoeba, false, list));
+    MoveAmoeba(clan, amoeba, ChooseSquare(clan, amoeba, false, list, FreeDriftHint()));
 }
 
 /// One attempt: the question, the price, the move. False: the person did not want to.
@@ -67,7 +69,8 @@ bool Attempt(int clan, int amoeba, bool first, const DriftForecast& drift) {
         }
         return false;
     }
-    if (!AskYesNo(clan, drift.Text + OfferText(clan, amoeba, first), drift.Square)) {
+    if (!AskYesNo(clan, drift.Text + OfferText(clan, amoeba, first), drift.Square,
+                  MoveOfferHint(clan, amoeba, first))) {
         return false;
     }
     const bool freeAttempt = HasGene(clan, "str") || (!first && HasSpeed(clan));
@@ -83,20 +86,32 @@ int RollDirection() {
     return DirectionFromDie(RollDie(6));
 }
 
-int ChooseNeighbour(int clan, int amoeba) {
-    return ChooseSquare(clan, amoeba, true);
+int ChooseNeighbour(int clan, int amoeba, std::string hint) {
+    return ChooseSquare(clan, amoeba, true, {}, std::move(hint));
 }
 
-/// Where a throw leads: the square in its direction, or the one that the person chooses.
-int SquareOfThrow(int clan, int amoeba, int direction) {
-    return direction == WhereItWants ? ChooseNeighbour(clan, amoeba)
-                                     : MoveDestination(game.Amoeba[amoeba][clan].Square, direction);
+/// A throw of the direction die, and where it leads.
+struct Throw {
+    int Direction = 0;
+    int Square = 0;
+};
+
+/// Where a throw leads: the square in its direction, or the one that the person chooses. `before` is the first
+/// throw of a clan that throws again.
+int SquareOfThrow(int clan, int amoeba, int direction, const Throw* before = nullptr) {
+    if (direction != WhereItWants) {
+        return MoveDestination(game.Amoeba[amoeba][clan].Square, direction);
+    }
+    return ChooseNeighbour(
+        clan, amoeba,
+        before != nullptr ? ThrowHint(clan, 2, before->Direction, before->Square) : ThrowHint(clan, 1, 0, 0));
 }
 
 /// The second throw of a clan with "mv1", after a first that led to a square.
-int ThrowAgain(int clan, int amoeba, int one) {
+int ThrowAgain(int clan, int amoeba, const Throw& first) {
+    const int one = first.Square;
     const int direction = RollDirection();
-    const int two = SquareOfThrow(clan, amoeba, direction);
+    const int two = SquareOfThrow(clan, amoeba, direction, &first);
     if (direction == WhereItWants) {
         return two;
     }
@@ -109,12 +124,12 @@ int ThrowAgain(int clan, int amoeba, int one) {
     SquareList both;
     both.Add(one);
     both.Add(two);
-    return ChooseSquare(clan, amoeba, false, both);
+    return ChooseSquare(clan, amoeba, false, both, BothThrowsHint(first.Direction, one, direction, two));
 }
 
 }  // namespace
 
-int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) {
+int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list, std::string hint) {
     const Piece& piece = game.Amoeba[amoeba][clan];
     const SquareList offered = neighbours ? Neighbours(piece.Square, clan) : list;
     std::vector<int> squares;
@@ -122,20 +137,21 @@ int ChooseSquare(int clan, int amoeba, bool neighbours, const SquareList& list) 
         squares.push_back(offered[place]);
     }
     const std::string before = game.Message.String();
-    const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares);
+    const int chosen = AskSquare(clan, Concat(before, "\nChoose a square for ", piece.Name, " to Move into:"), squares,
+                                 std::move(hint));
     PutBackMessage(before, clan);
     return chosen;
 }
 
 int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
     if (HasGene(clan, "mv2")) {
-        return ChooseNeighbour(clan, amoeba);
+        return ChooseNeighbour(clan, amoeba, FreeChoiceHint());
     }
     const int direction = RollDirection();
     if (HasGene(clan, "mv1")) {
         const int square = SquareOfThrow(clan, amoeba, direction);
         const bool chosen = kind == MoveKind::Escape && direction == WhereItWants;
-        return chosen ? square : ThrowAgain(clan, amoeba, square);
+        return chosen ? square : ThrowAgain(clan, amoeba, {direction, square});
     }
     const bool anyway = kind == MoveKind::FirstAttempt && direction == game.Drift;
     TellPerson(clan,

@@ -9,6 +9,7 @@
 #include "questions/ask.h"
 #include "questions/gene_form.h"
 #include "rules/computer_clan.h"
+#include "rules/hints.h"
 
 namespace plasmos {
 
@@ -33,8 +34,9 @@ void BuyPerson(int clan) {
     }
     const auto text = Concat("Clan ", game.Players[clan].Name, ", you have ", game.BP[clan],
                              " BP.\nWould you like to buy new Genes?");
-    if (AskYesNo(clan, text)) {
+    if (AskYesNo(clan, text, 0, GenesOfferHint())) {
         GeneForm form(clan, text);
+        form.Hint = BuyingHint();
         form.PrepareNewGenes();
         OpenQuestion open(form);
         for (open.Wait(); form.Pressed == GeneForm::Button::Box; open.Wait()) {

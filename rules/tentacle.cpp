@@ -4,6 +4,7 @@
 #include "questions/ask.h"
 #include "questions/choice_forms.h"
 #include "questions/food_form.h"
+#include "rules/hints.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"
 
@@ -50,24 +51,33 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     return load;
 }
 
-/// Why an entry cannot be carried, or an empty text.
-std::string CarryingFault(const FoodForm& form) {
+/// What eatb would come to: the weight is looked at first, then the square.
+EntryVerdict JudgeLoad(const FoodForm& form) {
+    using Kind = EntryVerdict::Kind;
     int sum = 0;
     bool tooMuch = false;
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         sum += form.Amount(colour);
         tooMuch = tooMuch || form.Amount(colour) > game.Food[form.Square][colour];
     }
-    if (sum > CarryingLimit) {
-        return Concat("You may not carry more than ", CarryingLimit, " food.");
-    }
-    return tooMuch ? "You may not carry out more food than there is in the square!" : "";
+    return {sum > CarryingLimit ? Kind::TooHeavy : tooMuch ? Kind::TooMuch : Kind::Legal, 0};
 }
 
-void AskFood(int clan, int from, TentacleLoad& load) {
+/// Why an entry cannot be carried, or an empty text.
+std::string CarryingFault(const FoodForm& form) {
+    const EntryVerdict verdict = JudgeLoad(form);
+    if (verdict.What == EntryVerdict::Kind::TooHeavy) {
+        return Concat("You may not carry more than ", CarryingLimit, " food.");
+    }
+    return verdict.Passes() ? "" : "You may not carry out more food than there is in the square!";
+}
+
+void AskFood(int clan, int from, int to, TentacleLoad& load) {
     FoodForm form(clan, "TENTACLE", from);
     form.Text = Concat("What will your amoeba carry out of square ", from, "? (At most ", CarryingLimit, " food.)");
     form.CarryingLimit = CarryingLimit;
+    form.Hint = TentacleHint(clan, to);
+    form.Judge = JudgeLoad;
     form.UpdateButtons();
     ShowQuestionText(form.Text, clan);
     OpenQuestion open(form);
@@ -100,7 +110,8 @@ int PickDragged(AmChoicefrm& form) {
     return AskAmoeba(form);
 }
 
-void AskDragged(int clan, int amoeba, int from, TentacleLoad& load) {
+void AskDragged(int clan, int amoeba, int to, TentacleLoad& load) {
+    const int from = game.Amoeba[amoeba][clan].Square;
     AmChoicefrm form(clan, "Tentacle", "Which amoeba shall be dragged along?");
     int count = 0;
     int only = 0;
@@ -116,7 +127,8 @@ void AskDragged(int clan, int amoeba, int from, TentacleLoad& load) {
     }
     const auto text =
         Concat("Would ", game.Amoeba[amoeba][clan].Name, " like to pay 1BP to drag another amoeba of its clan along?");
-    if (AskYesNo(clan, text)) {
+    form.Hint = DragHint(clan, to);
+    if (AskYesNo(clan, text, 0, form.Hint)) {
         load.DraggedAmoeba = count == 1 ? only : PickDragged(form);
     }
 }
@@ -142,9 +154,9 @@ TentacleLoad ChooseTentacleLoad(int clan, int amoeba, int destination) {
     }
     TentacleLoad load;
     if (AnyFoodIn(from)) {
-        AskFood(clan, from, load);
+        AskFood(clan, from, destination, load);
     }
-    AskDragged(clan, amoeba, from, load);
+    AskDragged(clan, amoeba, destination, load);
     ClearMessage();
     return load;
 }

@@ -61,11 +61,14 @@ std::vector<int> OfferedBy(const Question& question) {
 }
 
 Asked Remember(const Question& question) {
-    Asked asked{question.Kind, question.Clan, question.Text, OfferedBy(question), std::string(question.ModeName())};
-    if (const auto* yesNo = As<const YesNoQuestion>(&question)) {
-        asked.About = yesNo->About;
-    }
-    return asked;
+    const auto* yesNo = As<const YesNoQuestion>(&question);
+    return {.Kind = question.Kind,
+            .Clan = question.Clan,
+            .Text = question.Text,
+            .Offered = OfferedBy(question),
+            .Mode = std::string(question.ModeName()),
+            .About = yesNo != nullptr ? yesNo->About : 0,
+            .Hint = question.Hint};
 }
 
 }  // namespace

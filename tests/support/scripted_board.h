@@ -72,6 +72,7 @@ struct Asked {
     std::vector<int> Offered;
     std::string Mode;  ///< the dialog's mode; "" where it has none
     int About = 0;     ///< the square that a yes/no question speaks of; 0: none
+    std::string Hint;  ///< what stands beside the question
 };
 
 /// A board whose person answers from a script, and after its end from a policy. It remembers what was
@@ -104,9 +105,13 @@ public:
     std::function<void()> OnPause;
     std::string ReplayBox;  ///< what the person typed as the replay number
 
+    /// Whether questions come with their hints.
+    bool Hints = true;
+
     bool WasAsked(QuestionKind kind) const;
     bool HasLogLine(const std::string& line) const;
 
+    bool WantsHints() const override { return Hints; }
     void ShowMessage(std::string_view text, int clan) override;
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int) override { LogLines.emplace_back(line); }

@@ -68,6 +68,7 @@ NumberPanel::NumberPanel(QWidget* parent, const GameState& state, AmNumfrm& form
       form_(form),
       question_(MakeText(this, "amlab", 14)) {
     Body()->addWidget(question_);
+    Body()->addWidget(Hint());
     auto* grid = new QGridLayout;
     grid->setSpacing(6);
     for (int k = 0; k <= 7; ++k) {
@@ -92,7 +93,10 @@ void NumberPanel::Reread() {
         option->setVisible(choice.Visible);
         option->setEnabled(choice.Enabled);
         option->setText(choice.Caption.empty() ? QString::number(k) : ToQt(choice.Caption));
+        option->setAccessibleName(choice.Enabled ? QString::number(k) : QStringLiteral("%1, cannot be chosen").arg(k));
     }
+    SayClosing(form_.CloseReply() < 0 ? QStringLiteral("chooses nothing; you are asked again")
+                                      : QStringLiteral("chooses %1").arg(form_.CloseReply()));
 }
 
 void NumberPanel::CloseAsked() {
@@ -109,6 +113,7 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, const GameState& state, AmChoicefrm& f
       question_(MakeText(this, "amlab", 14)),
       none_(MakeButton(QStringLiteral("amoptb"), ToQt(AmChoicefrm::amoptb), false)) {
     Body()->addWidget(question_);
+    Body()->addWidget(Hint());
     auto* grid = new QGridLayout;
     grid->setSpacing(6);
     for (int k = 0; k <= 7; ++k) {
@@ -139,7 +144,11 @@ void AmoebaPanel::Reread() {
         option->setText(ButtonText(*option, choice.Caption));
         option->setToolTip(PlainTip(ToQt(choice.Caption)));
         option->setIcon(k > 0 && Clan() > 0 ? BlobIcon(Clan(), k, devicePixelRatioF()) : QIcon());
+        option->setAccessibleName(
+            choice.Enabled ? QStringLiteral("amoeba %1, %2").arg(k).arg(ToQt(choice.Caption))
+                           : QStringLiteral("amoeba %1, %2, cannot be chosen").arg(k).arg(ToQt(choice.Caption)));
     }
+    SayClosing(QStringLiteral("chooses none"));
 }
 
 void AmoebaPanel::CloseAsked() {
@@ -163,6 +172,7 @@ BoxPanel::BoxPanel(QWidget* parent, const GameState& state, BoxQuestion& box)
 
 void BoxPanel::Reread() {
     text_->setText(ToQt(box_.Text));
+    SayClosing(QStringLiteral("like OK"));
 }
 
 void BoxPanel::CloseAsked() {

@@ -4,9 +4,12 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpressionValidator>
 
 #include "model/game_state.h"
 #include "ui/dialogs/choice_panels.h"
+#include "ui/dialogs/meal_chips.h"
+#include "ui/look/colour_names.h"
 #include "ui/look/cube.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
@@ -46,6 +49,8 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
       suggest_(MakeButton(QStringLiteral("suggestb"), QString(), false)),
       hosts_(MakeText(this, "hostlab", 12)),
       legal_(MakeText(this, "legallab", 12)),
+      meals_(new MealChips(this)),
+      verdict_(MakeLabel(this, QStringLiteral("verdictlab"), 12, true, Tone::Ink)),
       paropt_(new QRadioButton(QStringLiteral("Parasitism"), this)),
       sfsopt_(new QRadioButton(QStringLiteral("Struggle for survival"), this)),
       eatb_(MakeButton(QStringLiteral("eatb"), QString(), true)),
@@ -55,10 +60,28 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
     }
     MakeRow(FirstLent);
     MakeRow(SecondLent);
+    MakeMeals();
+    MakeAlternatives();
+    Body()->addWidget(Hint());
+    MakeButtons();
+    FoodPanel::Reread();
+}
+
+void FoodPanel::MakeMeals() {
     Body()->addWidget(suggest_);
     connect(suggest_, &QPushButton::clicked, this, [this] { Handle([this] { form_.suggest_Click(); }); });
     Body()->addWidget(legal_);
-    MakeAlternatives();
+    meals_->Make(form_);
+    Body()->addWidget(meals_);
+    meals_->OnMeal = [this](const PossibleMeal& meal) {
+        eatb_->setFocus();
+        Handle([this, meal] { form_.meal_Click(meal); });
+    };
+}
+
+void FoodPanel::MakeButtons() {
+    verdict_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Foot()->addWidget(verdict_);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(eatb_, 1);
     buttons->addWidget(victimb_, 1);
@@ -70,8 +93,9 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
         controls.push_back(rows_[static_cast<std::size_t>(field)].Entry);
     }
     controls.insert(controls.end(), {suggest_, paropt_, sfsopt_, eatb_, victimb_});
+    const auto meals = meals_->Buttons();
+    controls.insert(controls.end(), meals.begin(), meals.end());
     OrderTabs(controls);
-    FoodPanel::Reread();
 }
 
 void FoodPanel::MakeAlternatives() {
@@ -107,16 +131,10 @@ void FoodPanel::MakeRow(int field) {
     row.Entry->setFixedWidth(46);
     row.Entry->setAlignment(Qt::AlignCenter);
     row.Entry->installEventFilter(this);
-    const QString step = QStringLiteral("padding:0;min-width:@24px;max-width:@24px;min-height:@22px;font-size:@15px");
-    row.Less = new QPushButton(QStringLiteral("−"), row.Line);
-    row.Less->setObjectName(QStringLiteral("less%1").arg(field));
-    row.More = new QPushButton(QStringLiteral("+"), row.Line);
-    row.More->setObjectName(QStringLiteral("more%1").arg(field));
-    for (QPushButton* button : {row.Less, row.More}) {
-        WearSheet(*button, step);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setAutoRepeat(true);
-    }
+    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    row.Entry->setValidator(new QRegularExpressionValidator(digits, row.Entry));
+    row.Less = MakeStep(row.Line, QStringLiteral("less%1").arg(field), false);
+    row.More = MakeStep(row.Line, QStringLiteral("more%1").arg(field), true);
     for (QWidget* part : std::initializer_list<QWidget*>{cube, row.Name, row.Count, row.Less, row.Entry, row.More}) {
         line->addWidget(part, part == row.Name ? 1 : 0);
     }
@@ -178,6 +196,44 @@ void FoodPanel::RereadRow(int field) {
     if (row.Entry->text() != ToQt(source.Text)) {
         row.Entry->setText(ToQt(source.Text));
     }
+    NameRow(field);
+}
+
+void FoodPanel::NameRow(int field) {
+    const Row& row = rows_[static_cast<std::size_t>(field)];
+    const QString piece =
+        IsLent(field) ? row.Name->text() : QStringLiteral("%1: %2").arg(ToQt(ColourName(field)), row.Name->text());
+    row.Less->setAccessibleName(QStringLiteral("one less %1").arg(piece));
+    row.More->setAccessibleName(QStringLiteral("one more %1").arg(piece));
+    row.Entry->setAccessibleName(
+        IsLent(field) ? piece : QStringLiteral("%1, %2 in the square").arg(piece).arg(form_.fdtxt[field].InSquare));
+}
+
+void FoodPanel::ShowVerdict() {
+    using Kind = EntryVerdict::Kind;
+    if (!form_.Judge) {
+        verdict_->hide();
+        return;
+    }
+    const EntryVerdict verdict = form_.Judge(form_);
+    const bool carrying = form_.Mode == "TENTACLE";
+    const QString text = verdict.What == Kind::Starves   ? QStringLiteral("Nothing entered: your amoeba starves.")
+                         : verdict.What == Kind::TooMuch ? QStringLiteral("Not legal: more than the square holds.")
+                         : verdict.What == Kind::TooHeavy
+                             ? QStringLiteral("Not legal: more than %1 pieces.").arg(form_.CarryingLimit)
+                         : verdict.What == Kind::Legal
+                             ? carrying ? QStringLiteral("Legal.") : QStringLiteral("Legal: %1.").arg(verdict.Menu)
+                         : verdict.Menu == 0 ? QStringLiteral("Nothing entered: your amoeba must eat.")
+                                             : QStringLiteral("Not legal: %1 is no menu of yours.").arg(verdict.Menu);
+    verdict_->setText(text);
+    WearTone(*verdict_, verdict.Passes() ? Tone::Accent : form_.AllZero() ? Tone::Ink : Tone::Alarm);
+    eatb_->setAccessibleDescription(text);
+}
+
+QString FoodPanel::ClosingText() const {
+    return form_.Mode == "TENTACLE"   ? QStringLiteral("carries nothing")
+           : form_.SuggestedMenu == 0 ? QStringLiteral("eats nothing; your amoeba starves")
+                                      : QStringLiteral("is refused, as your amoeba can eat");
 }
 
 void FoodPanel::Reread() {
@@ -202,6 +258,9 @@ void FoodPanel::Reread() {
     eatb_->setEnabled(form_.eatbEnabled);
     victimb_->setVisible(!carrying);
     victimb_->setEnabled(form_.victimbEnabled);
+    meals_->Reread(form_);
+    ShowVerdict();
+    SayClosing(ClosingText());
     rereading_ = false;
 }
 

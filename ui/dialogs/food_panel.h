@@ -10,6 +10,8 @@
 
 namespace plasmos {
 
+class MealChips;
+
 /// What to eat, or what a tentacle carries: an entry field for each colour in the square.
 class FoodPanel : public QuestionPanel {
 public:
@@ -32,9 +34,15 @@ private:
     };
 
     void MakeRow(int field);
+    void MakeMeals();
     void MakeAlternatives();
+    void MakeButtons();
     void RereadRow(int field);
     void Step(int field, int by);
+    void NameRow(int field);
+    /// Whether what is entered would be taken, and why not.
+    void ShowVerdict();
+    QString ClosingText() const;
 
     FoodForm& form_;
     bool rereading_ = false;
@@ -42,6 +50,8 @@ private:
     QPushButton* suggest_;
     QLabel* hosts_;
     QLabel* legal_;
+    MealChips* meals_;
+    QLabel* verdict_;
     QRadioButton* paropt_;
     QRadioButton* sfsopt_;
     QPushButton* eatb_;

@@ -57,6 +57,8 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
       title_(MakeLabel(this, QStringLiteral("dialogTitle"), 14, true, Tone::Ink)),
       close_(MakeButton(QStringLiteral("closeb"), QStringLiteral("×"), false)),
       message_(MakeText(this, "messagelab", 13)),
+      hint_(MakeText(this, "questionHint", 11)),
+      closing_(MakeLabel(this, QStringLiteral("closelab"), 10, false, Tone::Faint)),
       scroll_(new ScrollBody(this)),
       body_(new QVBoxLayout(scroll_->Content())),
       foot_(new QVBoxLayout),
@@ -67,10 +69,9 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     message_->hide();
     auto* head = new QHBoxLayout;
     head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
-    title_->setText(title);
+    SetTitle(title);
     title_->setWordWrap(true);
     head->addWidget(title_, 1);
-    close_->setToolTip(QStringLiteral("Close (Esc)"));
     close_->setFocusPolicy(Qt::NoFocus);
     WearSheet(*close_, QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:@18px;"
                                       "padding:0;min-height:@24px;min-width:@24px;max-width:@24px}"
@@ -83,6 +84,12 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     outer->addWidget(scroll_, 1);
     foot_->setSpacing(Spacing);
     outer->addLayout(foot_);
+    closing_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    outer->addWidget(closing_);
+    hint_->setText(ToQt(question.Hint));
+    hint_->setVisible(!question.Hint.empty());
+    WearTone(*hint_, Tone::Faint);
+    setAccessibleDescription(Spoken());
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
     SetEdge(clan_ > 0 ? clan_ : -1);
 }
@@ -123,6 +130,31 @@ void QuestionPanel::Handle(const std::function<void()>& handler) {
     if (OnHandled) {
         OnHandled();
     }
+}
+
+void QuestionPanel::SetTitle(const QString& title) {
+    title_->setText(title);
+    setAccessibleName(title);
+}
+
+QString QuestionPanel::Spoken() const {
+    return ToQt(question_.Text + (question_.Hint.empty() ? "" : "\n" + question_.Hint));
+}
+
+void QuestionPanel::SayClosing(const QString& effect) {
+    const QString text = QStringLiteral("Esc: %1").arg(effect);
+    closing_->setText(text);
+    close_->setToolTip(text);
+    close_->setAccessibleName(QStringLiteral("Close: %1").arg(effect));
+}
+
+QPushButton* QuestionPanel::MakeStep(QWidget* parent, const QString& name, bool up) {
+    auto* button = new QPushButton(up ? QStringLiteral("+") : QStringLiteral("−"), parent);
+    button->setObjectName(name);
+    WearSheet(*button, QStringLiteral("padding:0;min-width:@24px;max-width:@24px;min-height:@22px;font-size:@15px"));
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoRepeat(true);
+    return button;
 }
 
 QPushButton* QuestionPanel::MakeButton(const QString& name, const QString& caption, bool main) {

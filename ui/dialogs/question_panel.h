@@ -35,6 +35,9 @@ public:
     /// The question is over: nothing reaches it any more.
     void Retire() { retired_ = true; }
 
+    /// What somebody who listens is told when the question comes up.
+    QString Spoken() const;
+
     /// Called after a handler of the question has run.
     std::function<void()> OnHandled;
 
@@ -65,7 +68,14 @@ protected:
     QPushButton* MakeButton(const QString& name, const QString& caption, bool main);
     /// The tab key goes through the controls in this order.
     static void OrderTabs(const std::vector<QWidget*>& controls);
-    void SetTitle(const QString& title) { title_->setText(title); }
+    void SetTitle(const QString& title);
+    /// A quiet line with what the answers cost and bring, for the body, below the question's own words; hidden where
+    /// the question has none.
+    QWidget* Hint() { return hint_; }
+    /// Says what closing the dialog would do now: "buys what is ticked and closes".
+    void SayClosing(const QString& effect);
+    /// A button that steps a number down or up, by the mouse alone; `name` is its own, `listeners` hear the words.
+    QPushButton* MakeStep(QWidget* parent, const QString& name, bool up);
     int Clan() const { return clan_; }
     const GameState& State() const { return state_; }
 
@@ -77,6 +87,8 @@ private:
     QLabel* title_;
     QPushButton* close_;
     QLabel* message_;
+    QLabel* hint_;
+    QLabel* closing_;
     ScrollBody* scroll_;
     QVBoxLayout* body_;
     QVBoxLayout* foot_;

@@ -73,6 +73,7 @@ VictimPanel::VictimPanel(QWidget* parent, const GameState& state, VictimForm& fo
     }
     Body()->addWidget(picture);
     Body()->addWidget(vfamlab_);
+    Body()->addWidget(Hint());
     Foot()->addWidget(doneb_, 0, Qt::AlignRight);
     connect(doneb_, &QPushButton::clicked, this, [this] { Handle([this] { form_.doneb_Click(); }); });
     std::vector<QWidget*> controls(figures_.begin(), figures_.end());
@@ -88,10 +89,22 @@ void VictimPanel::Reread() {
         figures_[i]->setEnabled(source.Markable);
         figures_[i]->setToolTip(PlainTip(
             ToQt(Concat(State().Amoeba[source.Amoeba][source.Clan].Name, " of ", State().Players[source.Clan].Name))));
+        figures_[i]->setAccessibleName(SpokenOf(source));
         figures_[i]->update();
     }
+    SayClosing(form_.Mode == "HOLD" ? QStringLiteral("nobody rides along") : QStringLiteral("picks nobody"));
     vfamlab_->setText(ToQt(form_.vfamlab));
     doneb_->setEnabled(form_.donebEnabled);
+}
+
+QString VictimPanel::SpokenOf(const VictimFigure& figure) const {
+    const Piece& piece = State().Amoeba[figure.Amoeba][figure.Clan];
+    return QStringLiteral("%1 of %2, damage %3, %4")
+        .arg(ToQt(piece.Name.View()), ToQt(State().Players[figure.Clan].Name.View()))
+        .arg(piece.Damage)
+        .arg(figure.Marked     ? QStringLiteral("picked")
+             : figure.Markable ? QStringLiteral("can be picked")
+                               : QStringLiteral("cannot be picked"));
 }
 
 bool VictimPanel::event(QEvent* event) {

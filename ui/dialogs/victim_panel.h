@@ -36,6 +36,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QString SpokenOf(const VictimFigure& figure) const;
+
     VictimForm& form_;
     std::vector<FigureButton*> figures_;
     QLabel* vfamlab_;

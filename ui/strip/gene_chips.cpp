@@ -7,7 +7,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "model/genes.h"
+#include "model/gene_texts.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/look/plain_tip.h"
@@ -27,6 +27,19 @@ double ChipHeight() {
 
 QString ChipText(int gene, int form) {
     return form == FullNames ? ToQt(GeneName(gene)) : ToQt(GeneCodes[gene]);
+}
+
+/// A gene's name and what it does, in lines that a tool tip holds.
+QString TipOf(int gene) {
+    constexpr int longest = 60;
+    QString tip = ToQt(GeneName(gene)) + QLatin1Char(':');
+    int line = 0;
+    for (const QString& word : ToQt(GeneText(gene)).split(QLatin1Char(' '))) {
+        const bool breaks = line == 0 || line + word.size() > longest;
+        tip += (breaks ? QLatin1Char('\n') : QLatin1Char(' ')) + word;
+        line = (breaks ? 0 : line + 1) + static_cast<int>(word.size());
+    }
+    return tip;
 }
 
 QFont ChipFont(int form) {
@@ -131,7 +144,7 @@ bool GeneChips::event(QEvent* event) {
         QString tip = toolTip();
         for (const Chip& chip : Chips()) {
             if (chip.Rect.contains(QPointF(help->pos()))) {
-                tip += QLatin1Char('\n') + (chip.Gene > 0 ? ChipText(chip.Gene, FullNames) : Names());
+                tip += QLatin1Char('\n') + (chip.Gene > 0 ? TipOf(chip.Gene) : Names());
             }
         }
         QToolTip::showText(help->globalPos(), PlainTip(tip), this);

@@ -9,6 +9,7 @@
 #include "ui/look/dress.h"
 #include "ui/look/heard.h"
 #include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
 
 namespace plasmos {
 
@@ -46,7 +47,12 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       nob(new QPushButton(QStringLiteral("&No"), this)),
       state_(state),
       hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)),
-      speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)) {
+      speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)),
+      about_(new FitLabel(this, 11, 9)) {
+    about_->setObjectName(QStringLiteral("questionHint"));
+    about_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    WearTone(*about_, Tone::Faint);
+    about_->hide();
     playerlab->setObjectName(QStringLiteral("playerlab"));
     playerlab->setTextFormat(Qt::PlainText);
     WearLetters(*playerlab, 13, true);
@@ -108,6 +114,16 @@ void QuestionCard::ShowHint(const QString& hint) {
     hint_->setText(hint);
 }
 
+void QuestionCard::ShowAbout(const QString& about) {
+    about_->SetText(about);
+    setAccessibleDescription(about);
+    Arrange();
+}
+
+int QuestionCard::AboutHeight(int width) const {
+    return about_->text().isEmpty() ? 0 : about_->HeightAt(width - 2 * Px(Pad)) + 2;
+}
+
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
@@ -164,16 +180,27 @@ void QuestionCard::Arrange() {
     const int pad = Px(Pad);
     autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
     autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
-    const bool room = height() > Px(110);
+    const bool room = height() > Px(115);  // more than a dialog leaves it
     const int foot = Px(room ? ButtonHeight + 12 : 6);
     const int inner = width() - 2 * pad;
-    const int text = height() - Px(8 + HeadHeight) - foot;
-    msglab->setGeometry(pad, Px(8 + HeadHeight), inner, std::min(text, msglab->HeightAt(inner)));
+    ArrangeTexts(QRect(pad, Px(8 + HeadHeight), inner, height() - Px(8 + HeadHeight) - foot));
     const int top = height() - Px(ButtonHeight + 8);
     yesb->setGeometry(pad, top, Px(104), Px(ButtonHeight));
     nob->setGeometry(pad + Px(116), top, Px(104), Px(ButtonHeight));
     hint_->setGeometry(pad, top, inner, Px(ButtonHeight));
     hint_->setVisible(room && !asking_);
+}
+
+// The question comes first; what stands beside it takes what is left.
+void QuestionCard::ArrangeTexts(const QRect& room) {
+    const int wide = room.width();
+    const int about = std::min(AboutHeight(width()), room.height() - msglab->LeastHeightAt(wide));
+    const bool shown = !about_->text().isEmpty() && about >= about_->LeastHeightAt(wide);
+    const int message = std::min(shown ? room.height() - about : room.height(), msglab->HeightAt(wide));
+    msglab->setGeometry(room.x(), room.y(), wide, message);
+    about_->setVisible(shown);
+    about_->setGeometry(room.x(), room.y() + message + 2, wide, std::max(about, 0));
+    setToolTip(shown ? QString() : PlainTip(about_->text()));
 }
 
 void QuestionCard::paintEvent(QPaintEvent* event) {

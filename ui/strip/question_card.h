@@ -34,7 +34,13 @@ public:
     /// A hint in place of the buttons, such as where to click.
     void ShowHint(const QString& hint);
 
+    /// What the answers to the question cost and bring, in a quiet line below it; where there is no room for it, as
+    /// the card's tool tip.
+    void ShowAbout(const QString& about);
+
     int HeightFor(int width, bool tight) const;
+    /// Height that the quiet line wants; 0 without one.
+    int AboutHeight(int width) const;
     /// Height at which the whole question is read, in the smallest letters, above its buttons.
     int LeastHeight(int width) const;
 
@@ -49,10 +55,12 @@ private:
     void ArrangeHead();
     /// Message and current clan are of two clans.
     bool IsOfTwo() const { return messageClan_ > 0 && playerClan_ > 0 && messageClan_ != playerClan_; }
+    void ArrangeTexts(const QRect& room);
 
     const GameState& state_;
     QLabel* hint_;
     QLabel* speaker_;  ///< whom the message is about, where another clan acts
+    FitLabel* about_;
     int messageClan_ = 0;
     int playerClan_ = 0;
     bool asking_ = false;

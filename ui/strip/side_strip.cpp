@@ -95,8 +95,8 @@ int SideStrip::ArrangeHead() {
         // The card gives way as long as the clans find room below it.
         const int left = height() - top - Gap - Clans->ShortHeight();
         const int least = std::min(std::max(Px(LeastQuestion), Question->LeastHeight(width())), Px(UsualQuestion));
-        const int question =
-            panels_.empty() ? std::clamp(left, least, Px(UsualQuestion)) : Question->HeightFor(width(), true);
+        const int most = Px(UsualQuestion) + Question->AboutHeight(width());
+        const int question = panels_.empty() ? std::clamp(left, least, most) : Question->HeightFor(width(), true);
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {

@@ -31,6 +31,7 @@ public:
     explicit BoardPresentation(const BoardParts& parts);
 
     void ShowHappening(const Happening& happening) override;
+    bool WantsHints() const override { return true; }
     void ShowMessage(std::string_view text, int clan) override;
     void StartLog(std::string_view header) override;
     void Log(std::string_view line, int clan) override;

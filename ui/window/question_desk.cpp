@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/question_desk.h"
 
+#include <QAccessible>
 #include <QShortcut>
 #include <algorithm>
 #include <utility>
@@ -157,6 +158,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
     const auto* yesNo = As<YesNoQuestion>(top);
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
+    strip_->Question->ShowAbout((square != nullptr || yesNo != nullptr) ? ToQt(top->Hint) : QString());
     strip_->SetPanels(panels);
     strip_->Question->AskYesNo(yesNo != nullptr);
     ShowAsked();
@@ -165,6 +167,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     } else if (top != nullptr && asked_.back().Panel) {
         asked_.back().Panel->FirstControl()->setFocus(reason);
     }
+    Speak();
     AnnounceTop();
 }
 
@@ -172,6 +175,19 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
 void QuestionDesk::ShowAsked() {
     strip_->Question->ShowAsked(std::any_of(asked_.begin(), asked_.end(),
                                             [](const Asked& asked) { return asked.What->Kind != QuestionKind::Box; }));
+}
+
+void QuestionDesk::Speak() {
+    if (asked_.empty()) {
+        return;
+    }
+    QWidget* part = asked_.back().Panel.get();
+    if (part == nullptr) {
+        part = strip_->Question;
+        part->setAccessibleName(ToQt(TopQuestion()->Text));
+    }
+    QAccessibleEvent event(part, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void QuestionDesk::AnnounceTop() {

@@ -70,6 +70,8 @@ private:
     void ActivateTop(Qt::FocusReason reason);
     /// Whether anything is asked, for the message line.
     void ShowAsked();
+    /// Who listens is told of the topmost question.
+    void Speak();
     void AnnounceTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);

@@ -31,7 +31,7 @@ inline bool IsBlue(Scene& scene) {
 /// A clan with "def", "esc" and "sub", 12 points, under a UV level of 8.
 class AdaptScene : public PositionScene {
 public:
-    explicit AdaptScene(int bp) {
+    explicit AdaptScene(int bp, int clans = 4) : PositionScene(clans) {
         Give(3, {"def", "esc", "sub"});
         game.BP[3] = bp;
         game.EnvDeck[1] = {8, 1};

@@ -224,7 +224,7 @@ void CompareGenes(Comparison& see, Scene& scene, const GeneForm& form) {
     see.Text(QStringLiteral("dialogTitle"), adapting ? "Adapt to the UV level" : "Buy new genes");
     for (int gene = 1; gene <= GeneCount; ++gene) {
         const QString name = Numbered("gcheck", gene);
-        see.Answers(name, true, form.gcheck[gene].Enabled);
+        see.Answers(name, !adapting || game.Genes[gene][form.Clan], form.gcheck[gene].Enabled);
         see.Text(name, form.gcheck[gene].Caption);
         see.Ticked(name, form.gcheck[gene].Ticked);
         if (scene.Find(name)->toolTip() != ToQt(form.gcheck[gene].ToolTip)) {
@@ -241,6 +241,9 @@ void CompareGenes(Comparison& see, Scene& scene, const GeneForm& form) {
     see.Text(QStringLiteral("UVdiff"), Concat(form.UVdiff));
     see.Seen(QStringLiteral("BPlabel"), !adapting);
     see.Text(QStringLiteral("BPlabel"), form.BPlabel);
+    see.Answers(QStringLiteral("lessbp"), form.EnvBPVisible, form.PaidBP() > 0);
+    see.Answers(QStringLiteral("morebp"), form.EnvBPVisible, form.PaidBP() < game.BP[form.Clan]);
+    see.Answers(QStringLiteral("adaptb"), adapting, !form.ShowsSuggestion());
     see.Answers(QStringLiteral("resetb"), form.resetbVisible, true);
     see.Answers(QStringLiteral("doneb"), true, true);
     const QColor colour = scene.Find(QStringLiteral("UVdiff"))->palette().color(QPalette::WindowText);

@@ -11,7 +11,7 @@
 #include <QToolTip>
 
 #include "files/platform.h"
-#include "model/genes.h"
+#include "model/gene_texts.h"
 #include "model/narration.h"
 #include "model/presentation.h"
 #include "questions/ask.h"
@@ -229,6 +229,11 @@ void BoardWindowTest::geneLists() {
     QHelpEvent help(QEvent::ToolTip, beside, list->mapToGlobal(beside));
     QCoreApplication::sendEvent(scene.Find(QStringLiteral("genelist2")), &help);
     QVERIFY2(QToolTip::text().contains(QStringLiteral("Mutation level: 12")), qPrintable(QToolTip::text()));
+    const QPoint first(6, 6);
+    QHelpEvent onAGene(QEvent::ToolTip, first, list->mapToGlobal(first));
+    QCoreApplication::sendEvent(scene.Find(QStringLiteral("genelist2")), &onAGene);
+    QCOMPARE(QToolTip::text().simplified(),
+             QStringLiteral("Mutation level: 12 Substitution: ") + ToQt(GeneText(GeneNumber("sub"))));
 }
 
 }  // namespace plasmos::testing
