@@ -39,6 +39,11 @@ Stacks StacksOf(const QPainter& painter) {
     return StacksAt(painter.worldTransform().m11());
 }
 
+/// Cubes of a stack; where there are more than it can show, the uppermost makes room for their count.
+int ShownCubes(const Stacks& stacks, int pieces) {
+    return pieces <= stacks.High ? pieces : std::max(stacks.High - 1, 1);
+}
+
 /// Left foot of a colour's stack.
 QPointF StackFoot(const GameState& state, const Stacks& stacks, int square, int clan) {
     constexpr double Left = 62;
@@ -125,7 +130,7 @@ void DrawFood(const GameState& state, QPainter& painter, int square) {
     const Stacks stacks = StacksOf(painter);
     for (int clan = 1; clan <= state.NumPlayers; ++clan) {
         const QPointF foot = StackFoot(state, stacks, square, clan);
-        const int shown = std::min(state.Food[square][clan], stacks.High);
+        const int shown = ShownCubes(stacks, state.Food[square][clan]);
         if (shown == 0) {
             painter.setPen(QPen(Shade(Tone::NoFood), 12, Qt::SolidLine, Qt::RoundCap));
             painter.drawLine(foot + QPointF(24, -8), foot + QPointF(stacks.Cube - 24, -8));
@@ -152,13 +157,14 @@ void DrawFoodCounts(const GameState& state, QPainter& painter, int square) {
         if (count <= stacks.High) {
             continue;
         }
-        const bool tight = count > 9;
-        const QString text = (stacks.High > 1 && !tight ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
-        const double letters = stacks.Letters * (stacks.High == 1 && tight ? 0.72 : 1);
-        const double wide = letters * (0.75 * static_cast<double>(text.size())) + 8;
+        const QString text = QStringLiteral("×%1").arg(count);
+        constexpr double share = 0.75;  // of its height that a figure is wide
+        const double room = stacks.Cube + 28;
+        const double letters = std::min(stacks.Letters, room / (share * static_cast<double>(text.size())));
+        const double wide = letters * share * static_cast<double>(text.size());
         const QPointF foot = StackFoot(state, stacks, square, clan);
-        const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2,
-                         foot.y() - (stacks.Cube + 6) * stacks.High - letters - 4, wide, letters + 2);
+        const double high = (stacks.Cube + 6) * ShownCubes(stacks, count);
+        const QRectF tag(foot.x() + stacks.Cube / 2 - wide / 2, foot.y() - high - letters - 8, wide, letters + 2);
         painter.setPen(Qt::NoPen);
         painter.setBrush(Shade(Tone::CountGround));
         painter.drawRoundedRect(tag, letters * 0.4, letters * 0.4);
