@@ -9,7 +9,8 @@
 namespace plasmos {
 
 /// The per-user settings of the application "Plasmos". Keys live in sections: "board" (left, top,
-/// width, height, rows, cols, blockno, blocks), "players" (name1 to name6) and "play" (what the menus keep).
+/// width, height, rows, cols, blockno, blocks), "players" (name1 to name6), "play" and "look" (what the menus keep) and
+/// "results" (the record of the person's games).
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

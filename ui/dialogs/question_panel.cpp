@@ -67,17 +67,8 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     outer->setContentsMargins(SideMargin, 6, SideMargin, 12);
     outer->setSpacing(Spacing);
     message_->hide();
-    auto* head = new QHBoxLayout;
-    head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
     SetTitle(title);
-    title_->setWordWrap(true);
-    head->addWidget(title_, 1);
-    close_->setFocusPolicy(Qt::NoFocus);
-    WearSheet(*close_, QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:@18px;"
-                                      "padding:0;min-height:@24px;min-width:@24px;max-width:@24px}"
-                                      "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}"));
-    head->addWidget(close_, 0, Qt::AlignTop);
-    outer->addLayout(head);
+    outer->addLayout(MakeHead());
     outer->addWidget(message_);
     body_->setContentsMargins(0, 0, 0, 0);
     body_->setSpacing(Spacing);
@@ -92,6 +83,19 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     setAccessibleDescription(Spoken());
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
     SetEdge(clan_ > 0 ? clan_ : -1);
+}
+
+QHBoxLayout* QuestionPanel::MakeHead() {
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(clan_ > 0 ? 28 : 0, 0, 0, 0);
+    title_->setWordWrap(true);
+    head->addWidget(title_, 1);
+    close_->setFocusPolicy(Qt::NoFocus);
+    WearSheet(*close_, QStringLiteral("QPushButton{border:none;background:transparent;color:@Faint;font-size:@18px;"
+                                      "padding:0;min-height:@24px;min-width:@24px;max-width:@24px}"
+                                      "QPushButton:hover{background:@HighlightPressed;border-radius:6px;color:@Ink}"));
+    head->addWidget(close_, 0, Qt::AlignTop);
+    return head;
 }
 
 int QuestionPanel::HeightFor(int width) const {

@@ -80,6 +80,8 @@ protected:
     const GameState& State() const { return state_; }
 
 private:
+    QHBoxLayout* MakeHead();
+
     const GameState& state_;
     const Question& question_;
     int clan_;

@@ -169,7 +169,7 @@ void ClanPanel::Arrange() {
     }
 }
 
-void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double top) const {
+void ClanPanel::DrawHeads(QPainter& painter, double heads) const {
     const Columns at = ColumnsOf();
     constexpr double letters = 10;
     const double widest = QFontMetricsF(DrawnFont(letters)).horizontalAdvance(QStringLiteral("mutation"));
@@ -179,6 +179,10 @@ void ClanPanel::DrawFigures(QPainter& painter, int clan, double heads, double to
     painter.drawText(QPointF(at.BP, heads), QStringLiteral("BP"));
     painter.drawText(QPointF(at.Amoebas, heads), QStringLiteral("amoebas"));
     painter.drawText(QPointF(at.Mutation, heads), QStringLiteral("mutation"));
+}
+
+void ClanPanel::DrawFigures(QPainter& painter, int clan, double top) const {
+    const Columns at = ColumnsOf();
     painter.setFont(DrawnFont(16, true));
     painter.setPen(Shade(Tone::Ink));
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
@@ -223,7 +227,8 @@ void ClanPanel::DrawCard(QPainter& painter, int place) const {
                          QFontMetricsF(painter.font()).elidedText(Kind(state_->Players[clan]), Qt::ElideRight, room));
     }
     const double top = CardRect(place).top();
-    DrawFigures(painter, clan, top + (Roomy() ? 17 : 15), top + (Roomy() ? 22 : 19));
+    DrawHeads(painter, top + (Roomy() ? 17 : 15));
+    DrawFigures(painter, clan, top + (Roomy() ? 22 : 19));
 }
 
 void ClanPanel::DrawLine(QPainter& painter, int place) const {
@@ -241,7 +246,10 @@ void ClanPanel::DrawLine(QPainter& painter, int place) const {
     painter.setPen(Shade(Tone::Ink));
     painter.drawText(QRectF(line.left() + 30, line.top(), wide, line.height()), Qt::AlignLeft | Qt::AlignVCenter,
                      QFontMetricsF(font).elidedText(ToQt(state_->Players[clan].Name.View()), Qt::ElideRight, wide));
-    DrawFigures(painter, clan, LineHeads - 3, line.top());
+    if (place == 1) {
+        DrawHeads(painter, LineHeads - 3);
+    }
+    DrawFigures(painter, clan, line.top());
 }
 
 void ClanPanel::paintEvent(QPaintEvent*) {

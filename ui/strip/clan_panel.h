@@ -68,7 +68,8 @@ private:
     void Arrange();
     int PlaceOf(int clan) const;
     void DrawCard(QPainter& painter, int place) const;
-    void DrawFigures(QPainter& painter, int clan, double heads, double top) const;
+    void DrawHeads(QPainter& painter, double heads) const;
+    void DrawFigures(QPainter& painter, int clan, double top) const;
     void DrawLine(QPainter& painter, int place) const;
 
     const GameState* state_;
