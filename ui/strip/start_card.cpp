@@ -59,7 +59,7 @@ void StartCard::Show(const QString& title, const QString& text, int clan) {
     winner_ = clan;
     title_->setText(title);
     text_->SetText(text);
-    Redress();
+    StartCard::Redress();
     update();
 }
 

@@ -158,7 +158,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
     const auto* yesNo = As<YesNoQuestion>(top);
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
-    strip_->Question->ShowAbout((square != nullptr || yesNo != nullptr) ? ToQt(top->Hint) : QString());
+    strip_->Question->ShowAbout(top != nullptr && !asked_.back().Panel ? ToQt(top->Hint) : QString());
     strip_->SetPanels(panels);
     strip_->Question->AskYesNo(yesNo != nullptr);
     ShowAsked();
