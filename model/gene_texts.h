@@ -19,9 +19,13 @@ struct GeneWords {
 inline constexpr GeneWords GeneTexts[] = {
     {"int", "Does nothing in play, but counts among the genes that are scored, and is the cheapest of them."},
     {"mv1",
-     "An amoeba that attempts to move, or escapes, throws the direction die twice and you choose between the squares. "
+     "An amoeba that attempts to move, or escapes, throws the direction die up to twice and you choose between the "
+     "squares. "
      "Leads to Movement 2, which replaces it."},
-    {"spo", "New amoebas may be placed in any square without one of your own, not only next to your others."},
+    {"spo",
+     "New amoebas may be placed in any square without one of your own, not only next to your others, once you have one "
+     "on "
+     "the board."},
     {"spe",
      "After its attempt to move an amoeba may make a second one, free of charge. Leads to Persistence, which "
      "replaces it."},
@@ -31,11 +35,12 @@ inline constexpr GeneWords GeneTexts[] = {
     {"esc",
      "An attacked amoeba may pay 1 BP to move away by the direction die, before it defends itself. "
      "Leads to Armor, which replaces it unless Defence is held."},
-    {"sub", "Adds menus: your amoebas may also eat larger meals of fewer colours."},
+    {"sub", "Adds menus: your amoebas may also eat larger meals, mostly of fewer colours."},
     {"ray",
      "Lowers your mutation level by 2. It does not count among the genes that are scored. "
      "Given up while you adapt it takes 4 off the UV cost, but the level then rises by 2."},
-    {"str", "Attempts to move, and to escape where you hold Escape, are free of charge."},
+    {"str",
+     "Attempts to move, and to escape where you hold Escape, are free of charge; a clan without BP cannot escape."},
     {"ten",
      "An amoeba that leaves a square may carry up to 2 pieces of food along, and for 1 BP drag another amoeba "
      "of your clan."},
@@ -43,7 +48,7 @@ inline constexpr GeneWords GeneTexts[] = {
      "Your amoebas ride along, free of charge, when another clan's amoeba leaves their square; and where an amoeba "
      "chooses its way it may stay."},
     {"lif", "Your amoebas die of 3 damage instead of 2."},
-    {"fru", "Adds menus: your amoebas may also eat smaller meals."},
+    {"fru", "Adds menus: your amoebas may also eat smaller meals, and some as large of fewer colours."},
     {"sfs",
      "An amoeba that cannot eat may pay 1 BP and attack another clan's amoeba in its square, to eat it; not one in "
      "Armor. Leads to Aggression, which replaces it."},
@@ -53,13 +58,13 @@ inline constexpr GeneWords GeneTexts[] = {
     {"div", "New amoebas cost 4 BP instead of 6."},
     {"per",
      "Needs Speed and replaces it: a second attempt to move, free of charge. A defence that failed, and an attack "
-     "that was escaped or beaten off, may be tried once more for 1 BP."},
+     "in the aggression phase that was escaped or beaten off, may be tried once more for 1 BP."},
     {"mv2",
      "Needs Movement 1 and replaces it: an amoeba that attempts to move, or escapes, goes where you choose, without a "
      "die."},
     {"agg",
      "Needs Struggle for Survival and replaces it: its amoebas attack to eat, those in Armor too, and one may attack "
-     "for 1 BP in the aggression phase, if no clan before yours does."},
+     "for 1 BP in the aggression phase, if no clan before yours does or declines."},
     {"arm",
      "Needs Defence or Escape and replaces it (Defence where both are held). An attack in the aggression phase "
      "does 1 damage instead of tearing your amoeba to pieces, and Struggle for Survival cannot be turned against it."},

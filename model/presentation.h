@@ -67,7 +67,8 @@ public:
     virtual void OutlinePiece(int /*clan*/, int /*amoeba*/, bool /*on*/) {}
 
     // ---- time ----
-    /// Lets the person follow; no longer than 75 ms a unit, and nothing in fast mode.
+    /// Lets the person follow: 75 ms a unit at the usual pace, longer or shorter as the person likes it, as long as it
+    /// is held, and nothing in fast mode.
     virtual void Pause(int /*units*/) {}
 
     // ---- questions ----

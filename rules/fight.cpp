@@ -73,14 +73,14 @@ Happening Befalls(Kind kind, const Victim& victim, int square, int number) {
 }
 
 /// A person picks the victim; the pick costs 1 BP. Nothing picked, nothing paid.
-Victim PickByPerson(int square, int attacker) {
+Victim PickByPerson(int square, int attacker, int attack) {
     VictimForm form(attacker, "AGGRESS", "Choose the Attack-victim:", square);
     for (const VictimFigure& figure : form.Figures) {
         if (IsVictim(square, attacker, figure.Clan)) {
             form.Allow(figure.Clan, figure.Amoeba);
         }
     }
-    form.Hint = AggressVictimHint(attacker);
+    form.Hint = AggressVictimHint(attacker, attack);
     ShowQuestionText(Concat("Choose the Attack-victim:\nSquare ", square), attacker);
     const auto picked = AskVictims(form);
     if (picked.empty()) {
@@ -159,7 +159,7 @@ void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
             if (game.BP[attacker] < 1) {
                 return;
             }
-            victim = PickByPerson(square, attacker);
+            victim = PickByPerson(square, attacker, attack);
         } else if (victim.Amoeba == 0) {
             victim.Amoeba = PickByDamage(square, victim.Clan, HasGene(victim.Clan, "arm"));
         }

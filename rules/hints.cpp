@@ -23,13 +23,13 @@ std::string Faces(int square) {
     return faces + "5 stays, 6 you choose";
 }
 
-/// How a clan's amoeba finds its way.
-std::string WayText(int clan, int amoeba) {
+/// How a clan's amoeba finds its way; `throws`: how often Movement 1 throws.
+std::string WayText(int clan, int amoeba, std::string_view throws) {
     if (HasGene(clan, "mv2")) {
         return "You choose the square (Movement 2).";
     }
     const std::string faces = Faces(game.Amoeba[amoeba][clan].Square);
-    return HasGene(clan, "mv1") ? Concat("Two throws, you choose between them (Movement 1): ", faces, ".")
+    return HasGene(clan, "mv1") ? Concat(throws, ", you choose between them (Movement 1): ", faces, ".")
                                 : Concat("Die: ", faces, ".");
 }
 
@@ -101,7 +101,7 @@ std::string MoveOfferHint(int clan, int amoeba, bool first) {
     const std::string_view no = !first                       ? " No: it stays."
                                 : game.Drift == WhereItWants ? " No: it drifts where you want, free."
                                                              : " No: it drifts.";
-    return Concat(price, WayText(clan, amoeba), no, first ? GenesForMoving(clan) : std::string());
+    return Concat(price, WayText(clan, amoeba, "Two throws"), no, first ? GenesForMoving(clan) : std::string());
 }
 
 std::string FreeDriftHint() {
@@ -117,8 +117,9 @@ std::string ThrowHint(int clan, int number, int firstDirection, int firstSquare)
         return {};
     }
     if (number == 1) {
-        return HasGene(clan, "mv1") ? "First throw: 6, you choose. If another throw follows, you take one of the two."
-                                    : "The die shows 6: you choose.";
+        return HasGene(clan, "mv1")
+                   ? "First throw: 6, you choose. If another throw follows, you choose between the two."
+                   : "The die shows 6: you choose.";
     }
     return Concat("Second throw: 6, you choose. The first was ", StepText(firstDirection), ", square ", firstSquare,
                   ".");
@@ -188,7 +189,9 @@ std::string GenesOfferHint() {
 }
 
 std::string BuyingHint() {
-    return HintsAreWanted() ? "A tick buys at once; what was bought here goes back for its price." : "";
+    return HintsAreWanted() ? "A tick buys at once; what was bought here goes back for its price, "
+                              "without the gene that it replaced."
+                            : "";
 }
 
 std::string AdaptingHint(int clan) {
@@ -196,7 +199,7 @@ std::string AdaptingHint(int clan) {
         return {};
     }
     return Concat("Mutation level ", game.Players[clan].MutationLevel, ", UV level ", game.UVLevel,
-                  ". 1 BP makes up 1 point, a gene its points; there is no refund for it.");
+                  ". 1 BP makes up 1 point, a gene its points (Ray Protection 4); there is no refund for it.");
 }
 
 std::string DivisionHint(int clan, int price, int most) {
@@ -224,13 +227,15 @@ std::string AggressHint() {
                             : "";
 }
 
-std::string AggressVictimHint(int clan) {
+std::string AggressVictimHint(int clan, int attack) {
     if (!HintsAreWanted()) {
         return {};
     }
     return Concat("1 BP of your ", game.BP[clan], ", paid with the pick. Torn to pieces it leaves 2 of every colour; ",
                   "in Armor it takes 1 damage.",
-                  HasGene(clan, "per") ? " If it gets away you may attack once more (Persistence)." : "");
+                  HasGene(clan, "per") && attack == 1 && game.BP[clan] >= 2
+                      ? " If it gets away you may attack once more for 1 BP (Persistence)."
+                      : "");
 }
 
 std::string AttackerHint() {
@@ -242,7 +247,7 @@ std::string DefenceHint(int clan, Assault assault, bool again) {
         return {};
     }
     return Concat(AssaultText(assault), "1 BP of ", game.BP[clan], ": one chance in two to beat it off; else ",
-                  HasGene(clan, "per") && !again ? "once more for 1 BP (Persistence), or " : "",
+                  HasGene(clan, "per") && !again && game.BP[clan] >= 2 ? "once more for 1 BP (Persistence), or " : "",
                   StakesText(clan, assault));
 }
 
@@ -253,9 +258,9 @@ std::string EscapeHint(int clan, int amoeba, Assault assault) {
     const int price = HasGene(clan, "str") ? 0 : 1;
     const bool defends =
         HasGene(clan, "def") && game.BP[clan] > price && game.Amoeba[amoeba][clan].Damage < DamageLimit(clan);
-    return Concat(AssaultText(assault), price == 0 ? "Free (Streamlining). " : "1 BP. ", WayText(clan, amoeba),
-                  " In another square it is safe; else ", defends ? "it may defend itself, or " : "",
-                  StakesText(clan, assault));
+    return Concat(AssaultText(assault), price == 0 ? "Free (Streamlining). " : "1 BP. ",
+                  WayText(clan, amoeba, "Up to two throws"), " In another square it is safe; else ",
+                  defends ? "it may defend itself, or " : "", StakesText(clan, assault));
 }
 
 }  // namespace plasmos

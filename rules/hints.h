@@ -52,7 +52,7 @@ std::string PlacingHint(int clan, bool inPlay, const NewAmoeba& which);
 
 // ---- aggression ----
 std::string AggressHint();
-std::string AggressVictimHint(int clan);
+std::string AggressVictimHint(int clan, int attack);
 std::string AttackerHint();
 std::string DefenceHint(int clan, Assault assault, bool again);
 std::string EscapeHint(int clan, int amoeba, Assault assault);

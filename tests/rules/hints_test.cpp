@@ -156,7 +156,7 @@ const HintRow HintRows[] = {
      {Yes(), Square(12), Square(16)},
      {"Yes: 1 BP, wherever it leads. Two throws, you choose between them (Movement 1): " + Die +
           ". No: it drifts. Better with Movement 2, Speed, Streamlining.",
-      "First throw: 6, you choose. If another throw follows, you take one of the two.",
+      "First throw: 6, you choose. If another throw follows, you choose between the two.",
       "First throw: your choice, square 12. Second throw: Down, square 16. Take one of them."}},
     // The coins of the computer clans fall so that they divide nothing.
     {"division_and_placing",
@@ -281,13 +281,14 @@ const HintRow HintRows[] = {
      NewGenesPhase,
      {Yes(), CloseIt()},
      {"To look costs nothing: a gene is paid when it is ticked.",
-      "A tick buys at once; what was bought here goes back for its price."}},
+      "A tick buys at once; what was bought here goes back for its price, without the gene that it replaced."}},
     {"genes_to_give_up",
      {"def"},
      {},
      EnvironmentPhase,
      {Genes({}, "2")},
-     {"Mutation level 4, UV level 2. 1 BP makes up 1 point, a gene its points; there is no refund for it."}},
+     {"Mutation level 4, UV level 2. 1 BP makes up 1 point, a gene its points (Ray Protection 4); there is no refund "
+      "for it."}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Questions, Hints, ::testing::ValuesIn(HintRows), RowName());

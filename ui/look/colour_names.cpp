@@ -9,7 +9,7 @@
 namespace plasmos {
 
 std::string_view ColourName(int clan) {
-    constexpr std::array<std::string_view, MaxClans + 1> names = {"no colour", "blue",  "magenta", "yellow",
+    constexpr std::array<std::string_view, MaxClans + 1> names = {"no colour", "blue",  "purple", "yellow",
                                                                   "red",       "green", "orange"};
     return names[clan >= 1 && clan <= MaxClans ? static_cast<std::size_t>(clan) : 0];
 }

@@ -95,7 +95,7 @@ constexpr ToneRow Tones[] = {
     {Tone::PlanWater, "PlanWater", {0xFF9AD5D0, 0xFF17444E, 0xFF06222A}},
     {Tone::PlanLine, "PlanLine", {0xAAFFFFFF, 0x78FFFFFF, 0xFFC8C8C8}},
     {Tone::PlanStone, "PlanStone", {0xFF9A9488, 0xFF8D887C, 0xFF8D887C}},
-    {Tone::PlanEdge, "PlanEdge", {0xFF000000, 0xFFECEFF0, 0xFFFFFFFF}},
+    {Tone::PlanEdge, "PlanEdge", {0xFF000000, 0xFF000000, 0xFF000000}},
     {Tone::PlanPicked, "PlanPicked", {0xFFFFFF00, 0xFFFFFF00, 0xFFFFFF00}},
 };
 

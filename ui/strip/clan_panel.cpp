@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/strip/clan_panel.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -140,6 +141,13 @@ void ClanPanel::ShowAll() {
     ShowOrder();
     Arrange();
     update();
+}
+
+void ClanPanel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::StyleChange) {
+        ShowOrder();
+    }
+    QWidget::changeEvent(event);
 }
 
 void ClanPanel::resizeEvent(QResizeEvent*) {

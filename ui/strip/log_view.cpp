@@ -1,14 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/strip/log_view.h"
 
+#include <QEvent>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBlockFormat>
 #include <QTextCursor>
+#include <vector>
 
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
+
+namespace {
+
+/// What a part of a line is, kept with its letters.
+constexpr int ClanOfSign = QTextFormat::UserProperty + 1;
+constexpr int MannerOfText = QTextFormat::UserProperty + 2;
+
+}  // namespace
 
 LogView::LogView(QWidget* parent) : QTextEdit(parent) {
     setObjectName(QStringLiteral("txtLog"));
@@ -30,10 +41,16 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
               QStringLiteral("QTextEdit{background:@Field;color:@Ink;border:1px solid @CardEdge;border-radius:9px}"));
 }
 
-void LogView::Start(const QString& header) {
+void LogView::Clear() {
     clear();
     heading_.clear();
     empty_ = following_ = true;
+    started_ = false;
+}
+
+void LogView::Start(const QString& header) {
+    Clear();
+    started_ = true;
     for (const QString& line : header.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const QString text = line.trimmed();
         if (!text.isEmpty()) {
@@ -67,6 +84,41 @@ void LogView::QuietLine(const QString& line, int clan) {
     Append(SignCharacter(clan), clan, line, Manner::Quiet);
 }
 
+QColor LogView::ColourOf(Manner manner) {
+    return Shade(manner == Manner::Heading ? Tone::Accent : manner == Manner::Quiet ? Tone::Faint : Tone::Ink);
+}
+
+void LogView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::StyleChange && scheme_ != CurrentScheme()) {
+        scheme_ = CurrentScheme();
+        Recolour();
+    }
+    QTextEdit::changeEvent(event);
+}
+
+// What stands in the log is read in other colours from now on.
+void LogView::Recolour() {
+    std::vector<QTextFragment> parts;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            parts.push_back(part.fragment());
+        }
+    }
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (const QTextFragment& part : parts) {
+        const QTextCharFormat letters = part.charFormat();
+        const int clan = letters.intProperty(ClanOfSign);
+        QTextCharFormat colour;
+        colour.setForeground(clan > 0 ? ShadesOf(clan).Edge
+                                      : ColourOf(static_cast<Manner>(letters.intProperty(MannerOfText))));
+        cursor.setPosition(part.position());
+        cursor.setPosition(part.position() + part.length(), QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(colour);
+    }
+    cursor.endEditBlock();
+}
+
 void LogView::Append(const QString& sign, int clan, const QString& text, Manner manner) {
     const bool heading = manner == Manner::Heading;
     QTextCursor cursor(document());
@@ -78,9 +130,12 @@ void LogView::Append(const QString& sign, int clan, const QString& text, Manner 
     QTextCharFormat letters;
     if (!sign.isEmpty()) {
         letters.setForeground(ShadesOf(clan).Edge);
+        letters.setProperty(ClanOfSign, clan);
         cursor.insertText(sign + QLatin1Char(' '), letters);
     }
-    letters.setForeground(Shade(heading ? Tone::Accent : manner == Manner::Quiet ? Tone::Faint : Tone::Ink));
+    letters.setForeground(ColourOf(manner));
+    letters.setProperty(ClanOfSign, 0);
+    letters.setProperty(MannerOfText, static_cast<int>(manner));
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
     cursor.insertText(text, letters);
 }

@@ -71,7 +71,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
 
 void QuestionCard::ShowMessage(const QString& text, int clan) {
     messageClan_ = clan;
-    answered_ = false;
+    SetAnswered(false);
     msglab->SetText(text);
     Recolour();
     Arrange();
@@ -84,9 +84,18 @@ void QuestionCard::ShowAsked(bool asked) {
     if (asked) {
         askedText_ = msglab->text();
     }
-    answered_ = !asked && (answered_ || (asked_ && msglab->text() == askedText_));
+    SetAnswered(!asked && (answered_ || (asked_ && msglab->text() == askedText_)));
     asked_ = asked;
-    Recolour();
+}
+
+// The words keep their colours; what is said below them tells that they are answered.
+void QuestionCard::SetAnswered(bool answered) {
+    if (answered) {
+        ShowHint(QStringLiteral("Answered."));
+    } else if (answered_) {
+        ShowHint(QString());
+    }
+    answered_ = answered;
 }
 
 void QuestionCard::ShowClan(int clan) {
@@ -127,12 +136,6 @@ int QuestionCard::AboutHeight(int width) const {
 void QuestionCard::Recolour() {
     SetLabelColours(state_, msglab, messageClan_);
     SetLabelColours(state_, playerlab, playerClan_);
-    if (answered_) {
-        QColor faint = LabelText(state_, messageClan_);
-        constexpr float Standing = 0.5F;
-        faint.setAlphaF(Standing);
-        SetLabelColour(msglab, faint);
-    }
     SetEdge(messageClan_);
     update();
 }

@@ -51,6 +51,7 @@ protected:
 
 private:
     void Recolour();
+    void SetAnswered(bool answered);
     void Arrange();
     void ArrangeHead();
     /// Message and current clan are of two clans.

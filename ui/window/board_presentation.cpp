@@ -33,7 +33,8 @@ BoardPresentation::BoardPresentation(const BoardParts& parts)
 // The log has its line before a motion is looked at.
 void BoardPresentation::ShowHappening(const Happening& happening) {
     ShowResult(happening);
-    if (const std::string words = QuietWords(game, happening); !words.empty()) {
+    // The log begins with the header, when the game is set up.
+    if (const std::string words = QuietWords(game, happening); strip_->Log->Started() && !words.empty()) {
         strip_->Log->QuietLine(ToQt(words), happening.Clan);
     }
     motions_.Show(happening);

@@ -9,7 +9,10 @@
 
 namespace plasmos {
 
-bool LeaveGuard::PersonsPlay() {
+bool LeaveGuard::IsNeeded() {
+    if (game.Turn > LastTurn || game.GameOver) {
+        return false;
+    }
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {
         if (!game.Players[clan].IsComputer) {
             return true;

@@ -12,8 +12,8 @@ class LeaveGuard {
 public:
     explicit LeaveGuard(QWidget& window) : window_(&window) {}
 
-    /// Whether a person plays in the current game.
-    static bool PersonsPlay();
+    /// Whether a person plays in the current game, and it is not over yet.
+    static bool IsNeeded();
     /// Does what is wanted once the person is sure. The game goes on waiting meanwhile.
     void Ask(const QString& question, const QString& yes, std::function<void()> deed);
     /// The game is over: nothing is asked any more.

@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QPainter>
+#include <QScreen>
 
 #include "model/game_state.h"
 #include "ui/look/blob_shape.h"
@@ -142,8 +143,8 @@ constexpr SignRow Signs[] = {
     {DrawClans, "Every clan has a colour and a sign. They stand on its amoebas, its food, its card and its lines."},
     {DrawPiece, "An amoeba with its number. The one with the dark and light outline is the one that acts."},
     {DrawDamage,
-     "Damage: a crack for every time it has starved or was wounded. Two cracks kill it at the end of the "
-     "turn, three where its clan has Life Expectancy."},
+     "Damage: a crack for every time it has starved or was wounded. Two cracks kill it when the next "
+     "aggression phase begins, three where its clan has Life Expectancy."},
     {DrawCubes, "Food, by the colour of the clan that left it. A clan eats the others' colours, never its own."},
     {DrawCounts, "So many pieces of that colour, where they are more than can be shown."},
     {DrawMenuDigits, "A meal as a number: 211 is two pieces of one colour and one each of two others."},
@@ -151,13 +152,14 @@ constexpr SignRow Signs[] = {
     {DrawSpeaksOf, "The square that the question speaks of."},
     {DrawDrift, "The drift: where the current carries every amoeba, or that it stands still."},
     {DrawMutation,
-     "UV light. A clan whose sign stands to the right of the black mark has more mutation than the light "
+     "UV light. A clan whose sign stands to the right of the mark has more mutation than the light "
      "allows, and must adapt when the card is turned."},
     {DrawOrder, "The scores in the order of play: the leader stands first. Movement goes through it from behind."},
     {[](QPainter& painter) { DrawWord(painter, QStringLiteral("auto-eating")); },
      "This clan's amoebas eat without asking. It is switched under Options, like the tentacle."},
     {[](QPainter& painter) { DrawWord(painter, QStringLiteral("hosts")); },
-     "With Parasitism: the clans that lend a piece of food for this meal, for 1 BP of theirs each."},
+     "With Parasitism: how many clans here could lend a piece of food for this meal, two at most, for 1 BP of theirs "
+     "each."},
 };
 
 struct KeyRow {
@@ -214,7 +216,9 @@ void AddText(QGridLayout& rows, int row, const char* text) {
 
 void Show(QDialog& dialog, QSize size) {
     Dress(dialog);
-    dialog.resize(size * Letters());
+    if (!dialog.isVisible()) {
+        dialog.resize((size * Letters()).boundedTo(dialog.screen()->availableSize() - UsualFrame));
+    }
     dialog.show();
     dialog.raise();
 }

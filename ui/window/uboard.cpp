@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QThread>
+#include <utility>
 
 #include "files/game_files.h"
 #include "files/runtime_error.h"
@@ -22,6 +23,7 @@
 #include "ui/options/options_dialog.h"
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/environment_view.h"
+#include "ui/strip/log_view.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
@@ -142,8 +144,7 @@ void UBoard::Play(const std::function<void()>& play) {
 }
 
 void UBoard::SetPlaying(bool playing) {
-    const bool played = playing_;
-    playing_ = playing;
+    const bool played = std::exchange(playing_, playing) && strip_->Log->Started();
     SettleSwitches();
     if (playing) {
         ForgetMessage();
@@ -151,18 +152,21 @@ void UBoard::SetPlaying(bool playing) {
         strip_->Question->ShowClan(0);
         strip_->Environment->Clear();
         strip_->Clans->ShowAll();
+        strip_->Log->Clear();
     } else {
         strip_->Start->txtReplay->clear();
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
         results_->Show(played);
-        strip_->Start->gob->setFocus();
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
     guard_->Drop();
     EnableStart();
+    if (!playing) {
+        strip_->Start->gob->setFocus();
+    }
 }
 
 void UBoard::ShowState(const GameState& state) {
@@ -224,7 +228,7 @@ void UBoard::OptionsClosed(bool saveTried) {
 }
 
 void UBoard::LeaveGame() {
-    if (playing_ && !LeaveGuard::PersonsPlay()) {
+    if (playing_ && !LeaveGuard::IsNeeded()) {
         desk_->LeaveGame();
     } else if (playing_) {
         guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
@@ -262,7 +266,7 @@ void UBoard::CloseAtOnce() {
 }
 
 void UBoard::closeEvent(QCloseEvent* event) {
-    if (!sure_ && playing_ && !desk_->Ended() && LeaveGuard::PersonsPlay()) {
+    if (!sure_ && playing_ && !desk_->Ended() && LeaveGuard::IsNeeded()) {
         event->ignore();
         guard_->Ask(QStringLiteral("Close the window in the middle of this game? It cannot be taken up again."),
                     QStringLiteral("&Close"), [this] { CloseAtOnce(); });

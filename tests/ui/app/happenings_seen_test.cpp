@@ -46,7 +46,7 @@ public:
     void OnHappening(const Happening& happening) override {
         Check();
         last_ = happening;
-        waits_ = !IsSeenAlone(happening);
+        waits_ = game.Turn > 0 && !IsSeenAlone(happening);  // the log begins with the first turn
         lines_ = log_.document()->characterCount();
         Kinds.insert(happening.What);
     }

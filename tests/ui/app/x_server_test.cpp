@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
+#include <algorithm>
 #include <QWindow>
 
 #include "model/consistency.h"
@@ -147,7 +148,10 @@ void XServerTest::AnswerByKeys(XServer& server, Scene& scene, Question& question
         const AutoPerson::Touch touch = scene.Player().Next(question);
         more = !touch.Last;
         if (question.Kind == QuestionKind::Square) {
-            Key(server, scene, "Right");  // the first of the glowing squares
+            const auto& offered = scene.Puddle().Offered();
+            if (std::find(offered.begin(), offered.end(), scene.Puddle().CursorSquare()) == offered.end()) {
+                Key(server, scene, "Tab");  // to a glowing square; the cursor may have stayed on one
+            }
             Key(server, scene, "Return");
         } else if (question.Kind == QuestionKind::YesNo) {
             Key(server, scene, touch.Control->objectName() == QStringLiteral("yesb") ? "y" : "n");

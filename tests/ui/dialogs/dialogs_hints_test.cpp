@@ -82,7 +82,7 @@ void DialogsHintsTest::aMealIsOneClick() {
         QVERIFY2(!scene.Sees(QStringLiteral("meal111")) && !scene.Sees(QStringLiteral("meal3")),
                  "the square holds too little for them");
         QVERIFY(scene.Sees(QStringLiteral("meal11")) && scene.Sees(QStringLiteral("meal21")));
-        QCOMPARE(Heard(scene, QStringLiteral("meal21")), QStringLiteral("Meal 21: 2 blue, 1 magenta"));
+        QCOMPARE(Heard(scene, QStringLiteral("meal21")), QStringLiteral("Meal 21: 2 blue, 1 purple"));
         scene.Click(QStringLiteral("meal21"));
         QCOMPARE(scene.Fields(), QStringLiteral("2 1 0 0"));
         QCOMPARE(Verdict(scene), QStringLiteral("Legal: 21."));
@@ -112,7 +112,7 @@ void DialogsHintsTest::theColoursAreNamed() {
     scene.ThenFood([&] {
         QCOMPARE(Heard(scene, QStringLiteral("more1")), QStringLiteral("one more blue: Player 1"));
         QCOMPARE(Heard(scene, QStringLiteral("less4")), QStringLiteral("one less red: Player 4"));
-        QCOMPARE(Heard(scene, Field(2)), QStringLiteral("magenta: Player 2, 1 in the square"));
+        QCOMPARE(Heard(scene, Field(2)), QStringLiteral("purple: Player 2, 1 in the square"));
         scene.Click(QStringLiteral("meal111"));
         scene.Eat();
     });

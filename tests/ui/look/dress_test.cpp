@@ -5,8 +5,12 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTextBlock>
+#include <QTextEdit>
 
-#include "tests/ui/support/scene.h"
+#include "model/narration.h"
+#include "model/presentation.h"
+#include "tests/ui/support/position.h"
 #include "ui/look/dress.h"
 #include "ui/window/uboard.h"
 
@@ -37,6 +41,8 @@ private slots:
     void desktops();
     void followsTheDesktopWhileItRuns();
     void whatThePersonWantsGoesFirst();
+    void whatStandsInTheLogIsReadInOtherColours();
+    void scoresKeepTheirClansColours();
     void lettersFollowTheDesktop();
     void aLargeWindowHasLargerLetters();
 
@@ -94,6 +100,34 @@ void DressTest::whatThePersonWantsGoesFirst() {
     QCOMPARE(CurrentScheme(), Scheme::Contrast);
     WantScheme(std::nullopt);
     QCOMPARE(CurrentScheme(), Scheme::Dark);
+}
+
+void DressTest::whatStandsInTheLogIsReadInOtherColours() {
+    PositionScene scene;
+    PHASE(scene, Say("C1 eats 111 in 7"));
+    const auto* log = scene.Board().findChild<QTextEdit*>(QStringLiteral("txtLog"));
+    for (const Scheme scheme : {Scheme::Dark, Scheme::Light, Scheme::Contrast}) {
+        WantScheme(scheme);
+        int parts = 0;
+        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                ++parts;
+                const QColor letters = part.fragment().charFormat().foreground().color();
+                QVERIFY2(ContrastOf(letters, Shade(Tone::Field)) >= 4.5, qPrintable(part.fragment().text()));
+            }
+        }
+        QVERIFY(parts >= 2);
+    }
+}
+
+void DressTest::scoresKeepTheirClansColours() {
+    PositionScene scene;
+    PHASE(scene, Board().ShowClan(1));
+    for (const Scheme scheme : {Scheme::Dark, Scheme::Light}) {
+        WantScheme(scheme);
+        const QWidget* pill = scene.Find(QStringLiteral("orderlab0"));
+        QCOMPARE(pill->palette().color(QPalette::Window), LabelBackground(game, ClanAtPlace(1)));
+    }
 }
 
 void DressTest::lettersFollowTheDesktop() {

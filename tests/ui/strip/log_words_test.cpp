@@ -28,7 +28,7 @@ const Row Rows[] = {
     {"a_move", {}},
     {"a_move", {"A1 (1) moves from 13 to 14"}, 1},
     {"a_ride", {"B1 holding on to A1"}},
-    {"food_is_carried_along", {"A1 (1) carries 2 magenta food from 13 to 14"}},
+    {"food_is_carried_along", {"A1 (1) carries 2 purple food from 13 to 14"}},
     {"a_change_of_spot", {}},
     {"a_meal", {"A1 eats 21 in 13"}},
     {"a_parasites_meal", {"A1 parasitizing off of clan Player 2", "A1 eats 21 in 13"}},

@@ -17,7 +17,7 @@ namespace plasmos::testing {
 namespace {
 
 bool StandsBack(Scene& scene) {
-    return scene.Find(QStringLiteral("msglab"))->palette().color(QPalette::WindowText).alpha() < 200;
+    return scene.Text(QStringLiteral("hintlab")) == QStringLiteral("Answered.");
 }
 
 /// The colour in the clan's sign on the card, beside its middle.

@@ -127,7 +127,7 @@ void Scene::ClickSquare(int square, Qt::MouseButton button) {
 
 void Scene::LeaveGame() {
     Menu(QStringLiteral("leavemen"));
-    if (LeaveGuard::PersonsPlay()) {
+    if (LeaveGuard::IsNeeded()) {
         Click(QStringLiteral("leaveb"));
     }
 }
