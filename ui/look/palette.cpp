@@ -83,11 +83,11 @@ void DrawClanBadge(QPainter& painter, int clan, QPointF centre, double radius) {
     painter.drawPath(SignPath(clan, centre, radius * 0.58));
 }
 
-QFont DrawnFont(double pixels, bool bold) {
+QFont DrawnFont(double units, bool bold) {
     QFont font;
     font.setFamilies({QApplication::font().family(), QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI"),
                       QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(units))));
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
