@@ -6,8 +6,8 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <algorithm>
 #include <QWindow>
+#include <algorithm>
 
 #include "model/consistency.h"
 #include "tests/ui/support/scene.h"
