@@ -5,13 +5,14 @@
 #include <QPushButton>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
 struct GameState;
 
 /// What greets the person between two games: Go, the replay number, and a game to watch.
-class StartCard : public Card {
+class StartCard : public Card, public HeardPlace {
 public:
     StartCard(QWidget* parent, const GameState& state);
 
