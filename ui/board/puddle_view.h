@@ -36,6 +36,8 @@ public:
     void ShowNumbers(bool on);
     /// Squares that glow because they may be clicked; empty: none.
     void SetOffered(const std::vector<int>& squares);
+    /// What is asked of the person who is to choose a square, for who listens; empty: nothing.
+    void SetAsked(const QString& question);
     const std::vector<int>& Offered() const { return offered_; }
     /// The square that the open question speaks of; 0: none.
     void SetSpokenOf(int square);

@@ -27,6 +27,7 @@ const char* const Welcome =
 
 StartCard::StartCard(QWidget* parent, const GameState& state)
     : Card(parent),
+      HeardPlace(QAccessible::Grouping),
       gob(new QPushButton(QStringLiteral("Go"), this)),
       guideb(new QPushButton(QStringLiteral("Show me how"), this)),
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
@@ -47,6 +48,7 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     txtReplay->setPlaceholderText(QStringLiteral("by the clock"));
     txtReplay->setToolTip(QStringLiteral("The same replay number deals the same game"));
     replayLabel_->setText(QStringLiteral("Replay number"));
+    txtReplay->setAccessibleName(replayLabel_->text());
     ShowWelcome();
 }
 
@@ -70,6 +72,8 @@ void StartCard::Show(const QString& title, const QString& text, int clan) {
     winner_ = clan;
     title_->setText(title);
     text_->SetText(text);
+    setAccessibleName(title);
+    setAccessibleDescription(text);
     OfferGuide(offersGuide_);
     update();
 }

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
@@ -12,7 +13,7 @@ struct GameState;
 
 /// What greets the person between two games: Go, the replay number, a game to watch, and for whoever has not begun one
 /// yet the guided game.
-class StartCard : public Card {
+class StartCard : public Card, public HeardPlace {
 public:
     StartCard(QWidget* parent, const GameState& state);
 

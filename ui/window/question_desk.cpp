@@ -159,6 +159,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     Question* top = TopQuestion();
     const auto* square = As<SquareQuestion>(top);
     strip_->Question->ShowHint(square != nullptr ? QStringLiteral("Click one of the glowing squares.") : QString());
+    track_->Puddle()->SetAsked(square != nullptr ? ToQt(square->Text).trimmed() : QString());
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
     const auto* yesNo = As<YesNoQuestion>(top);
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
@@ -195,7 +196,7 @@ void QuestionDesk::Speak() {
     QWidget* part = asked_.back().Panel.get();
     if (part == nullptr) {
         part = strip_->Question;
-        part->setAccessibleName(ToQt(TopQuestion()->Text));
+        part->setAccessibleName(ToQt(TopQuestion()->Text).trimmed());
     }
     QAccessibleEvent event(part, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
