@@ -59,8 +59,8 @@ void LeaveSharedSpace(int clan) {
 void ScoreClan(int clan) {
     game.CurPlayer = clan;
     const int before = game.Players[clan].Score;
-    const int steps = game.ScoreByGenes[CountScoredGenes(clan)] + game.ScoreByAmoebaCount[game.AmoebaCount[clan]];
-    for (int step = 1; step <= steps; ++step) {
+    const TurnPoints points = TurnPointsOf(game, clan);
+    for (int step = 1; step <= points.ForAmoebas + points.ForGenes; ++step) {
         AdvanceOne(clan);
     }
     LeaveSharedSpace(clan);
@@ -93,14 +93,22 @@ void TestVictory() {
 
 }  // namespace
 
-int CountScoredGenes(int clan) {
+int CountScoredGenes(const GameState& state, int clan) {
     int count = 0;
     for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (game.Genes[gene][clan] && gene != GeneId("ray")) {
+        if (state.Genes[gene][clan] && gene != GeneId("ray")) {
             count += count >= GenesBeforeDouble ? 2 : 1;
         }
     }
     return std::min(count, MostGenesScored);
+}
+
+int CountScoredGenes(int clan) {
+    return CountScoredGenes(game, clan);
+}
+
+TurnPoints TurnPointsOf(const GameState& state, int clan) {
+    return {state.ScoreByAmoebaCount[state.AmoebaCount[clan]], state.ScoreByGenes[CountScoredGenes(state, clan)]};
 }
 
 void FillScoreTables() {

@@ -3,6 +3,8 @@
 
 namespace plasmos {
 
+struct GameState;
+
 /// The last phase of a turn: scoring, re-ordering, victory test, food history.
 void ScorePhase();
 
@@ -13,6 +15,15 @@ void RecordFoodHistory();
 void FillScoreTables();
 
 /// Genes of a clan that count for the score, at most 7; Ray Protection never counts.
+int CountScoredGenes(const GameState& state, int clan);
 int CountScoredGenes(int clan);
+
+/// The points of a clan in a turn: so many steps its marker makes, each over every space that is taken.
+struct TurnPoints {
+    int ForAmoebas = 0;
+    int ForGenes = 0;
+};
+
+TurnPoints TurnPointsOf(const GameState& state, int clan);
 
 }  // namespace plasmos

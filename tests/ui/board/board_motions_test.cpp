@@ -217,7 +217,7 @@ void BoardMotionsTest::theOutcomeStandsBehindItsBox() {
     stage.Then(QuestionKind::Box, [&] {
         QVERIFY(stage.Puddle().Motions().IsLinked());
         QCOMPARE(stage.Puddle().Motions().LinkOutcome(), QStringLiteral("beaten off"));
-        QVERIFY2(stage.HasLogLine(QStringLiteral("B1 (1) beats off A1 (1)")),
+        QVERIFY2(stage.HasLogLine(QStringLiteral("B1 (1) of Player 2 beats off A1 (1) of Player 1")),
                  qPrintable(stage.Log().join(QLatin1Char('|'))));
         stage.Click(QStringLiteral("okb"));
     });
