@@ -51,7 +51,7 @@ UBoard::UBoard() : UBoard(MakePresentation) {}
 
 UBoard::UBoard(const PresentationMaker& make) {
     setObjectName(QStringLiteral("UBoard"));
-    setWindowTitle(QStringLiteral("The Puddle"));
+    setWindowTitle(QStringLiteral("Plasmos"));
     Dress(*this);
     LoadBoard();
     auto* table = new TableTop(this, game);
@@ -65,6 +65,7 @@ UBoard::UBoard(const PresentationMaker& make) {
                           [this](const QString& text) { Tell(text); }});
     desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
     desk_->OnQuestion = [this](Question& question) {
+        tips_->Hush();
         if (OnQuestion) {
             OnQuestion(question);
         }
