@@ -60,6 +60,15 @@ inline const SceneRow SceneRows[] = {
      {5},
      {{Kind::Throws, 1, 1, 13, 13, 0, 0, 5}, {Kind::Stays, 1, 1, 0, 13}},
      true},
+    {"a_throw_against_the_edge",
+     [] {
+         Person(1);
+         Put(1, 2, 11);
+         MoveAmoeba(1, 2, FindPersonsDestination(1, 2, MoveKind::FirstAttempt));
+     },
+     {3},
+     {{Kind::Throws, 1, 2, 11, 11, 0, 0, 3}, {Kind::Stays, 1, 2, 0, 11}},
+     true},
     {"two_throws",
      [] {
          Person(1);

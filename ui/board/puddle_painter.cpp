@@ -31,7 +31,7 @@ struct Stacks {
 };
 
 Stacks StacksAt(double scale) {
-    constexpr double SmallSquare = 92;
+    constexpr double SmallSquare = 112;
     return scale * SquareUnits < SmallSquare ? Stacks{146, 172, 1} : Stacks{};
 }
 

@@ -56,10 +56,9 @@ std::string ThrowWords(const GameState& state, const Happening& toss) {
     if (toss.Square == 0) {
         return thrown + "it goes where it wants";
     }
-    const std::string way = toss.Number <= 4 ? Concat(ways[toss.Number - 1], " ") : std::string();
-    return toss.Square == toss.From
-               ? Concat(thrown, way.empty() ? "" : Concat(way, "is no way, "), "stays in ", toss.From)
-               : Concat(thrown, way, "to ", toss.Square);
+    const std::string_view way = toss.Number <= 4 ? ways[toss.Number - 1] : std::string_view();
+    return toss.Square == toss.From ? Concat(thrown, way, way.empty() ? "stays in " : ", stays in ", toss.From)
+                                    : Concat(thrown, way, " to ", toss.Square);
 }
 
 // A computer clan tells that it stays.
