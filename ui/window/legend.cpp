@@ -158,7 +158,8 @@ constexpr SignRow Signs[] = {
     {DrawFreeDrift, "The drift lets every amoeba go where it wants, free of charge."},
     {DrawMutation,
      "UV light. A clan whose sign stands to the right of the mark has more mutation than the light "
-     "allows, and must adapt when the card is turned."},
+     "allows, and must adapt when the card is turned. The figure on its card has a \"!\" then, and is red until it is "
+     "safe."},
     {DrawOrder,
      "The scores in the order of play: the leader stands first. Movement goes through it from behind. A clan scores "
      "for its amoebas and for its genes, and jumps over spaces that are taken; the log tells how many of each."},
