@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flow/scoring.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "model/genes.h"
 #include "model/happening.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
+#include "model/turn_points.h"
 
 namespace plasmos {
 
 namespace {
-
-constexpr int MostGenesScored = 7;
-constexpr int GenesBeforeDouble = 17;
 
 constexpr int AmoebaPointsFew[8] = {0, 0, 0, 1, 2, 4, 5, 6};
 constexpr int AmoebaPointsMany[8] = {0, 0, 1, 2, 4, 5, 6, 7};
@@ -92,24 +88,6 @@ void TestVictory() {
 }
 
 }  // namespace
-
-int CountScoredGenes(const GameState& state, int clan) {
-    int count = 0;
-    for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (state.Genes[gene][clan] && gene != GeneId("ray")) {
-            count += count >= GenesBeforeDouble ? 2 : 1;
-        }
-    }
-    return std::min(count, MostGenesScored);
-}
-
-int CountScoredGenes(int clan) {
-    return CountScoredGenes(game, clan);
-}
-
-TurnPoints TurnPointsOf(const GameState& state, int clan) {
-    return {state.ScoreByAmoebaCount[state.AmoebaCount[clan]], state.ScoreByGenes[CountScoredGenes(state, clan)]};
-}
 
 void FillScoreTables() {
     const bool many = game.NumPlayers >= 5;

@@ -5,10 +5,10 @@
 #include <string_view>
 
 #include "files/text.h"
-#include "flow/scoring.h"
 #include "model/game_state.h"
 #include "model/genes.h"
 #include "model/happening.h"
+#include "model/turn_points.h"
 #include "rules/environment.h"
 #include "ui/look/colour_names.h"
 
