@@ -38,16 +38,17 @@ void ResultDesk::Show(bool played) {
 
 // The board still shows what was left.
 void ResultDesk::ShowUnfinished() {
-    if (game.NumPlayers == 0 || game.Turn == 0) {
+    if (game.NumPlayers == 0) {
         card_->ShowWelcome();
         return;
     }
+    const QString when = game.Turn == 0 ? QStringLiteral("before its first turn")
+                                        : QStringLiteral("in turn %1 of %2").arg(game.Turn).arg(LastTurn);
     card_->ShowResult(
         QStringLiteral("This game was left"),
-        QStringLiteral("It ended in turn %1 of %2 without a winner. The board, the clans and the log show "
-                       "how it stood. Go begins a new game.")
-            .arg(game.Turn)
-            .arg(LastTurn),
+        QStringLiteral("It ended %1 without a winner. The board, the clans and the log show how it stood. "
+                       "Go begins a new game.")
+            .arg(when),
         QString(), 0);
 }
 
