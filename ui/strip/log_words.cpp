@@ -130,7 +130,7 @@ std::string PointsWords(const GameState& state, const Happening& score) {
 
 std::string ScoreWords(const GameState& state, const Happening& score) {
     return Concat(ClanName(state, score),
-                  score.From == score.Number ? Concat(" scores nothing: on ", score.From)
+                  score.From == score.Number ? Concat(" scores nothing and stays on ", score.From)
                                              : Concat(" scores: from ", score.From, " to ", score.Number),
                   PointsWords(state, score));
 }

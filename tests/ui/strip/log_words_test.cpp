@@ -66,8 +66,8 @@ const Row Rows[] = {
     {"an_income", {"Player 3 gains 10 BP"}},
     {"a_card", {"Turn 4 · Environment", "A new card: UV level 11, drift Left"}},
     {"scores_and_order",
-     {"Turn 1 · Scoring", "Player 1 scores nothing: on 3 (0 for 1 amoeba, 0 for 0 genes)",
-      "Player 2 scores nothing: on 2 (0 for 1 amoeba, 0 for 0 genes)",
+     {"Turn 1 · Scoring", "Player 1 scores nothing and stays on 3 (0 for 1 amoeba, 0 for 0 genes)",
+      "Player 2 scores nothing and stays on 2 (0 for 1 amoeba, 0 for 0 genes)",
       "Player 3 scores: from 1 to 5 (0 for 0 amoebas, 2 for 4 genes, 2 taken spaces jumped)"}},
 };
 
