@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flow/scoring.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "model/genes.h"
 #include "model/happening.h"
 #include "model/presentation.h"
 #include "model/step.h"
 #include "model/trace.h"
+#include "model/turn_points.h"
 
 namespace plasmos {
 
 namespace {
-
-constexpr int MostGenesScored = 7;
-constexpr int GenesBeforeDouble = 17;
 
 constexpr int AmoebaPointsFew[8] = {0, 0, 0, 1, 2, 4, 5, 6};
 constexpr int AmoebaPointsMany[8] = {0, 0, 1, 2, 4, 5, 6, 7};
@@ -59,8 +55,8 @@ void LeaveSharedSpace(int clan) {
 void ScoreClan(int clan) {
     game.CurPlayer = clan;
     const int before = game.Players[clan].Score;
-    const int steps = game.ScoreByGenes[CountScoredGenes(clan)] + game.ScoreByAmoebaCount[game.AmoebaCount[clan]];
-    for (int step = 1; step <= steps; ++step) {
+    const TurnPoints points = TurnPointsOf(game, clan);
+    for (int step = 1; step <= points.ForAmoebas + points.ForGenes; ++step) {
         AdvanceOne(clan);
     }
     LeaveSharedSpace(clan);
@@ -92,16 +88,6 @@ void TestVictory() {
 }
 
 }  // namespace
-
-int CountScoredGenes(int clan) {
-    int count = 0;
-    for (int gene = 1; gene <= GeneCount; ++gene) {
-        if (game.Genes[gene][clan] && gene != GeneId("ray")) {
-            count += count >= GenesBeforeDouble ? 2 : 1;
-        }
-    }
-    return std::min(count, MostGenesScored);
-}
 
 void FillScoreTables() {
     const bool many = game.NumPlayers >= 5;

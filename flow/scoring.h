@@ -12,7 +12,4 @@ void RecordFoodHistory();
 /// Points for amoebas and for genes, by the number of clans in play.
 void FillScoreTables();
 
-/// Genes of a clan that count for the score, at most 7; Ray Protection never counts.
-int CountScoredGenes(int clan);
-
 }  // namespace plasmos

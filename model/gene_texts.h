@@ -87,8 +87,8 @@ constexpr std::string_view GeneText(int gene) {
     return gene >= 1 && gene <= GeneCount ? GeneTexts[gene - 1].Text : std::string_view{};
 }
 
-/// Why a clan cannot buy a gene now: "costs 5 BP, you have 3", "needs Movement 1", "sold out", "you hold it"; an
-/// empty text where it can.
+/// Why a clan cannot buy a gene now: "costs 5 BP, you have 3", "needs Movement 1", "sold out", "you hold it"; what the
+/// clan's other genes have against it comes before its price. An empty text where it can.
 std::string GeneBarText(const GameState& state, int clan, int gene);
 
 }  // namespace plasmos

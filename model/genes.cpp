@@ -53,19 +53,6 @@ constexpr std::array<FamilyTie, TieCount> FamilyTies = [] {
 static_assert(std::ranges::none_of(FamilyTies, [](const FamilyTie& tie) { return tie.Lower == 0; }),
               "an upgrade names a code that no gene has");
 
-GeneBar FamilyBar(const GameState& state, int clan, int gene) {
-    bool needsLower = false;
-    bool hasLower = false;
-    for (const FamilyTie& tie : FamilyTies) {
-        if (tie.Lower == gene && state.Genes[tie.Upgrade][clan]) {
-            return GeneBar::UpgradeHeld;
-        }
-        needsLower = needsLower || tie.Upgrade == gene;
-        hasLower = hasLower || (tie.Upgrade == gene && state.Genes[tie.Lower][clan]);
-    }
-    return hasLower || !needsLower ? GeneBar::None : GeneBar::NeedsLower;
-}
-
 /// The gene that an upgrade replaces in a clan: the first that it holds, else the last of them; 0: none.
 int ReplacedGene(const GameState& state, int clan, int upgrade) {
     int replaced = 0;
@@ -94,6 +81,19 @@ int CountGenes(const GameState& state, int clan) {
         count += state.Genes[gene][clan] ? 1 : 0;
     }
     return count;
+}
+
+GeneBar FamilyBar(const GameState& state, int clan, int gene) {
+    bool needsLower = false;
+    bool hasLower = false;
+    for (const FamilyTie& tie : FamilyTies) {
+        if (tie.Lower == gene && state.Genes[tie.Upgrade][clan]) {
+            return GeneBar::UpgradeHeld;
+        }
+        needsLower = needsLower || tie.Upgrade == gene;
+        hasLower = hasLower || (tie.Upgrade == gene && state.Genes[tie.Lower][clan]);
+    }
+    return hasLower || !needsLower ? GeneBar::None : GeneBar::NeedsLower;
 }
 
 GeneBar WhyNotGene(const GameState& state, int clan, int gene) {

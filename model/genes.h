@@ -88,6 +88,9 @@ enum class GeneBar : std::uint8_t {
 /// The first of the bars, in the order above, between a clan and a gene now.
 GeneBar WhyNotGene(const GameState& state, int clan, int gene);
 
+/// What the other genes of a clan have against a gene, whatever it costs: UpgradeHeld, NeedsLower or None.
+GeneBar FamilyBar(const GameState& state, int clan, int gene);
+
 /// Whether a clan may buy a gene now: nothing bars it.
 inline bool CanBuyGene(const GameState& state, int clan, int gene) {
     return WhyNotGene(state, clan, gene) == GeneBar::None;

@@ -88,8 +88,8 @@ void TellOfAttack(const Happening& attack) {
 }
 
 void TellOfAttackToEat(const Happening& attack) {
-    TellVictim(attack.OtherClan, NameOf(attack), " of ", ClanName(attack.Clan), " attacks ", OtherName(attack), " in ",
-               attack.Square, " to eat it.");
+    TellVictim(attack.OtherClan, NameOf(attack), " (", attack.Amoeba, ") of ", ClanName(attack.Clan), " attacks ",
+               OtherName(attack), " (", attack.OtherAmoeba, ") in ", attack.Square, " to eat it.");
 }
 
 void TellOfPurchase(const Happening& purchase) {
@@ -116,6 +116,8 @@ void PutIntoWords(const Happening& happening) {
         case Kind::Moves:
         case Kind::CarriesFood:
         case Kind::ChangesSpot:
+        case Kind::Throws:
+        case Kind::Stays:
         case Kind::IsBorn:
         case Kind::Dies:
         case Kind::IsWounded:
@@ -138,10 +140,10 @@ bool IsShownBeforeItsWords(Kind kind) {
 
 std::string_view KindName(Kind kind) {
     constexpr std::string_view names[] = {
-        "Moves",       "Rides",        "IsDragged",     "Escapes",      "CarriesFood",   "ChangesSpot", "Eats",
-        "Parasitizes", "Starves",      "IsBorn",        "Dies",         "IsEaten",       "IsTorn",      "IsWounded",
-        "Attacks",     "AttacksToEat", "FailsToEscape", "Defends",      "FailsToDefend", "BuysGene",    "LosesGene",
-        "PaysBP",      "GainsBP",      "ScoreMoves",    "CardIsTurned", "OrderIsMade"};
+        "Moves",    "Rides",     "IsDragged",   "Escapes",      "CarriesFood",   "ChangesSpot",  "Throws",
+        "Stays",    "Eats",      "Parasitizes", "Starves",      "IsBorn",        "Dies",         "IsEaten",
+        "IsTorn",   "IsWounded", "Attacks",     "AttacksToEat", "FailsToEscape", "Defends",      "FailsToDefend",
+        "BuysGene", "LosesGene", "PaysBP",      "GainsBP",      "ScoreMoves",    "CardIsTurned", "OrderIsMade"};
     static_assert(std::size(names) == static_cast<std::size_t>(Kind::OrderIsMade) + 1);
     return names[static_cast<std::size_t>(kind)];
 }

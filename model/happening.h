@@ -24,6 +24,8 @@ struct Happening {
 
         CarriesFood,  ///< with a tentacle, From, to Square, right after its move; OtherClan: colour; Number: pieces
         ChangesSpot,  ///< and stays in Square; Number: the spot it takes, 0: not drawn
+        Throws,  ///< the direction die for a person, in From; Number: its face, Square: where it leads, 0: a choice
+        Stays,   ///< in Square, which its drift or its move has led to
 
         // ---- pieces feed, in Square ----
         /// Number: the menu, Second: the colour of each of its digits, 0 for a lent piece (menu 21 of colours 3 and 5:

@@ -61,6 +61,14 @@ std::vector<int> FoodForm::Entry() const {
     return entry;
 }
 
+std::vector<int> FoodForm::Suggestion() const {
+    std::vector<int> amounts;
+    for (int colour = 1; SuggestedMenu > 0 && colour <= game.NumPlayers; ++colour) {
+        amounts.push_back(SuggestedAmounts[colour]);
+    }
+    return amounts;
+}
+
 std::vector<PossibleMeal> FoodForm::PossibleMeals() const {
     std::vector<PossibleMeal> meals;
     for (const int menu : LegalMenus) {

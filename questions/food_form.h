@@ -77,6 +77,8 @@ public:
     std::vector<PossibleMeal> PossibleMeals() const;
     /// What the fields of the colours 1 to NumPlayers hold.
     std::vector<int> Entry() const;
+    /// What the suggestion takes of the colours 1 to NumPlayers; nothing where there is none.
+    std::vector<int> Suggestion() const;
     bool AllZero() const;
     /// Withdraws the lent pieces.
     void SendHostsAway();

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/game_state.h"
 #include "model/services.h"
@@ -23,7 +23,7 @@ struct Lesson {
 };
 
 /// The questions of the guided game in their order: two turns of a small clan among two others.
-const std::vector<Lesson>& Lessons();
+std::span<const Lesson> Lessons();
 
 /// What is said to the person about an open question.
 struct Advice {

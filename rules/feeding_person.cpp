@@ -103,7 +103,7 @@ void PrepareFoodForm(FoodForm& form, int menu, bool victim) {
     }
     form.Text = Concat("Your amoeba may eat the suggested menu in square ", square,
                        ", or using your amoebas' genes you may design your own.");
-    form.Hint = FeedingHint(clan, game.CurAmoeba, menu != 0, form.sfsoptEnabled, form.paroptEnabled);
+    form.Hint = FeedingHint(form, game.CurAmoeba);
     form.UpdateButtons();
 }
 

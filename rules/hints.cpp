@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "model/genes.h"
+#include "questions/food_form.h"
 #include "questions/question.h"
 #include "rules/environment.h"
 #include "rules/menus.h"
@@ -50,7 +51,8 @@ std::string GenesForMoving(int clan) {
 }
 
 std::string AttackerText() {
-    return Concat(game.Amoeba[game.CurAmoeba][game.CurPlayer].Name, " of ", game.Players[game.CurPlayer].Name);
+    return Concat(game.Amoeba[game.CurAmoeba][game.CurPlayer].Name, " (", game.CurAmoeba, ") of ",
+                  game.Players[game.CurPlayer].Name);
 }
 
 /// What becomes of an amoeba that does not get away.
@@ -152,17 +154,20 @@ std::string DragHint(int clan, int to) {
                             : "";
 }
 
-std::string FeedingHint(int clan, int amoeba, bool canEat, bool mayStruggle, bool mayParasitize) {
+std::string FeedingHint(const FoodForm& form, int amoeba) {
     if (!HintsAreWanted()) {
         return {};
     }
-    std::string hint = canEat ? std::string("A meal leaves 2 pieces of your own colour here.")
-                              : Concat("Starving: 1 damage; it has ", game.Amoeba[amoeba][clan].Damage, " and dies of ",
-                                       DamageLimit(clan), ".");
-    if (mayStruggle) {
+    const int clan = form.Clan;
+    std::string hint = form.SuggestedMenu != 0 ? std::string("A meal leaves 2 pieces of your own colour here.")
+                                               : Concat(form.PossibleMeals().empty() ? "There is nothing to eat here"
+                                                                                     : "No menu is suggested here",
+                                                        ". Starve: 1 damage; it has ", game.Amoeba[amoeba][clan].Damage,
+                                                        " and dies of ", DamageLimit(clan), ".");
+    if (form.sfsoptEnabled) {
         hint += " Struggle: 1 BP for a fight; won, it has eaten, lost, it starves.";
     }
-    if (mayParasitize) {
+    if (form.paroptEnabled) {
         hint += " Parasitism: each host lends 1 piece and pays 1 BP; you pay nothing.";
     }
     return hint;

@@ -8,6 +8,8 @@
 
 namespace plasmos {
 
+class FoodForm;
+
 /// What the answers to a question cost and bring, in a line or two that stand beside the question. The rules that
 /// ask hand it over with the question. Where nobody reads hints every one of these is empty, and no text is made.
 
@@ -35,8 +37,8 @@ std::string TentacleHint(int clan, int to);
 std::string DragHint(int clan, int to);
 
 // ---- feeding ----
-/// The meal, and its alternatives where they are offered.
-std::string FeedingHint(int clan, int amoeba, bool canEat, bool mayStruggle, bool mayParasitize);
+/// The meal of an amoeba, or that there is none and what starving brings, and the alternatives where they are offered.
+std::string FeedingHint(const FoodForm& form, int amoeba);
 std::string HostHint();
 std::string StruggleHint(int clan, int amoeba);
 

@@ -206,7 +206,9 @@ bool MoveAlone(int clan, int amoeba, int destination, const Manner& manner) {
 
 void MoveAmoeba(int clan, int amoeba, int destination) {
     if (game.Amoeba[amoeba][clan].Square == destination) {
-        MoveAlone(clan, amoeba, destination, {});
+        if (MoveAlone(clan, amoeba, destination, {})) {
+            Happened({.What = Kind::Stays, .Clan = clan, .Amoeba = amoeba, .Square = destination});
+        }
     } else {
         MoveWithCompany(clan, amoeba, destination);
     }

@@ -5,6 +5,7 @@
 #include "model/bio_points.h"
 #include "model/dice.h"
 #include "model/genes.h"
+#include "model/happening.h"
 #include "model/presentation.h"
 #include "questions/ask.h"
 #include "rules/environment.h"
@@ -82,8 +83,18 @@ bool Attempt(int clan, int amoeba, bool first, const DriftForecast& drift) {
     return true;
 }
 
-int RollDirection() {
-    return DirectionFromDie(RollDie(6));
+/// Throws the direction die for an amoeba: the direction that it shows.
+int ThrowDie(int clan, int amoeba) {
+    const int face = RollDie(6);
+    const int direction = DirectionFromDie(face);
+    const int from = game.Amoeba[amoeba][clan].Square;
+    Happened({.What = Happening::Kind::Throws,
+              .Clan = clan,
+              .Amoeba = amoeba,
+              .From = from,
+              .Square = direction == WhereItWants ? 0 : MoveDestination(from, direction),
+              .Number = face});
+    return direction;
 }
 
 int ChooseNeighbour(int clan, int amoeba, std::string hint) {
@@ -110,7 +121,7 @@ int SquareOfThrow(int clan, int amoeba, int direction, const Throw* before = nul
 /// The second throw of a clan with "mv1", after a first that led to a square.
 int ThrowAgain(int clan, int amoeba, const Throw& first) {
     const int one = first.Square;
-    const int direction = RollDirection();
+    const int direction = ThrowDie(clan, amoeba);
     const int two = SquareOfThrow(clan, amoeba, direction, &first);
     if (direction == WhereItWants) {
         return two;
@@ -147,7 +158,7 @@ int FindPersonsDestination(int clan, int amoeba, MoveKind kind) {
     if (HasGene(clan, "mv2")) {
         return ChooseNeighbour(clan, amoeba, FreeChoiceHint());
     }
-    const int direction = RollDirection();
+    const int direction = ThrowDie(clan, amoeba);
     if (HasGene(clan, "mv1")) {
         const int square = SquareOfThrow(clan, amoeba, direction);
         const bool chosen = kind == MoveKind::Escape && direction == WhereItWants;

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "flow/play_game.h"
+#include "model/turn_points.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/scripted_board.h"
 

@@ -16,6 +16,7 @@
 #include "rules/fight.h"
 #include "rules/menus.h"
 #include "rules/move_amoeba.h"
+#include "rules/movement.h"
 #include "tests/support/game_fixture.h"
 
 namespace plasmos::testing {
@@ -42,7 +43,43 @@ inline void EatAPiece() {
 
 inline const SceneRow SceneRows[] = {
     {"a_move", [] { MoveAmoeba(1, 1, 14); }, {9}, {{Kind::Moves, 1, 1, 13, 14, 0, 0, 9}}},
-    {"a_move_to_where_it_is", [] { MoveAmoeba(1, 1, 13); }, {}, {}},
+    {"a_move_to_where_it_is", [] { MoveAmoeba(1, 1, 13); }, {}, {{Kind::Stays, 1, 1, 0, 13}}},
+    {"a_throw",
+     [] {
+         Person(1);
+         MoveAmoeba(1, 1, FindPersonsDestination(1, 1, MoveKind::FirstAttempt));
+     },
+     {3, 9},
+     {{Kind::Throws, 1, 1, 13, 12, 0, 0, 3}, {Kind::Moves, 1, 1, 13, 12, 0, 0, 9}},
+     true},
+    {"a_throw_that_stays",
+     [] {
+         Person(1);
+         MoveAmoeba(1, 1, FindPersonsDestination(1, 1, MoveKind::FirstAttempt));
+     },
+     {5},
+     {{Kind::Throws, 1, 1, 13, 13, 0, 0, 5}, {Kind::Stays, 1, 1, 0, 13}},
+     true},
+    {"a_throw_against_the_edge",
+     [] {
+         Person(1);
+         Put(1, 2, 11);
+         MoveAmoeba(1, 2, FindPersonsDestination(1, 2, MoveKind::FirstAttempt));
+     },
+     {3},
+     {{Kind::Throws, 1, 2, 11, 11, 0, 0, 3}, {Kind::Stays, 1, 2, 0, 11}},
+     true},
+    {"two_throws",
+     [] {
+         Person(1);
+         Give(1, "mv1");
+         MoveAmoeba(1, 1, FindPersonsDestination(1, 1, MoveKind::SecondAttempt));
+     },
+     {2, 2, 9},
+     {{Kind::Throws, 1, 1, 13, 18, 0, 0, 2},
+      {Kind::Throws, 1, 1, 13, 18, 0, 0, 2},
+      {Kind::Moves, 1, 1, 13, 18, 0, 0, 9}},
+     true},
     {"a_ride",
      [] {
          Give(2, "hol");

@@ -184,23 +184,23 @@ const HintRow HintRows[] = {
      {6, 1, 6, 1},
      [] { Attacked(Assault::ToEat); },
      {Yes(), Yes()},
-     {"B1 of Player 2 attacks to eat it. 1 BP of 9: one chance in two to beat it off; else once more for 1 BP "
+     {"B1 (1) of Player 2 attacks to eat it. 1 BP of 9: one chance in two to beat it off; else once more for 1 BP "
       "(Persistence), or it is eaten.",
-      "B1 of Player 2 attacks to eat it. 1 BP of 8: one chance in two to beat it off; else it is eaten."}},
+      "B1 (1) of Player 2 attacks to eat it. 1 BP of 8: one chance in two to beat it off; else it is eaten."}},
     {"escape_from_aggression",
      {"esc", "def"},
      {5},
      [] { Attacked(Assault::Aggression); },
      {Yes(), No()},
-     {"B1 of Player 2 attacks it. 1 BP. Die: " + Die +
+     {"B1 (1) of Player 2 attacks it. 1 BP. Die: " + Die +
           ". In another square it is safe; else it may defend itself, or it is torn to pieces.",
-      "B1 of Player 2 attacks it. 1 BP of 8: one chance in two to beat it off; else it is torn to pieces."}},
+      "B1 (1) of Player 2 attacks it. 1 BP of 8: one chance in two to beat it off; else it is torn to pieces."}},
     {"escape_in_armour",
      {"esc", "arm", "str"},
      {5},
      [] { Attacked(Assault::Aggression); },
      {No()},
-     {"B1 of Player 2 attacks it. Free (Streamlining). Die: " + Die +
+     {"B1 (1) of Player 2 attacks it. Free (Streamlining). Die: " + Die +
       ". In another square it is safe; else it takes 1 damage (Armor)."}},
     {"a_meal",
      {},
@@ -219,7 +219,8 @@ const HintRow HintRows[] = {
          FeedAmoeba(11, 1);
      },
      {Struggle(), Pick({{2, 1}})},
-     {"Starving: 1 damage; it has 0 and dies of 2. Struggle: 1 BP for a fight; won, it has eaten, lost, it starves.",
+     {"There is nothing to eat here. Starve: 1 damage; it has 0 and dies of 2. Struggle: 1 BP for a fight; won, it has "
+      "eaten, lost, it starves.",
       "1 BP of your 9, paid with the pick. Won: it has eaten and 1 piece of every colour lies here. If the victim "
       "escapes or defends itself yours starves: damage 1 of 2."}},
     {"the_parasite",
@@ -232,7 +233,8 @@ const HintRow HintRows[] = {
          FeedAmoeba(11, 1);
      },
      {Parasitize(), Pick({{2, 1}}), Eat({0, 2, 0})},
-     {"Starving: 1 damage; it has 0 and dies of 2. Parasitism: each host lends 1 piece and pays 1 BP; you pay nothing.",
+     {"There is nothing to eat here. Starve: 1 damage; it has 0 and dies of 2. Parasitism: each host lends 1 piece and "
+      "pays 1 BP; you pay nothing.",
       "The host's clan lends 1 piece and pays 1 BP when you eat; you pay nothing and the host takes no damage. At most "
       "2 hosts."}},
     {"the_tentacle",

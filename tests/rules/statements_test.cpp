@@ -169,12 +169,12 @@ TEST_F(AttackOnAPerson, ToEatIsToldAboveEachQuestion) {
     bool hungry = true;
     AttackToEat(2, 13, 1, hungry, 0);
     EXPECT_THAT(Shown, ::testing::ElementsAre(
-                           "A1 of Player 1 attacks B1 in 13 to eat it.\n"
+                           "A1 (1) of Player 1 attacks B1 (1) in 13 to eat it.\n"
                            "Player 2: Would you like to pay 1BP for B1 to attempt to Escape the attack?",
-                           "A1 of Player 1 attacks B1 in 13 to eat it.\n"
+                           "A1 (1) of Player 1 attacks B1 (1) in 13 to eat it.\n"
                            "Player 2: would you like to pay 1BP for B1 to Defend itself against the attack?"));
     EXPECT_EQ(board.Questions[0].Text, "Player 2: Would you like to pay 1BP for B1 to attempt to Escape the attack?");
-    EXPECT_TRUE(board.HasLogLine("A1 of Player 1 attacks B1 in 13 to eat it."));
+    EXPECT_TRUE(board.HasLogLine("A1 (1) of Player 1 attacks B1 (1) in 13 to eat it."));
 }
 
 TEST_F(AttackOnAPerson, OfAggressionIsToldAboveEachQuestion) {
@@ -191,7 +191,8 @@ TEST_F(AttackOnAPerson, WhoIsNotAskedIsToldToo) {
     game.BP[2] = 0;
     bool hungry = true;
     AttackToEat(2, 13, 1, hungry, 0);
-    EXPECT_THAT(board.Messages, ::testing::ElementsAre("A1 of Player 1 attacks B1 in 13 to eat it.", "B1 Eaten!"));
+    EXPECT_THAT(board.Messages,
+                ::testing::ElementsAre("A1 (1) of Player 1 attacks B1 (1) in 13 to eat it.", "B1 Eaten!"));
     EXPECT_THAT(board.Pauses, ::testing::ElementsAre(10, 15));
 }
 

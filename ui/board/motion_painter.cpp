@@ -137,10 +137,11 @@ void DrawAttack(QPainter& painter, const QRectF& attacker, const QRectF& victim,
 
 void DrawDoubleFrame(QPainter& painter, const QRectF& rect, double corner) {
     painter.setBrush(Qt::NoBrush);
-    constexpr double Light = 84;
+    constexpr double Light = 66;
+    constexpr double Dark = 30;
     painter.setPen(QPen(Shade(Tone::PieceHalo), Light));
     painter.drawRoundedRect(rect, corner, corner);
-    painter.setPen(QPen(Shade(Tone::PieceEdge), Light * 0.5));
+    painter.setPen(QPen(Shade(Tone::PieceEdge), Dark));
     painter.drawRoundedRect(rect, corner, corner);
 }
 

@@ -31,7 +31,7 @@ struct Stacks {
 };
 
 Stacks StacksAt(double scale) {
-    constexpr double SmallSquare = 92;
+    constexpr double SmallSquare = 112;
     return scale * SquareUnits < SmallSquare ? Stacks{146, 172, 1} : Stacks{};
 }
 
@@ -157,7 +157,8 @@ void DrawFoodCounts(const GameState& state, QPainter& painter, int square) {
         if (count <= stacks.High) {
             continue;
         }
-        const QString text = QStringLiteral("×%1").arg(count);
+        // Over the one cube of a small square the figure alone leaves room for larger letters.
+        const QString text = (stacks.High > 1 ? QStringLiteral("×%1") : QStringLiteral("%1")).arg(count);
         constexpr double share = 0.75;  // of its height that a figure is wide
         const double room = stacks.Cube + 28;
         const double letters = std::min(stacks.Letters, room / (share * static_cast<double>(text.size())));

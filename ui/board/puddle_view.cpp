@@ -142,6 +142,9 @@ void PuddleView::DrawSquares(QPainter& painter) const {
         if (numbers_) {
             DrawSquareNumber(*state_, painter, square);
         }
+        if (square == cursor_) {
+            DrawCursor(painter);
+        }
         if (!state_->Blocked[square]) {
             DrawFood(*state_, painter, square);
         }
@@ -194,10 +197,11 @@ void PuddleView::DrawPieces(QPainter& painter) {
     }
 }
 
+// Inside the edge of an offered square and below food and pieces: all of them are seen.
 void PuddleView::DrawCursor(QPainter& painter) const {
-    if (hasFocus() && cursor_ > 0) {
-        constexpr double Inset = 36;
-        constexpr double Corner = 70;
+    if (hasFocus()) {
+        constexpr double Inset = 80;
+        constexpr double Corner = 60;
         const QRectF square(SquareCorner(*state_, cursor_), QSizeF(SquareUnits, SquareUnits));
         DrawDoubleFrame(painter, square.adjusted(Inset, Inset, -Inset, -Inset), Corner);
     }
@@ -214,7 +218,6 @@ void PuddleView::paintEvent(QPaintEvent*) {
     for (int square = 1; square <= state_->NumSquares; ++square) {
         DrawFoodCounts(*state_, painter, square);
     }
-    DrawCursor(painter);
     motions_.Draw(painter, *state_, outlined_);
 }
 

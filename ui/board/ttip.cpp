@@ -3,7 +3,8 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QTextDocument>
+#include <QEvent>
+#include <QToolTip>
 
 #include "files/text.h"
 #include "model/game_state.h"
@@ -52,6 +53,8 @@ ToolTips::ToolTips(PuddleView* puddle)
     WearLetters(*TTwin_, 13, true);
     TTwin_->setMargin(5);
     WearSheet(*TTwin_, QStringLiteral("background:@Tip;color:@Ink;border:1px solid @FieldEdge"));
+    TTwin_->installEventFilter(this);
+    puddle_->installEventFilter(this);
     ttTimer_->setObjectName(QStringLiteral("ttTimer"));
     connect(ttTimer_, &QTimer::timeout, this, [this] { ttTimer_Timer(); });
     ttTimer_->start(WaitingMilliseconds);
@@ -59,12 +62,36 @@ ToolTips::ToolTips(PuddleView* puddle)
 
 ToolTips::~ToolTips() = default;
 
-void ToolTips::ttTimer_Timer() {
+// What is told is measured in the letters of the day; a press has the pointer's amoeba seen.
+bool ToolTips::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == TTwin_ && event->type() == QEvent::StyleChange) {
+        TTwin_->resize(TTwin_->sizeHint());
+    } else if (watched == puddle_ && event->type() == QEvent::MouseButtonPress) {
+        Hush();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ToolTips::Hush() {
+    hushed_ = TextUnderPointer();
+    ShowTip({});
+    QToolTip::hideText();
+}
+
+std::string ToolTips::TextUnderPointer() const {
     const QPoint cursor = QCursor::pos();
     const QWidget* under = QApplication::widgetAt(cursor);
     const bool over = puddle_->isVisible() && (under == puddle_ || under == TTwin_);
     const QPoint units = puddle_->UnitsAt(puddle_->mapFromGlobal(QPointF(cursor)));
-    ShowTip(over ? TipTextAt(puddle_->State(), units.x(), units.y()) : std::string());
+    return over ? TipTextAt(puddle_->State(), units.x(), units.y()) : std::string();
+}
+
+void ToolTips::ttTimer_Timer() {
+    const std::string text = TextUnderPointer();
+    if (text != hushed_) {
+        hushed_.clear();
+    }
+    ShowTip(hushed_.empty() ? text : std::string());
 }
 
 void ToolTips::Stop() {

@@ -23,15 +23,22 @@ public:
 
     /// Shows, moves or hides `TTwin`; a shown tip is looked at again every 5 ms, else every 1500 ms.
     void ShowTip(const std::string& text);
+    /// Hides `TTwin` until the pointer has left the amoeba that it tells of: something has been pressed or asked.
+    void Hush();
     /// Hides `TTwin` and looks no more: the program ends.
     void Stop();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void ttTimer_Timer();
+    std::string TextUnderPointer() const;
 
     PuddleView* puddle_;
     QLabel* TTwin_;
     QTimer* ttTimer_;
+    std::string hushed_;  ///< the text that is not shown again where the pointer is
 };
 
 }  // namespace plasmos

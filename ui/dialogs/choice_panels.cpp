@@ -131,6 +131,15 @@ AmoebaPanel::AmoebaPanel(QWidget* parent, const GameState& state, AmChoicefrm& f
     controls.push_back(none_);
     OrderTabs(controls);
     AmoebaPanel::Reread();
+    made_ = true;
+}
+
+// The pictures are of the colours that they were made in.
+void AmoebaPanel::Redress() {
+    QuestionPanel::Redress();
+    if (made_) {
+        Reread();
+    }
 }
 
 void AmoebaPanel::Reread() {

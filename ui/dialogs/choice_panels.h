@@ -31,8 +31,12 @@ public:
     void CloseAsked() override;
     QWidget* FirstControl() override;
 
+protected:
+    void Redress() override;
+
 private:
     AmChoicefrm& form_;
+    bool made_ = false;
     QLabel* question_;
     std::array<QPushButton*, 8> options_{};
     QPushButton* none_;

@@ -50,6 +50,7 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
       suggest_(MakeButton(QStringLiteral("suggestb"), QString(), false)),
       hosts_(MakeText(this, "hostlab", 12)),
       legal_(MakeText(this, "legallab", 12)),
+      oneClick_(MakeText(this, "oneclicklab", 11)),
       meals_(new MealChips(this)),
       verdict_(MakeLabel(this, QStringLiteral("verdictlab"), 12, true, Tone::Ink)),
       paropt_(new QRadioButton(QStringLiteral("Parasitism"), this)),
@@ -66,12 +67,27 @@ FoodPanel::FoodPanel(QWidget* parent, const GameState& state, FoodForm& form)
     Body()->addWidget(Hint());
     MakeButtons();
     FoodPanel::Reread();
+    made_ = true;
+}
+
+// The pictures are of the colours that they were made in.
+void FoodPanel::Redress() {
+    QuestionPanel::Redress();
+    if (made_) {
+        Reread();
+    }
 }
 
 void FoodPanel::MakeMeals() {
-    Body()->addWidget(suggest_);
-    connect(suggest_, &QPushButton::clicked, this, [this] { Handle([this] { form_.suggest_Click(); }); });
     Body()->addWidget(legal_);
+    oneClick_->setText(QStringLiteral("One click enters a meal:"));
+    WearTone(*oneClick_, Tone::Faint);
+    Body()->addWidget(oneClick_);
+    Body()->addWidget(suggest_);
+    connect(suggest_, &QPushButton::clicked, this, [this] {
+        eatb_->setFocus();
+        Handle([this] { form_.suggest_Click(); });
+    });
     meals_->Make(form_);
     Body()->addWidget(meals_);
     meals_->OnMeal = [this](const PossibleMeal& meal) {
@@ -128,8 +144,7 @@ void FoodPanel::MakeRow(int field) {
     auto* line = new QHBoxLayout(row.Line);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(6);
-    auto* cube = new QLabel(row.Line);
-    cube->setPixmap(CubePicture(IsLent(field) ? 0 : field, devicePixelRatioF()));
+    row.Cube = new QLabel(row.Line);
     row.Name = MakeLabel(row.Line, QStringLiteral("fdname%1").arg(field), 13, false, Tone::Ink);
     row.Name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row.Count = MakeLabel(row.Line, QStringLiteral("fdlab%1").arg(field), 14, true, Tone::Ink);
@@ -143,7 +158,8 @@ void FoodPanel::MakeRow(int field) {
     row.Entry->setValidator(new QRegularExpressionValidator(digits, row.Entry));
     row.Less = MakeStep(row.Line, QStringLiteral("less%1").arg(field), false);
     row.More = MakeStep(row.Line, QStringLiteral("more%1").arg(field), true);
-    for (QWidget* part : std::initializer_list<QWidget*>{cube, row.Name, row.Count, row.Less, row.Entry, row.More}) {
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{row.Cube, row.Name, row.Count, row.Less, row.Entry, row.More}) {
         line->addWidget(part, part == row.Name ? 1 : 0);
     }
     Body()->addWidget(row.Line);
@@ -188,6 +204,7 @@ void FoodPanel::RereadRow(int field) {
     Row& row = rows_[static_cast<std::size_t>(field)];
     const FoodForm::Field& source = form_.fdtxt[field];
     row.Line->setVisible(source.Visible);
+    row.Cube->setPixmap(CubePicture(IsLent(field) ? 0 : field, devicePixelRatioF()));
     row.Entry->setVisible(source.Visible);
     row.Entry->setEnabled(source.Enabled);
     row.Less->setEnabled(source.Enabled && form_.Amount(field) > 0);
@@ -217,31 +234,18 @@ void FoodPanel::NameRow(int field) {
         IsLent(field) ? piece : QStringLiteral("%1, %2 in the square").arg(piece).arg(form_.fdtxt[field].InSquare));
 }
 
-void FoodPanel::ShowVerdict() {
-    using Kind = EntryVerdict::Kind;
-    if (!form_.Judge) {
-        verdict_->hide();
-        return;
+void FoodPanel::RereadMeals() {
+    const bool suggests = form_.Mode != "TENTACLE" && form_.SuggestedMenu > 0;
+    suggest_->setVisible(suggests);
+    suggest_->setText(QStringLiteral("Suggested menu: %1").arg(form_.SuggestedMenu));
+    if (suggests) {
+        const QPixmap pieces = MealChips::Pieces(form_.Suggestion(), devicePixelRatioF());
+        suggest_->setIcon(pieces);
+        suggest_->setIconSize(pieces.deviceIndependentSize().toSize());
+        suggest_->setToolTip(MealChips::InWords({form_.SuggestedMenu, form_.Suggestion()}));
     }
-    const EntryVerdict verdict = form_.Judge(form_);
-    const bool carrying = form_.Mode == "TENTACLE";
-    const QString text = verdict.What == Kind::Starves   ? QStringLiteral("Nothing entered: your amoeba starves.")
-                         : verdict.What == Kind::TooMuch ? QStringLiteral("Not legal: more than the square holds.")
-                         : verdict.What == Kind::TooHeavy
-                             ? QStringLiteral("Not legal: more than %1 pieces.").arg(form_.CarryingLimit)
-                         : verdict.What == Kind::Legal
-                             ? carrying ? QStringLiteral("Legal.") : QStringLiteral("Legal: %1.").arg(verdict.Menu)
-                         : verdict.Menu == 0 ? QStringLiteral("Nothing entered: your amoeba must eat.")
-                                             : QStringLiteral("Not legal: %1 is no menu of yours.").arg(verdict.Menu);
-    verdict_->setText(text);
-    WearTone(*verdict_, verdict.Passes() ? Tone::Accent : form_.AllZero() ? Tone::Ink : Tone::Alarm);
-    eatb_->setAccessibleDescription(text);
-}
-
-QString FoodPanel::ClosingText() const {
-    return form_.Mode == "TENTACLE"   ? QStringLiteral("carries nothing")
-           : form_.SuggestedMenu == 0 ? QStringLiteral("eats nothing; your amoeba starves")
-                                      : QStringLiteral("is refused, as your amoeba can eat");
+    meals_->Reread(form_);
+    oneClick_->setVisible(suggests || meals_->isVisibleTo(this));
 }
 
 void FoodPanel::Reread() {
@@ -250,8 +254,7 @@ void FoodPanel::Reread() {
         RereadRow(field);
     }
     const bool carrying = form_.Mode == "TENTACLE";
-    suggest_->setVisible(!carrying && form_.SuggestedMenu > 0);
-    suggest_->setText(QStringLiteral("Suggested menu: %1").arg(form_.SuggestedMenu));
+    RereadMeals();
     legal_->setText(ToQt(form_.LegalMenuLabel));
     legal_->setVisible(!form_.LegalMenuLabel.empty());
     paropt_->setVisible(!carrying);
@@ -266,7 +269,6 @@ void FoodPanel::Reread() {
     eatb_->setEnabled(form_.eatbEnabled);
     victimb_->setVisible(!carrying);
     victimb_->setEnabled(form_.victimbEnabled);
-    meals_->Reread(form_);
     ShowVerdict();
     SayClosing(ClosingText());
     rereading_ = false;

@@ -22,10 +22,12 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void Redress() override;
 
 private:
     struct Row {
         QWidget* Line = nullptr;
+        QLabel* Cube = nullptr;
         QLabel* Name = nullptr;
         QLabel* Count = nullptr;
         QLineEdit* Entry = nullptr;
@@ -38,18 +40,22 @@ private:
     void MakeAlternatives();
     void MakeButtons();
     void RereadRow(int field);
+    void RereadMeals();
     void Step(int field, int by);
     void NameRow(int field);
     /// Whether what is entered would be taken, and why not.
     void ShowVerdict();
+    QString VerdictText(const EntryVerdict& verdict) const;
     QString ClosingText() const;
 
     FoodForm& form_;
     bool rereading_ = false;
     std::array<Row, 8> rows_;
+    bool made_ = false;
     QPushButton* suggest_;
     QLabel* hosts_;
     QLabel* legal_;
+    QLabel* oneClick_;
     MealChips* meals_;
     QLabel* verdict_;
     QRadioButton* paropt_;

@@ -21,8 +21,9 @@ namespace {
 constexpr int Across = 3;
 constexpr int CubeSide = 11;
 
-/// The pieces of a meal, side by side.
-QPixmap Pieces(const std::vector<int>& amounts, double ratio) {
+}  // namespace
+
+QPixmap MealChips::Pieces(const std::vector<int>& amounts, double ratio) {
     const int count = std::max(std::accumulate(amounts.begin(), amounts.end(), 0), 1);
     QPixmap picture(QSize(count * CubeSide, CubeSide + 1) * ratio);
     picture.setDevicePixelRatio(ratio);
@@ -38,7 +39,7 @@ QPixmap Pieces(const std::vector<int>& amounts, double ratio) {
     return picture;
 }
 
-QString InWords(const PossibleMeal& meal) {
+QString MealChips::InWords(const PossibleMeal& meal) {
     QStringList parts;
     for (int colour = 1; colour <= static_cast<int>(meal.Amounts.size()); ++colour) {
         if (const int amount = meal.Amounts[static_cast<std::size_t>(colour - 1)]; amount > 0) {
@@ -47,8 +48,6 @@ QString InWords(const PossibleMeal& meal) {
     }
     return QStringLiteral("Meal %1: %2").arg(meal.Menu).arg(parts.join(QStringLiteral(", ")));
 }
-
-}  // namespace
 
 MealChips::MealChips(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
     grid_->setContentsMargins(0, 0, 0, 0);
@@ -76,7 +75,9 @@ std::vector<QWidget*> MealChips::Buttons() const {
 }
 
 void MealChips::Reread(const FoodForm& form) {
-    const auto meals = form.PossibleMeals();
+    auto meals = form.PossibleMeals();
+    const std::vector<int> suggested = form.Suggestion();
+    std::erase_if(meals, [&](const PossibleMeal& one) { return one.Amounts == suggested; });
     const auto entry = form.Entry();
     int place = 0;
     for (Chip& chip : chips_) {

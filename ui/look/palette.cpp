@@ -131,7 +131,7 @@ QString LookSheet() {
         "padding:4px 14px;font-weight:bold;font-size:@13px;min-height:@18px}"
         "QPushButton:hover{background:@Highlight}"
         "QPushButton:pressed{background:@AccentPressed}"
-        "QPushButton:focus{border:2.5px solid @Focus}"
+        "QPushButton:focus{border:2.5px solid @Focus;outline:none}"
         "QPushButton:disabled{color:@Disabled;border-color:@MenuEdge;background:@ButtonDisabled}"
         "QPushButton[main=\"true\"]{background:@Accent;color:@OnAccent}"
         "QPushButton[main=\"true\"]:hover{background:@AccentHover}"

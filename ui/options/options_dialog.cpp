@@ -22,7 +22,7 @@ namespace plasmos {
 OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files)
     : QDialog(parent), settings_(settings), files_(files), model_(settings), tbsOptions_(new QTabWidget(this)) {
     setObjectName(QStringLiteral("frmOptions"));
-    setWindowTitle(QStringLiteral("Preferences"));
+    setWindowTitle(QStringLiteral("Plasmos - Preferences"));
     Dress(*this);
     tbsOptions_->setObjectName(QStringLiteral("tbsOptions"));
     auto* outer = new QVBoxLayout(this);

@@ -132,6 +132,17 @@ void ClanPanel::ShowCurrentClan(int clan) {
     update();
 }
 
+void ClanPanel::ShowSafe(int clan) {
+    safe_ = clan;
+    update();
+}
+
+// The clans adapt in the order of play; afterwards nothing more comes of a level above the light.
+bool ClanPanel::MustAdapt(int clan) const {
+    return state_->Phase == "Environment" && clan != safe_ && PlaceOf(clan) >= PlaceOf(state_->CurPlayer) &&
+           state_->Players[clan].MutationLevel > state_->UVLevel;
+}
+
 void ClanPanel::ShowAll() {
     for (int clan = 1; clan <= MaxClans; ++clan) {
         ShowGenes(clan);
@@ -197,7 +208,7 @@ void ClanPanel::DrawFigures(QPainter& painter, int clan, double top) const {
     painter.drawText(QRectF(at.Amoebas, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("%1/%2").arg(state_->AmoebaCount[clan]).arg(state_->MaxAmoeba));
     const int level = state_->Players[clan].MutationLevel;
-    painter.setPen(level > state_->UVLevel ? Shade(Tone::Alarm) : Shade(Tone::Ink));
+    painter.setPen(Shade(MustAdapt(clan) ? Tone::Alarm : Tone::Ink));
     painter.drawText(QRectF(at.Mutation, top, at.Width, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("%1%2").arg(level).arg(level > state_->UVLevel ? QStringLiteral("!") : QString()));
 }

@@ -31,6 +31,8 @@ public:
     void ShowGenes(int clan);
     void ShowCurrentClan(int clan);
     /// Takes everything from the state.
+    /// A clan that adapts has made up the difference, though it has not said so yet; 0: none has.
+    void ShowSafe(int clan);
     void ShowAll();
 
     /// Words rise from a clan's BP or from its genes.
@@ -60,6 +62,7 @@ private:
         double Score, BP, Amoebas, Mutation, Width;
     };
 
+    bool MustAdapt(int clan) const;
     bool Shown() const;
     double CardHeight() const;
     Columns ColumnsOf() const;
@@ -75,6 +78,7 @@ private:
 
     const GameState* state_;
     int current_ = 0;
+    int safe_ = 0;  ///< the clan whose open dialog makes up its difference
     RisingWords* rising_;
 };
 

@@ -8,6 +8,7 @@
 #include "model/game_state.h"
 #include "model/genes.h"
 #include "model/happening.h"
+#include "model/turn_points.h"
 #include "rules/environment.h"
 #include "ui/look/colour_names.h"
 
@@ -46,6 +47,23 @@ std::string Nothing(const GameState&, const Happening&) {
 std::string MoveWords(const GameState& state, const Happening& move) {
     return IsComputer(state, move.Clan) ? std::string()
                                         : Concat(Actor(state, move), " moves from ", move.From, " to ", move.Square);
+}
+
+// The die's faces 1 to 4 are ways, 5 stays, 6 chooses.
+std::string ThrowWords(const GameState& state, const Happening& toss) {
+    constexpr std::string_view ways[] = {"right", "down", "left", "up"};
+    const std::string thrown = Concat(Actor(state, toss), " throws ", toss.Number, ": ");
+    if (toss.Square == 0) {
+        return thrown + "it goes where it wants";
+    }
+    const std::string_view way = toss.Number <= 4 ? ways[toss.Number - 1] : std::string_view();
+    return toss.Square == toss.From ? Concat(thrown, way, way.empty() ? "stays in " : ", stays in ", toss.From)
+                                    : Concat(thrown, way, " to ", toss.Square);
+}
+
+// A computer clan tells that it stays.
+std::string StayWords(const GameState& state, const Happening& stay) {
+    return IsComputer(state, stay.Clan) ? std::string() : Concat(Actor(state, stay), " stays in ", stay.Square);
 }
 
 std::string LoadWords(const GameState& state, const Happening& load) {
@@ -96,10 +114,25 @@ std::string IncomeWords(const GameState& state, const Happening& income) {
     return Concat(ClanName(state, income), " gains ", income.Number, " BP");
 }
 
+std::string Counted(int count, std::string_view what) {
+    return Concat(count, " ", what, count == 1 ? "" : "s");
+}
+
+/// "(2 for 4 amoebas, 1 for 3 genes, 1 taken space jumped)"
+std::string PointsWords(const GameState& state, const Happening& score) {
+    const TurnPoints points = TurnPointsOf(state, score.Clan);
+    const int jumped = score.Number - score.From - points.ForAmoebas - points.ForGenes;
+    return Concat(" (", points.ForAmoebas, " for ", Counted(state.AmoebaCount[score.Clan], "amoeba"), ", ",
+                  points.ForGenes, " for ", Counted(CountScoredGenes(state, score.Clan), "gene"),
+                  HasGene(state, score.Clan, "ray") ? " besides Ray Protection" : "",
+                  jumped > 0 ? Concat(", ", Counted(jumped, "taken space"), " jumped") : std::string(), ")");
+}
+
 std::string ScoreWords(const GameState& state, const Happening& score) {
-    return score.From == score.Number
-               ? std::string()
-               : Concat(ClanName(state, score), " scores: from ", score.From, " to ", score.Number);
+    return Concat(ClanName(state, score),
+                  score.From == score.Number ? Concat(" scores nothing and stays on ", score.From)
+                                             : Concat(" scores: from ", score.From, " to ", score.Number),
+                  PointsWords(state, score));
 }
 
 std::string CardWords(const GameState& state, const Happening& card) {
@@ -118,6 +151,8 @@ constexpr WordsRow Rows[] = {
     {Kind::Escapes, Nothing},
     {Kind::CarriesFood, LoadWords},
     {Kind::ChangesSpot, Nothing},
+    {Kind::Throws, ThrowWords},
+    {Kind::Stays, StayWords},
     {Kind::Eats, Nothing},
     {Kind::Parasitizes, Nothing},
     {Kind::Starves, Nothing},
@@ -158,7 +193,7 @@ std::string QuietWords(const GameState& state, const Happening& happening) {
 }
 
 std::string PieceWords(const GameState& state, int clan, int amoeba) {
-    return Concat(state.Amoeba[amoeba][clan].Name, " (", amoeba, ")");
+    return Concat(state.Amoeba[amoeba][clan].Name, " (", amoeba, ") of ", state.Players[clan].Name);
 }
 
 }  // namespace plasmos

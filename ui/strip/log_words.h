@@ -13,7 +13,7 @@ struct Happening;
 /// that are paid, the order of play.
 std::string QuietWords(const GameState& state, const Happening& happening);
 
-/// A piece as the log calls it: "Otto (3)".
+/// A piece as the log calls it: "Otto (3) of Player 1".
 std::string PieceWords(const GameState& state, int clan, int amoeba);
 
 }  // namespace plasmos

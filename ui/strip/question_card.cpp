@@ -62,7 +62,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     nob->setObjectName(QStringLiteral("nob"));
     yesb->setProperty("main", true);
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    autoeatlab->setToolTip(QStringLiteral("This clan eats without asking"));
+    autoeatlab->setToolTip(QString::fromLatin1(AutoEatingTip));
     autotenlab->setToolTip(QStringLiteral("This clan uses its tentacles without asking"));
     (new ArrowKeys(this))->Take();
     AskYesNo(false);
@@ -125,6 +125,11 @@ void QuestionCard::AskYesNo(bool on) {
 
 void QuestionCard::ShowHint(const QString& hint) {
     hint_->setText(hint);
+}
+
+void QuestionCard::WarnHint(const QString& hint) {
+    ShowHint(hint);
+    TellAlert(*hint_);
 }
 
 void QuestionCard::ShowAbout(const QString& about) {

@@ -8,6 +8,11 @@
 
 namespace plasmos {
 
+/// What automatic eating does without asking.
+inline constexpr char AutoEatingTip[] =
+    "This clan eats without asking: the suggested menu. Where there is none, it attacks another clan's amoeba\n"
+    "for 1 BP with Struggle for Survival or Aggression, then feeds as a parasite, and else starves.";
+
 struct GameState;
 
 /// The message line in the colours of the clan it speaks to and under its sign, with the current clan's name and the
@@ -34,6 +39,8 @@ public:
     void ShowAsked(bool asked);
     /// A hint in place of the buttons, such as where to click.
     void ShowHint(const QString& hint);
+    /// The same, told aloud: something was pressed in vain.
+    void WarnHint(const QString& hint);
 
     /// What the answers to the question cost and bring, in a quiet line below it; where there is no room for it, as
     /// the card's tool tip.

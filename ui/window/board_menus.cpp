@@ -14,6 +14,7 @@
 #include "model/services.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/palette.h"
+#include "ui/strip/question_card.h"
 
 namespace plasmos {
 
@@ -57,7 +58,9 @@ void BoardMenus::BuildFileMenu() {
 void BoardMenus::BuildOptionsMenu() {
     QMenu* options = window_->menuBar()->addMenu(QStringLiteral("&Options"));
     options->setObjectName(QStringLiteral("opt_men"));
+    options->setToolTipsVisible(true);
     autoeat_men_ = AddItem(options, "autoeat_men", QStringLiteral("Automatic &Eating"), true);
+    autoeat_men_->setToolTip(QString::fromLatin1(AutoEatingTip));
     autoten_men_ = AddItem(options, "autoten_men", QStringLiteral("Automatic &Tentacle"), true);
     options->addSeparator();
     sqno_men_ = AddItem(options, "sqno_men", QStringLiteral("&Square-Numbers"), true);

@@ -93,6 +93,8 @@ void BoardMotions::ShowOne(const Happening& happening) {
         case Kind::GainsBP: ShowCard(happening); break;
         case Kind::ScoreMoves: track_->Walk(happening.Clan, happening.From, Time()); break;
         case Kind::CardIsTurned: strip_->Environment->TurnCard(Time()); break;
+        case Kind::Throws:              // where it leads is seen
+        case Kind::Stays:               // nothing moves
         case Kind::Parasitizes:         // its meal follows
         case Kind::OrderIsMade: break;  // the cards stand in it
     }

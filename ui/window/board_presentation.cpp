@@ -61,7 +61,9 @@ void BoardPresentation::ShowResult(const Happening& happening) {
         case Kind::ScoreMoves:
         case Kind::OrderIsMade: ShowOrder(); break;
         case Kind::CardIsTurned: ShowCard(); break;
-        // Their marks on the board are all there is to see.
+        // Their marks on the board, or their lines in the log, are all there is to see.
+        case Kind::Throws:
+        case Kind::Stays:
         case Kind::Parasitizes:
         case Kind::IsEaten:
         case Kind::IsTorn:
@@ -94,6 +96,7 @@ void BoardPresentation::Log(std::string_view line, int clan) {
 void BoardPresentation::ShowPhase(std::string_view phase) {
     strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
     strip_->Environment->ShowPhase();
+    strip_->Clans->update();
     motions_.EndAttack();
 }
 

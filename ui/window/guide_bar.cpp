@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "ui/look/dress.h"
-#include "ui/look/heard.h"
 
 namespace plasmos {
 
@@ -17,6 +16,7 @@ constexpr int HeadHeight = 22;
 
 GuideBar::GuideBar(QWidget* parent)
     : Card(parent),
+      HeardPlace(QAccessible::Grouping),
       endguideb(new QPushButton(QStringLiteral("End the &Tour"), this)),
       title_(MakeLabel(this, QStringLiteral("guidetitle"), 12, true, Tone::Faint)),
       note_(new FitLabel(this, 14, 10)),

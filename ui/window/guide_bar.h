@@ -4,11 +4,12 @@
 #include <QPushButton>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
 /// The note of the guided game below the board: what is asked and why, what is recommended, and the way out.
-class GuideBar : public Card {
+class GuideBar : public Card, public HeardPlace {
 public:
     explicit GuideBar(QWidget* parent);
 

@@ -106,6 +106,10 @@ void DrawDrift(QPainter& painter) {
     DrawDriftArrow(painter, 0, QPointF(94, 26), 14);
 }
 
+void DrawFreeDrift(QPainter& painter) {
+    DrawDriftArrow(painter, WhereItWants, QPointF(66, 26), 17);
+}
+
 void DrawOrder(QPainter& painter) {
     painter.setFont(DrawnFont(14, true));
     for (int place = 0; place < 3; ++place) {
@@ -151,12 +155,21 @@ constexpr SignRow Signs[] = {
     {DrawOffered, "A square that can be chosen now."},
     {DrawSpeaksOf, "The square that the question speaks of."},
     {DrawDrift, "The drift: where the current carries every amoeba, or that it stands still."},
+    {DrawFreeDrift, "The drift lets every amoeba go where it wants, free of charge."},
     {DrawMutation,
      "UV light. A clan whose sign stands to the right of the mark has more mutation than the light "
-     "allows, and must adapt when the card is turned."},
-    {DrawOrder, "The scores in the order of play: the leader stands first. Movement goes through it from behind."},
+     "allows, and must adapt when the card is turned. The figure on its card has a \"!\" then, and is red until it is "
+     "safe."},
+    {DrawOrder,
+     "The scores in the order of play: the leader stands first. Movement goes through it from behind. A clan scores "
+     "for its amoebas and for its genes, and jumps over spaces that are taken; the log tells how many of each."},
     {[](QPainter& painter) { DrawWord(painter, QStringLiteral("auto-eating")); },
-     "This clan's amoebas eat without asking. It is switched under Options, like the tentacle."},
+     "This clan's amoebas eat without asking. Who finds no menu attacks to eat, unasked too, for 1 BP, where its clan "
+     "has "
+     "Struggle for Survival or Aggression. It is switched under Options, like the tentacle."},
+    {[](QPainter& painter) { DrawWord(painter, QStringLiteral("mv1  arm")); },
+     "Genes by their short names, where there is no room for the long ones. The pointer on one tells what it is and "
+     "does."},
     {[](QPainter& painter) { DrawWord(painter, QStringLiteral("hosts")); },
      "With Parasitism: how many clans here could lend a piece of food for this meal, two at most, for 1 BP of theirs "
      "each."},
@@ -170,7 +183,7 @@ struct KeyRow {
 constexpr KeyRow Keys[] = {
     {"Y, N", "yes and no"},
     {"Arrow keys", "the cursor on the board; the next control in a dialog"},
-    {"Tab, Shift+Tab", "the next and the last control, or offered square"},
+    {"Tab, Shift+Tab", "the next and the previous control, or offered square"},
     {"Enter, Space", "the square under the cursor; the button that has the focus"},
     {"Escape", "closes a dialog, which says what that does"},
     {"Page Up, Page Down", "turns the pages of a long dialog"},

@@ -14,6 +14,7 @@
 #include "ui/board/score_track.h"
 #include "ui/dialogs/question_panel.h"
 #include "ui/look/palette.h"
+#include "ui/strip/clan_panel.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 
@@ -109,6 +110,7 @@ void QuestionDesk::Open(Question& question) {
     auto panel = MakePanel(strip_, game, question);
     if (panel) {
         panel->OnHandled = [this] {
+            ShowSafety();
             wait_.Wake();
             TellTop();
         };
@@ -167,6 +169,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     strip_->SetPanels(panels);
     strip_->Question->AskYesNo(yesNo != nullptr);
     ShowAsked();
+    ShowSafety();
     if (square != nullptr) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {
@@ -180,6 +183,13 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
 void QuestionDesk::TellTop() {
     if (OnTop) {
         OnTop(TopQuestion());
+    }
+}
+
+// Who adapts is safe as soon as its dialog says so.
+void QuestionDesk::ShowSafety() {
+    if (const auto* genes = As<GeneForm>(TopQuestion()); genes != nullptr) {
+        strip_->Clans->ShowSafe(genes->Adapts && genes->UVdiff <= 0 ? genes->Clan : 0);
     }
 }
 
@@ -228,9 +238,16 @@ void QuestionDesk::Answer(void (*handler)()) {
     wait_.Wake();
 }
 
+void QuestionDesk::WarnOfSquare(const SquareQuestion& question, int square) {
+    if (square > 0 && std::find(question.Offered.begin(), question.Offered.end(), square) == question.Offered.end()) {
+        strip_->Question->WarnHint(QStringLiteral("Square %1 cannot be chosen now; the glowing ones can.").arg(square));
+    }
+}
+
 void QuestionDesk::AnswerSquare(int x, int y) {
-    const Question* top = TopQuestion();
-    if (top != nullptr && top->Kind == QuestionKind::Square) {
+    Question* top = TopQuestion();
+    if (const auto* square = As<SquareQuestion>(top); square != nullptr) {
+        WarnOfSquare(*square, SquareAt(game, x, y));
         Picture1_MouseUp(x, y);
         wait_.Wake();
     }

@@ -16,6 +16,7 @@ namespace plasmos {
 class QuestionPanel;
 class ScoreTrack;
 class SideStrip;
+class SquareQuestion;
 
 /// What the rules ask in a window, and their waiting for it. Questions lie on each other; only the topmost is
 /// answered: by the buttons Yes and No and their keys, by a square of the puddle, or in a panel of the strip.
@@ -78,6 +79,8 @@ private:
     void TellTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);
+    void WarnOfSquare(const SquareQuestion& question, int square);
+    void ShowSafety();
     void ThrowIfOver();
     int Duration(int full) const;
     void WaitWhileHeld();

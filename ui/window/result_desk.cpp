@@ -18,7 +18,7 @@ ResultDesk::ResultDesk(StartCard& card, std::function<void(const QString& text)>
 void ResultDesk::Show(bool played) {
     const bool over = game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
     if (!over) {
-        card_->ShowWelcome();
+        ShowUnfinished();
         return;
     }
     std::string story = TellResult(game);
@@ -34,6 +34,22 @@ void ResultDesk::Show(bool played) {
     const int winner = ClanAtPlace(1);
     card_->ShowResult(QStringLiteral("%1 wins!").arg(ToQt(game.Players[winner].Name.View())), ToQt(story),
                       ToQt(TellPlaces(game) + "\n"), winner);
+}
+
+// The board still shows what was left.
+void ResultDesk::ShowUnfinished() {
+    if (game.NumPlayers == 0) {
+        card_->ShowWelcome();
+        return;
+    }
+    const QString when = game.Turn == 0 ? QStringLiteral("before its first turn")
+                                        : QStringLiteral("in turn %1 of %2").arg(game.Turn).arg(LastTurn);
+    card_->ShowResult(
+        QStringLiteral("This game was left"),
+        QStringLiteral("It ended %1 without a winner. The board, the clans and the log show how it stood. "
+                       "Go begins a new game.")
+            .arg(when),
+        QString(), 0);
 }
 
 void ResultDesk::Clear() {

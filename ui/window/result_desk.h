@@ -14,13 +14,14 @@ public:
     /// `tell` is a box for the person.
     ResultDesk(StartCard& card, std::function<void(const QString& text)> tell);
 
-    /// Shows the current game's result, or the welcome where it has none. A game that has just been played to its
-    /// end is taken into the record.
+    /// Shows the current game's result, that it was left before its end, or the welcome where there is no game. A game
+    /// that has just been played to its end is taken into the record.
     void Show(bool played);
     /// Forgets the record. What the card shows follows.
     void Clear();
 
 private:
+    void ShowUnfinished();
     void TellUnsaved() const;
 
     StartCard* card_;

@@ -53,7 +53,7 @@ UBoard::UBoard() : UBoard(MakePresentation) {}
 
 UBoard::UBoard(const PresentationMaker& make) {
     setObjectName(QStringLiteral("UBoard"));
-    setWindowTitle(QStringLiteral("The Puddle"));
+    setWindowTitle(QStringLiteral("Plasmos"));
     Dress(*this);
     LoadBoard();
     auto* table = new TableTop(this, game);
@@ -63,11 +63,7 @@ UBoard::UBoard(const PresentationMaker& make) {
     menus_ = std::make_unique<BoardMenus>(
         *this, *track_->Puddle(),
         BoardMenus::Deeds{[this] { watch_Click(); }, [this] { LeaveGame(); }, [this] { desk_->Wake(); },
-                          [this] {
-                              if (!playing_)
-                                  preferences_->Open();
-                          },
-                          [this] { results_->Clear(), strip_->Arrange(); },
+                          [this] { preferences_->Open(); }, [this] { results_->Clear(), strip_->Arrange(); },
                           [this](const QString& text) { ShowNotice(*this, text); }});
     BuildDesks(*table);
     lent_ = new LentLabels(this, *strip_->Environment);
@@ -93,6 +89,7 @@ UBoard::~UBoard() {
 void UBoard::BuildDesks(TableTop& table) {
     desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
     desk_->OnQuestion = [this](Question& question) {
+        tips_->Hush();
         if (OnQuestion) {
             OnQuestion(question);
         }

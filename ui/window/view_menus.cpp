@@ -39,9 +39,9 @@ struct ColourRow {
 };
 
 constexpr ColourRow Colours[] = {
-    {std::nullopt, "As the &Desktop"},
+    {std::nullopt, "As the Deskto&p"},
     {Scheme::Light, "&Light"},
-    {Scheme::Dark, "D&ark"},
+    {Scheme::Dark, "&Dark"},
     {Scheme::Contrast, "&High Contrast"},
 };
 

@@ -26,9 +26,9 @@ bool IsSeenAlone(const Happening& happening) {
         case Kind::ChangesSpot:
         case Kind::PaysBP:
         case Kind::OrderIsMade: return true;
-        case Kind::ScoreMoves: return happening.From == happening.Number;
-        case Kind::Dies: return happening.Number == 0;                              // told when it was killed
-        case Kind::Moves: return game.Players[happening.Clan].IsComputer;           // told before it went
+        case Kind::Dies: return happening.Number == 0;  // told when it was killed
+        case Kind::Moves:
+        case Kind::Stays: return game.Players[happening.Clan].IsComputer;           // told before it went
         case Kind::LosesGene: return game.FastMode && game.Phase == "Environment";  // told before it was lost
         case Kind::Defends: return game.FastMode;                                   // told behind it
         default: return false;

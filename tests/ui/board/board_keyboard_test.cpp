@@ -6,6 +6,7 @@
 
 #include "questions/ask.h"
 #include "tests/ui/support/position.h"
+#include "ui/board/puddle_painter.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
@@ -46,6 +47,8 @@ private slots:
     void whoComesByTab();
     void theCursorIsKept();
     void theCursorIsSeenOnEveryGround();
+    void theOfferAndTheFoodAreSeenUnderTheCursor();
+    void aSquareThatIsNotOfferedSaysSo();
     void squaresAreReadWithoutAQuestion();
 };
 
@@ -115,6 +118,49 @@ void BoardKeyboardTest::theCursorIsSeenOnEveryGround() {
         scene.ClickSquare(6);
     });
     PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 12}), 6));
+}
+
+// The gold frame goes round the cursor, and the food lies on it.
+void BoardKeyboardTest::theOfferAndTheFoodAreSeenUnderTheCursor() {
+    PositionScene scene;
+    Feed(6, {3, 0, 2, 1});
+    scene.Then(QuestionKind::Square, [&] {
+        const auto lowestCubes = [&scene] {
+            std::vector<QRgb> colours;
+            const QImage picture = scene.Puddle().grab().toImage();
+            for (const int clan : {1, 3, 4}) {
+                const QRectF food = FoodRect(game, 6, clan, scene.Puddle().width() / 6000.0);
+                constexpr QPointF beside(0.25, 0.2);  // of a cube, off its sign
+                const QPointF point(food.left() + food.width() * beside.x(), food.bottom() - food.width() * beside.y());
+                colours.push_back(picture.pixel(scene.Puddle().PointAt(point).toPoint()));
+            }
+            return colours;
+        };
+        const auto before = lowestCubes();
+        scene.Key(Board, Qt::Key_Tab);
+        QVERIFY(HasFrame(scene, 6));
+        QCOMPARE(lowestCubes(), before);
+        const QPoint edge = scene.Puddle().PointAt(QPointF(14, 1200 + 600)).toPoint();
+        QCOMPARE(scene.Puddle().grab().toImage().pixelColor(edge), Shade(Tone::OfferEdge));
+        scene.ClickSquare(6);
+    });
+    PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 12}), 6));
+}
+
+void BoardKeyboardTest::aSquareThatIsNotOfferedSaysSo() {
+    const QString seven = QStringLiteral("Square 7 cannot be chosen now; the glowing ones can.");
+    PositionScene scene;
+    scene.Then(QuestionKind::Square, [&] {
+        QCOMPARE(scene.Text(QStringLiteral("hintlab")), QStringLiteral("Click one of the glowing squares."));
+        scene.ClickSquare(7);
+    });
+    scene.Then(QuestionKind::Square, [&] {
+        QVERIFY(scene.Sees(QStringLiteral("hintlab")));
+        QCOMPARE(scene.Text(QStringLiteral("hintlab")), seven);
+        scene.ClickSquare(12);
+    });
+    PHASE(scene, QCOMPARE(AskSquare(3, "Where?", {6, 12}), 12));
+    QVERIFY(scene.Text(QStringLiteral("hintlab")) != seven);
 }
 
 void BoardKeyboardTest::squaresAreReadWithoutAQuestion() {

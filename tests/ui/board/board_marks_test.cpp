@@ -9,6 +9,7 @@
 #include "model/narration.h"
 #include "questions/ask.h"
 #include "tests/ui/support/position.h"
+#include "ui/board/puddle_painter.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/palette.h"
 #include "ui/strip/environment_view.h"
@@ -23,6 +24,7 @@ private slots:
     void whatGlows();
     void theSquareAQuestionSpeaksOf();
     void whoALogLineIsAbout();
+    void countsAreReadOnSmallSquares();
     void everyLevelIsSeen_data();
     void everyLevelIsSeen();
 };
@@ -78,6 +80,29 @@ void BoardMarksTest::whoALogLineIsAbout() {
     QVERIFY2(
         log.endsWith(SignCharacter(2) + " by the acting clan\n" + SignCharacter(3) + " told to another\ntold to all"),
         qPrintable(log));
+}
+
+// A figure of at least 8 pixels, in the smallest window with the most clans.
+void BoardMarksTest::countsAreReadOnSmallSquares() {
+    PositionScene scene(6);
+    scene.Board().resize(940, 640);
+    Feed(13, {0, 0, 0, 9, 0, 0});
+    const QImage picture = scene.Puddle().grab().toImage();
+    const double scale = scene.Puddle().width() / 6000.0;
+    QVERIFY2(scale * 1200 < 100, "the squares are small");
+    const QRectF food = FoodRect(game, 13, 4, scale);
+    const QRect above = QRectF(scene.Puddle().PointAt(food.topLeft() - QPointF(0, 240)),
+                               scene.Puddle().PointAt(food.topRight() - QPointF(0, 12)))
+                            .toRect();
+    int rows = 0;
+    for (int y = above.top(); y < above.bottom(); ++y) {
+        bool ink = false;
+        for (int x = above.left(); x < above.right(); ++x) {
+            ink = ink || picture.pixelColor(x, y).lightness() < 80;
+        }
+        rows += ink ? 1 : 0;
+    }
+    QVERIFY2(rows >= 8 && rows <= 14, Concat("rows of ink: ", rows).c_str());
 }
 
 void BoardMarksTest::everyLevelIsSeen_data() {

@@ -5,8 +5,10 @@
 #include <QCursor>
 #include <QLabel>
 #include <QTimer>
+#include <QToolTip>
 #include <cmath>
 
+#include "questions/ask.h"
 #include "tests/ui/support/position.h"
 #include "ui/board/puddle_view.h"
 #include "ui/board/ttip.h"
@@ -58,6 +60,9 @@ private slots:
     void followsThePointer();
     void anotherPieceAnotherText();
     void goesWhenThePieceGoes();
+    void isGoneAfterAPress();
+    void isGoneWhenSomethingIsAsked();
+    void fitsItsLetters();
     void pointsAndUnits();
 };
 
@@ -190,6 +195,57 @@ void TooltipTest::goesWhenThePieceGoes() {
     QTRY_COMPARE(scene.Tip()->text(), QStringLiteral("1- C1 (1)"));
     LiftPiece(3, 1);
     QTRY_VERIFY(!scene.Tip()->isVisible());
+}
+
+// It comes back when the pointer has been elsewhere.
+void TooltipTest::isGoneAfterAPress() {
+    TipScene scene;
+    Put(1, 2, 13);
+    const QPointF piece = MarkerOf(game, 3, 1).center();
+    scene.PointAt(piece);
+    scene.Tick();
+    QVERIFY(scene.Tip()->isVisible());
+    scene.Press(&scene.Puddle(), Qt::LeftButton, scene.Puddle().PointAt(piece).toPoint());
+    QVERIFY(!scene.Tip()->isVisible());
+    scene.Tick();
+    QVERIFY2(!scene.Tip()->isVisible(), "the pointer is where it was");
+    scene.PointAt(MarkerOf(game, 1, 2).center());
+    scene.Tick();
+    QVERIFY(scene.Tip()->isVisible());
+    scene.PointAt(piece);
+    scene.Tick();
+    QCOMPARE(scene.Tip()->text(), QStringLiteral("1- C1 (0)"));
+    QVERIFY(scene.Tip()->isVisible());
+}
+
+void TooltipTest::isGoneWhenSomethingIsAsked() {
+    TipScene scene;
+    scene.Then(QuestionKind::YesNo, [&] {
+        QVERIFY(!scene.Tip()->isVisible());
+        QTRY_VERIFY(!QToolTip::isVisible());
+        scene.Tick();
+        QVERIFY(!scene.Tip()->isVisible());
+        scene.Click(QStringLiteral("nob"));
+    });
+    PHASE(scene, scene.PointAt(MarkerOf(game, 3, 1).center()); scene.Tick(); QVERIFY(scene.Tip()->isVisible());
+          QToolTip::showText(QCursor::pos(), QStringLiteral("Bio-points"), &scene.Board());
+          QVERIFY(QToolTip::isVisible()); QVERIFY(!AskYesNo(3, "Divide?")));
+}
+
+void TooltipTest::fitsItsLetters() {
+    TipScene scene;
+    const QFont usual = QApplication::font();
+    scene.PointAt(MarkerOf(game, 3, 1).center());
+    scene.Tick();
+    const int narrow = scene.Tip()->width();
+    QFont large = usual;
+    large.setPointSize(20);
+    QApplication::setFont(large);
+    const QSize wanted = scene.Tip()->sizeHint();
+    const QSize shown = scene.Tip()->size();
+    QApplication::setFont(usual);
+    QVERIFY(shown.width() > narrow);
+    QCOMPARE(shown, wanted);
 }
 
 // A square is 1200 units wide and high whatever its size on the screen.

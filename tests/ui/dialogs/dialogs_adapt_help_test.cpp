@@ -4,6 +4,7 @@
 // buttons for the BP to pay.
 
 #include <QCheckBox>
+#include <QImage>
 #include <QRegularExpression>
 
 #include "rules/environment.h"
@@ -28,6 +29,7 @@ class DialogsAdaptHelpTest : public QObject {
 private slots:
     void onlyTheOwnGenesAreShownToAdapt();
     void whatIsGivenUpIsStruckThrough();
+    void theFigureIsQuietAsSoonAsTheClanIsSafe();
     void theSuggestionIsTaken();
     void stepsOfTheBpToPay();
     void bpThatAreNotCountedAreToldOf();
@@ -81,6 +83,38 @@ void DialogsAdaptHelpTest::whatIsGivenUpIsStruckThrough() {
     PHASE(scene, EnvironmentPhase());
     QCOMPARE(HeldGenes(3), std::string("def sub ray"));
     QCOMPARE(game.BP[3], 3);
+}
+
+// The mutation level on the clan's card: in the colour of alarm only while something is missing.
+void DialogsAdaptHelpTest::theFigureIsQuietAsSoonAsTheClanIsSafe() {
+    AdaptScene scene(5);
+    const auto alarmed = [&scene] {
+        auto* clans = scene.Board().findChild<QWidget*>(QStringLiteral("genelist2"))->parentWidget();
+        const QRect card = QRect(0, 0, clans->width(), clans->height());
+        const QImage picture = clans->grab(card).toImage();
+        const QRgb alarm = Shade(Tone::Alarm).rgb();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = picture.width() * 2 / 3; x < picture.width(); ++x) {
+                if (picture.pixel(x, y) == alarm) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    scene.ThenGenes([&] {
+        QVERIFY(alarmed());
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("3"));
+        QVERIFY2(alarmed(), "1 point is missing");
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        QVERIFY(!alarmed());
+        scene.Click(QStringLiteral("resetb"));
+        QVERIFY(alarmed());
+        scene.Type(QStringLiteral("EnvBP"), QStringLiteral("4"));
+        scene.Click(QStringLiteral("doneb"));
+    });
+    PHASE(scene, EnvironmentPhase());
+    QVERIFY2(game.Players[3].MutationLevel > game.UVLevel && !alarmed(), "it has paid for this turn");
 }
 
 void DialogsAdaptHelpTest::theSuggestionIsTaken() {

@@ -158,7 +158,9 @@ void DialogsExplainedTest::listenersAreToldWhatTheBoxesAre() {
         };
         QCOMPARE(heard("mv1"), QStringLiteral("Movement 1, 3 BP, 2 mutation points, not held, can be bought"));
         QCOMPARE(heard("spe"), QStringLiteral("Speed, 4 BP, 3 mutation points, held, you hold it"));
-        QCOMPARE(heard("mv2"), QStringLiteral("Movement 2, 5 BP, 5 mutation points, not held, costs 5 BP, you have 3"));
+        QCOMPARE(
+            heard("mv2"),
+            QStringLiteral("Movement 2, 5 BP, 5 mutation points, not held, needs Movement 1; costs 5 BP, you have 3"));
         QCOMPARE(Panel(scene)->accessibleName(), QStringLiteral("Buy new genes"));
         QVERIFY(Panel(scene)->accessibleDescription().startsWith(ToQt(OfferWith(3))));
         scene.Click(QStringLiteral("doneb"));

@@ -81,13 +81,16 @@ void DialogsHintsTest::aMealIsOneClick() {
     scene.ThenFood([&] {
         QVERIFY2(!scene.Sees(QStringLiteral("meal111")) && !scene.Sees(QStringLiteral("meal3")),
                  "the square holds too little for them");
-        QVERIFY(scene.Sees(QStringLiteral("meal11")) && scene.Sees(QStringLiteral("meal21")));
+        QVERIFY2(!scene.Sees(QStringLiteral("meal11")), "the suggestion is shown once");
+        QCOMPARE(scene.Text(QStringLiteral("suggestb")), QStringLiteral("Suggested menu: 11"));
+        QCOMPARE(scene.Find(QStringLiteral("suggestb"))->toolTip(), QStringLiteral("Meal 11: 1 blue, 1 purple"));
+        QVERIFY(scene.Sees(QStringLiteral("oneclicklab")) && scene.Sees(QStringLiteral("meal21")));
         QCOMPARE(Heard(scene, QStringLiteral("meal21")), QStringLiteral("Meal 21: 2 blue, 1 purple"));
         scene.Click(QStringLiteral("meal21"));
         QCOMPARE(scene.Fields(), QStringLiteral("2 1 0 0"));
         QCOMPARE(Verdict(scene), QStringLiteral("Legal: 21."));
         QVERIFY2(!scene.Enabled(QStringLiteral("meal21")), "the fields hold it");
-        scene.Click(QStringLiteral("meal11"));
+        scene.Click(QStringLiteral("suggestb"));
         QCOMPARE(scene.Fields(), QStringLiteral("1 1 0 0"));
         scene.Eat();
     });
@@ -97,14 +100,19 @@ void DialogsHintsTest::aMealIsOneClick() {
 
 void DialogsHintsTest::mealsByTheKeyboard() {
     MealScene scene;
+    Give(3, "sub");
+    Feed(7, {3, 1, 5, 1});
     scene.ThenFood([&] {
-        scene.Key(QStringLiteral("meal111"), Qt::Key_Space);
+        scene.Key(QStringLiteral("meal31"), Qt::Key_Space);
+        QCOMPARE(scene.Fields(), QStringLiteral("3 1 0 0"));
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("eatb"));
+        scene.Key(QStringLiteral("suggestb"), Qt::Key_Space);
         QCOMPARE(scene.Fields(), QStringLiteral("1 1 0 1"));
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("eatb"));
         scene.Key(QStringLiteral("eatb"), Qt::Key_Return);
     });
     PHASE(scene, FeedAmoeba(7, 3));
-    QCOMPARE(FoodOn(7), (std::vector<int>{0, 0, 7, 0}));
+    QCOMPARE(FoodOn(7), (std::vector<int>{2, 0, 7, 0}));
 }
 
 void DialogsHintsTest::theColoursAreNamed() {
@@ -113,7 +121,7 @@ void DialogsHintsTest::theColoursAreNamed() {
         QCOMPARE(Heard(scene, QStringLiteral("more1")), QStringLiteral("one more blue: Player 1"));
         QCOMPARE(Heard(scene, QStringLiteral("less4")), QStringLiteral("one less red: Player 4"));
         QCOMPARE(Heard(scene, Field(2)), QStringLiteral("purple: Player 2, 1 in the square"));
-        scene.Click(QStringLiteral("meal111"));
+        scene.Click(QStringLiteral("suggestb"));
         scene.Eat();
     });
     PHASE(scene, FeedAmoeba(7, 3));
@@ -123,7 +131,7 @@ void DialogsHintsTest::closingAMeal() {
     MealScene scene;
     scene.ThenFood([&] {
         QCOMPARE(Closing(scene), QStringLiteral("Esc: is refused, as your amoeba can eat"));
-        scene.Click(QStringLiteral("meal111"));
+        scene.Click(QStringLiteral("suggestb"));
         scene.Eat();
     });
     PHASE(scene, FeedAmoeba(7, 3));
@@ -133,8 +141,10 @@ void DialogsHintsTest::closingAMeal() {
     game.BP[3] = 1;
     scene.ThenFood([&] {
         QCOMPARE(Closing(scene), QStringLiteral("Esc: eats nothing; your amoeba starves"));
-        QCOMPARE(Verdict(scene), QStringLiteral("Nothing entered: your amoeba starves."));
-        QVERIFY(Hint(scene).startsWith(QStringLiteral("Starving: 1 damage; it has 0 and dies of 2. Struggle: 1 BP")));
+        QCOMPARE(Verdict(scene), QStringLiteral("Nothing to eat here: it starves, 1 damage."));
+        QVERIFY2(!scene.Sees(QStringLiteral("oneclicklab")), "there is no meal to click");
+        QVERIFY(Hint(scene).startsWith(
+            QStringLiteral("There is nothing to eat here. Starve: 1 damage; it has 0 and dies of 2. Struggle: 1 BP")));
         scene.Click(QStringLiteral("closeb"));
     });
     PHASE(scene, FeedAmoeba(7, 3));

@@ -260,7 +260,7 @@ void DialogsHungerTest::theAttackedPersonDefends() {
     scene.ThenBox("Player 2: You are being attacked!");
     scene.Then(QuestionKind::YesNo, [&] {
         QCOMPARE(scene.Text(QStringLiteral("msglab")),
-                 QStringLiteral("C1 of Player 3 attacks B4 in 7 to eat it.\n"
+                 QStringLiteral("C1 (1) of Player 3 attacks B4 (4) in 7 to eat it.\n"
                                 "Player 2: would you like to pay 1BP for B4 to Defend itself against the attack?"));
         scene.Click(QStringLiteral("yesb"));
     });

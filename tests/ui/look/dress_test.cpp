@@ -10,7 +10,8 @@
 
 #include "model/narration.h"
 #include "model/presentation.h"
-#include "tests/ui/support/position.h"
+#include "rules/feeding.h"
+#include "tests/ui/support/meal.h"
 #include "ui/look/dress.h"
 #include "ui/window/uboard.h"
 
@@ -43,6 +44,8 @@ private slots:
     void whatThePersonWantsGoesFirst();
     void whatStandsInTheLogIsReadInOtherColours();
     void scoresKeepTheirClansColours();
+    void picturesOfAnOpenDialogFollow();
+    void aButtonHasOneFocusFrame();
     void lettersFollowTheDesktop();
     void aLargeWindowHasLargerLetters();
 
@@ -127,6 +130,57 @@ void DressTest::scoresKeepTheirClansColours() {
         WantScheme(scheme);
         const QWidget* pill = scene.Find(QStringLiteral("orderlab0"));
         QCOMPARE(pill->palette().color(QPalette::Window), LabelBackground(game, ClanAtPlace(1)));
+    }
+}
+
+// Cubes and amoebas of a dialog that is open have the outlines of the new colours.
+void DressTest::picturesOfAnOpenDialogFollow() {
+    MealScene scene;
+    Give(3, "fru");
+    const auto pictures = [&scene] {
+        QList<QImage> images;
+        const auto* cubes = scene.Find(QStringLiteral("fdname1"))->parentWidget();
+        for (const QLabel* label : cubes->findChildren<QLabel*>()) {
+            images << label->pixmap().toImage();
+        }
+        for (const char* name : {"suggestb", "meal11"}) {
+            const auto* button = qobject_cast<QPushButton*>(scene.Find(QString::fromLatin1(name)));
+            images << button->icon().pixmap(button->iconSize()).toImage();
+        }
+        images.removeIf([](const QImage& image) { return image.isNull(); });
+        return images;
+    };
+    scene.ThenFood([&] {
+        const QList<QImage> light = pictures();
+        QCOMPARE(light.size(), 3);
+        WantScheme(Scheme::Dark);
+        const QList<QImage> dark = pictures();
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY2(light[i] != dark[i], Concat("picture ", i).c_str());
+        }
+        scene.Click(QStringLiteral("suggestb"));
+        scene.Eat();
+    });
+    PHASE(scene, FeedAmoeba(7, 3));
+}
+
+// Who comes by Tab sees the frame, and nothing but the button's own ground within it.
+void DressTest::aButtonHasOneFocusFrame() {
+    Scene scene;
+    QWidget* go = scene.Find(QStringLiteral("gob"));
+    go->setFocus();
+    QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Tab);
+    QTest::keyClick(scene.Board().windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
+    QVERIFY(go->hasFocus());
+    const QImage picture = go->grab().toImage();
+    QCOMPARE(picture.pixelColor(1, go->height() / 2), Shade(Tone::Focus));
+    constexpr int WithinTheFrame = 5;
+    const QColor ground = picture.pixelColor(WithinTheFrame, go->height() / 2);
+    for (int x = WithinTheFrame; x < 14; ++x) {
+        QCOMPARE(picture.pixelColor(x, go->height() / 2), ground);
+    }
+    for (int y = WithinTheFrame; y < 10; ++y) {
+        QCOMPARE(picture.pixelColor(go->width() / 2, y), ground);
     }
 }
 

@@ -32,7 +32,7 @@ void OptionsTest::opens() {
                         {"board", "blockno", "7"},
                         {"players", "name2", "Ann"}});
     QVERIFY(window.IsOpen());
-    QCOMPARE(window.Dialog()->windowTitle(), QStringLiteral("Preferences"));
+    QCOMPARE(window.Dialog()->windowTitle(), QStringLiteral("Plasmos - Preferences"));
     QCOMPARE(window.Values(), QStringLiteral("4x6 2"));
     QCOMPARE(window.Border(3), "black");
     QCOMPARE(window.Border(10), "black");

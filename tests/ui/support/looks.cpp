@@ -137,7 +137,10 @@ void CompareSquares(Comparison& see, Scene& scene, const Question& question) {
         see.Note("WantSquare and the question differ");
     }
     if (wanted) {
-        see.Text(QStringLiteral("hintlab"), "Click one of the glowing squares.");
+        if (!scene.Text(QStringLiteral("hintlab"))
+                 .endsWith(QStringLiteral(" cannot be chosen now; the glowing ones can."))) {
+            see.Text(QStringLiteral("hintlab"), "Click one of the glowing squares.");
+        }
         see.Seen(QStringLiteral("hintlab"), true);
     }
 }

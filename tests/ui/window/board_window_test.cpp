@@ -58,7 +58,7 @@ private slots:
 
 void BoardWindowTest::beforeTheFirstGame() {
     Scene scene;
-    QCOMPARE(scene.Board().windowTitle(), QStringLiteral("The Puddle"));
+    QCOMPARE(scene.Board().windowTitle(), QStringLiteral("Plasmos"));
     QVERIFY(scene.Sees(QStringLiteral("gob")) && scene.Enabled(QStringLiteral("gob")));
     QVERIFY(scene.Sees(QStringLiteral("txtReplay")) && scene.Enabled(QStringLiteral("txtReplay")));
     QVERIFY(!scene.Sees(QStringLiteral("yesb")) && !scene.Sees(QStringLiteral("nob")));

@@ -48,6 +48,7 @@ private slots:
     void gamesOfTwoPersonsAndOfNoneAreNotCounted();
     void damagedRecordsCountAsNone();
     void theCardStaysAndCountsOnce();
+    void aGameThatIsLeftIsNoWelcome();
     void theRecordIsCleared();
 };
 
@@ -117,6 +118,22 @@ void GameResultsTest::theCardStaysAndCountsOnce() {
     QVERIFY(told);
     scene.Reopen();
     QCOMPARE(LoadRecord(scene.Settings(), 4).Games, 1);
+}
+
+void GameResultsTest::aGameThatIsLeftIsNoWelcome() {
+    Scene scene;
+    QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("Welcome to the Puddle"));
+    game.RequestedClans = 3;
+    scene.AnswerBy([&](Question& question) { game.Turn < 2 ? scene.Player().Answer(question) : scene.LeaveGame(); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("This game was left"));
+    QCOMPARE(LoadRecord(scene.Settings(), 3).Games, 0);
+    scene.Menu(QStringLiteral("clearmen"));
+    QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("This game was left"));
+    game.RequestedClans = 0;
+    scene.AnswerBy([&](Question&) { scene.LeaveGame(); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("Welcome to the Puddle"));
 }
 
 void GameResultsTest::theRecordIsCleared() {

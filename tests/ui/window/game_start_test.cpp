@@ -123,7 +123,8 @@ void GameStartTest::isLeft() {
     QVERIFY(!scene.Sees(QStringLiteral("yesb")) && !scene.Sees(QStringLiteral("closeb")));
     QVERIFY(scene.Sees(QStringLiteral("gob")) && scene.Enabled(QStringLiteral("gob")));
     QCOMPARE(scene.FileText(ErrorFile), QString());
-    QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("Welcome to the Puddle"));
+    QCOMPARE(scene.Text(QStringLiteral("titlelab")),
+             after == 1 ? QStringLiteral("Welcome to the Puddle") : QStringLiteral("This game was left"));
     game.RequestedClans = 3;
     scene.AnswerBy([&](Question& question) { person.Answer(question); });
     PLAY(scene, scene.Click(after % 2 == 0 ? QStringLiteral("gob") : QStringLiteral("watchb")));
