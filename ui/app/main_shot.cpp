@@ -4,11 +4,14 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "files/game_files.h"
@@ -28,6 +31,36 @@ namespace {
 using namespace plasmos;
 
 constexpr int TurnOfPicture = 4;
+
+bool AsksIn(const Question& question, QuestionKind kind, std::string_view phase) {
+    return question.Kind == kind && game.Phase.View() == phase;
+}
+
+/// A moment of a game that a picture can be taken at.
+struct Moment {
+    const char* Name;
+    bool (*Is)(const Question&);
+};
+
+constexpr Moment Moments[] = {
+    {"turn",
+     [](const Question& question) {
+         return game.Turn > TurnOfPicture || (game.Turn == TurnOfPicture && question.Kind == QuestionKind::YesNo);
+     }},
+    {"meal", [](const Question& question) { return game.Turn > 1 && question.Kind == QuestionKind::Food; }},
+    {"genes", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "New genes"); }},
+    {"adapt", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "Environment"); }},
+    {"birth", [](const Question& question) { return AsksIn(question, QuestionKind::Square, "Division"); }},
+    {"attack", [](const Question& question) { return question.Text.find("the attack?") != std::string::npos; }},
+    {"victim", [](const Question& question) { return question.Kind == QuestionKind::Victim; }},
+    {"end", [](const Question&) { return false; }},
+};
+
+const Moment* MomentNamed(const QString& name) {
+    const auto* found = std::find_if(std::begin(Moments), std::end(Moments),
+                                     [&](const Moment& moment) { return name == QLatin1String(moment.Name); });
+    return found != std::end(Moments) ? found : nullptr;
+}
 constexpr int LastDemoTurn = LastTurn;
 
 struct Wish {
@@ -37,6 +70,8 @@ struct Wish {
     QSize Size{1320, 860};
     std::optional<Scheme> Colours;
     int Points = 0;  ///< of the desktop's letters; 0: as they are
+    int Clans = 0;   ///< 0: as the person chooses
+    const Moment* At = &Moments[0];
 };
 
 /// A window that takes pictures of itself.
@@ -93,7 +128,8 @@ DemoBoard::DemoBoard(QString folder)
 int Refuse(const char* why) {
     std::fprintf(stderr,
                  "plasmos-shot: %s; "
-                 "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] | "
+                 "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] "
+                 "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|end] | "
                  "--demo FOLDER\n",
                  why);
     return 2;
@@ -126,6 +162,14 @@ const char* TakeOption(const QString& option, const QString& value, Wish& wish) 
         wish.Points = value.toInt();
         return wish.Points >= 6 && wish.Points <= 30 ? nullptr : "letters have 6 to 30 points";
     }
+    if (option == QLatin1String("--clans")) {
+        wish.Clans = value.toInt();
+        return wish.Clans >= MinClans && wish.Clans <= MaxClans ? nullptr : "there are 3 to 6 clans";
+    }
+    if (option == QLatin1String("--at")) {
+        wish.At = MomentNamed(value);
+        return wish.At != nullptr ? nullptr : "there is no such moment";
+    }
     wish.Folder = value;
     return option == QLatin1String("--demo") ? nullptr : "unknown argument";
 }
@@ -151,7 +195,7 @@ std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
     return why == nullptr ? std::optional(wish) : std::nullopt;
 }
 
-/// A game with a person who answers at once, until a question is open in the turn of the picture.
+/// A game with a person who answers at once, until the moment of the picture, or to its end.
 int TakeShot(const Wish& wish) {
     UBoard board;
     board.SetSpeed(0);
@@ -161,8 +205,7 @@ int TakeShot(const Wish& wish) {
     bool saved = false;
     bool taken = false;
     board.OnQuestion = [&](Question& question) {
-        const bool late = game.Turn > TurnOfPicture;
-        if (!taken && game.Turn >= TurnOfPicture && (late || question.Kind == QuestionKind::YesNo)) {
+        if (!taken && wish.At->Is(question)) {
             taken = true;
             saved = board.grab().save(wish.File);
             board.EndProgram();
@@ -247,5 +290,6 @@ int main(int argc, char** argv) {
     }
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
+    game.RequestedClans = wish->Clans;
     return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);
 }
