@@ -61,6 +61,8 @@ public:
     /// A point of the widget in board units, and back.
     QPoint UnitsAt(QPointF point) const;
     QPointF PointAt(QPointF units) const;
+    /// The square in the widget.
+    QRect SquareRect(int square) const;
 
     // ---- by ear ----
     std::vector<int> PartsOf(int part) const override;
@@ -98,7 +100,6 @@ private:
     /// The offered square after the cursor's, or before it; 0: there is none.
     int NextOffered(bool next) const;
     void AnswerAt(int square);
-    QRect SquareRect(int square) const;
     QString TipAt(QPoint point) const;
 
     const GameState* state_;

@@ -18,6 +18,7 @@ constexpr int Foot = 62;
 constexpr int BelowTitle = 46;
 constexpr int BelowBlobs = 92;
 constexpr int WelcomeHeight = 214;
+constexpr int RowHeight = 58;  ///< of the buttons, where they take two rows
 const char* const Welcome =
     "Your amoebas share this puddle with hungry neighbours. Drift or swim, eat what the others leave, keep your "
     "mutation below the UV level, buy genes, divide and conquer. Ten turns; the highest score wins.";
@@ -28,6 +29,7 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     : Card(parent),
       HeardPlace(QAccessible::Grouping),
       gob(new QPushButton(QStringLiteral("Go"), this)),
+      guideb(new QPushButton(QStringLiteral("Show me how"), this)),
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
       txtReplay(new QLineEdit(this)),
       state_(state),
@@ -37,6 +39,9 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     gob->setObjectName(QStringLiteral("gob"));
     gob->setProperty("main", true);
     gob->setDefault(true);
+    guideb->setObjectName(QStringLiteral("guideb"));
+    guideb->setToolTip(QStringLiteral("A short first game with somebody who explains"));
+    guideb->hide();
     watchb->setObjectName(QStringLiteral("watchb"));
     watchb->setToolTip(QStringLiteral("Six clans at most, all of them the computer's"));
     txtReplay->setObjectName(QStringLiteral("txtReplay"));
@@ -51,6 +56,12 @@ void StartCard::ShowWelcome() {
     Show(QStringLiteral("Welcome to the Puddle"), QString::fromLatin1(Welcome), 0);
 }
 
+void StartCard::OfferGuide(bool on) {
+    offersGuide_ = on;
+    guideb->setVisible(on && winner_ == 0);
+    StartCard::Redress();
+}
+
 void StartCard::ShowResult(const QString& line, const QString& story, const QString& places, int clan) {
     story_ = story;
     places_ = places;
@@ -63,7 +74,7 @@ void StartCard::Show(const QString& title, const QString& text, int clan) {
     text_->SetText(text);
     setAccessibleName(title);
     setAccessibleDescription(text);
-    StartCard::Redress();
+    OfferGuide(offersGuide_);
     update();
 }
 
@@ -73,7 +84,7 @@ int StartCard::ResultHeight(int width, const QString& text) const {
 
 int StartCard::HeightFor(int width, int room) const {
     if (winner_ == 0) {
-        return Px(WelcomeHeight);
+        return Px(WelcomeHeight) + (guideb->isVisibleTo(this) ? Px(RowHeight) : 0);
     }
     const int whole = ResultHeight(width, places_ + story_);
     return whole <= room ? whole : std::min(ResultHeight(width, story_), room);
@@ -88,13 +99,20 @@ void StartCard::Redress() {
     }
     const int below = winner_ > 0 ? BelowTitle : BelowBlobs;
     title_->setGeometry(InPixels({Pad, 12, inner, 30}));
-    text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot}));
-    const double top = high - 50;
+    const double rows = guideb->isVisibleTo(this) ? RowHeight : 0;
+    text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot - rows}));
+    ArrangeButtons(wide, high - 50, rows);
+}
+
+// The guided game has Go beside it, and the rest a row of its own.
+void StartCard::ArrangeButtons(double wide, double top, double rows) {
     const double go = wide < Roomy ? 66 : 84;
     const double watch = std::max(watchb->sizeHint().width() / Letters(), wide < Roomy ? 116.0 : 136.0);
-    gob->setGeometry(InPixels({Pad, top, go, 36}));
-    watchb->setGeometry(InPixels({Pad + go + 8, top, watch, 36}));
-    const double left = Pad + go + 8 + watch + 10;
+    gob->setGeometry(InPixels({Pad, top - rows, go, 36}));
+    guideb->setGeometry(InPixels({Pad + go + 8, top - rows, watch, 36}));
+    const double before = rows > 0 ? Pad : Pad + go + 8;
+    watchb->setGeometry(InPixels({before, top, watch, 36}));
+    const double left = before + watch + 10;
     replayLabel_->setGeometry(InPixels({left, top - 16, wide - Pad - left, 16}));
     txtReplay->setGeometry(InPixels({left, top + 3, wide - Pad - left, 30}));
 }

@@ -108,7 +108,10 @@ Question* QuestionDesk::TopQuestion() const {
 void QuestionDesk::Open(Question& question) {
     auto panel = MakePanel(strip_, game, question);
     if (panel) {
-        panel->OnHandled = [this] { wait_.Wake(); };
+        panel->OnHandled = [this] {
+            wait_.Wake();
+            TellTop();
+        };
     }
     asked_.push_back({&question, std::move(panel)});
     ActivateTop(Qt::TabFocusReason);
@@ -122,6 +125,7 @@ void QuestionDesk::Refresh(Question& question) {
     }
     ShowAsked();
     strip_->Arrange();
+    TellTop();
     if (TopQuestion() == &question) {
         AnnounceTop();
     }
@@ -169,7 +173,14 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
         asked_.back().Panel->FirstControl()->setFocus(reason);
     }
     Speak();
+    TellTop();
     AnnounceTop();
+}
+
+void QuestionDesk::TellTop() {
+    if (OnTop) {
+        OnTop(TopQuestion());
+    }
 }
 
 // A message box asks nothing.
