@@ -3,7 +3,6 @@
 
 #include <QFormLayout>
 #include <QGuiApplication>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <utility>
@@ -14,10 +13,24 @@
 #include "model/game_state.h"
 #include "ui/look/card.h"
 #include "ui/look/dress.h"
+#include "ui/look/heard.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
 namespace plasmos {
+
+namespace {
+
+QLabel* MakeHint(QWidget* page) {
+    auto* hint = new WrapLabel(page);
+    hint->setObjectName(QStringLiteral("blockhint"));
+    WearLetters(*hint, 12);
+    WearTone(*hint, Tone::Faint);
+    hint->setText(QStringLiteral("Drag a block to move it. Click a square to place a block or remove it."));
+    return hint;
+}
+
+}  // namespace
 
 OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles& files)
     : QDialog(parent), settings_(settings), files_(files), model_(settings), tbsOptions_(new QTabWidget(this)) {
@@ -34,6 +47,7 @@ OptionsDialog::OptionsDialog(QWidget* parent, SettingsStore& settings, GameFiles
     fault_->hide();
     outer->addWidget(fault_);
     MakeButtons(outer);
+    saved_ = Unsaved();
     auto* next = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
     connect(next, &QShortcut::activated, this, [this] { NextTab(); });
     try {
@@ -60,8 +74,12 @@ QSpinBox* OptionsDialog::MakeUpDown(QWidget* page, const char* name, void (Optio
 }
 
 QWidget* OptionsDialog::MakeBoardPage() {
+    auto* whole = new QWidget(this);
+    auto* under = new QVBoxLayout(whole);
+    under->addWidget(MakeHint(whole));
     auto* scroll = new ScrollBody(this);
     scroll->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    under->addWidget(scroll, 1);
     QWidget* page = scroll->Content();
     auto* line = new QHBoxLayout(page);
     auto* left = new QVBoxLayout;
@@ -94,7 +112,7 @@ QWidget* OptionsDialog::MakeBoardPage() {
         Follow();
     };
     line->addWidget(frame);
-    return scroll;
+    return whole;
 }
 
 QWidget* OptionsDialog::MakeNamesPage() {
@@ -105,8 +123,10 @@ QWidget* OptionsDialog::MakeNamesPage() {
         auto* name = new QLineEdit(ToQt(model_.Names[index]), page);
         name->setObjectName(QStringLiteral("pname%1").arg(clan));
         name->setMaxLength(LongestClanName);
-        connect(name, &QLineEdit::textChanged, this,
-                [this, index](const QString& text) { model_.Names[index] = text.toStdString(); });
+        connect(name, &QLineEdit::textChanged, this, [this, index](const QString& text) {
+            model_.Names[index] = text.toStdString();
+            ShowSaved(false);
+        });
         pname_[index] = name;
         form->addRow(QStringLiteral("%1 Clan %2").arg(SignCharacter(clan)).arg(clan), name);
     }
@@ -115,7 +135,8 @@ QWidget* OptionsDialog::MakeNamesPage() {
 
 void OptionsDialog::MakeButtons(QVBoxLayout* outer) {
     auto* line = new QHBoxLayout;
-    line->addStretch(1);
+    told_ = MakeLabel(this, QStringLiteral("savedlab"), 12, false, Tone::Faint);
+    line->addWidget(told_, 1);
     const auto add = [this, line](const char* name, const char* caption, void (OptionsDialog::*click)()) {
         auto* button = new QPushButton(QString::fromLatin1(caption), this);
         button->setObjectName(QString::fromLatin1(name));
@@ -127,7 +148,7 @@ void OptionsDialog::MakeButtons(QVBoxLayout* outer) {
     ok->setProperty("main", true);
     ok->setDefault(true);
     add("cmdCancel", "Cancel", &OptionsDialog::cmdCancel_Click);
-    add("cmdApply", "&Apply", &OptionsDialog::cmdApply_Click);
+    apply_ = add("cmdApply", "&Apply", &OptionsDialog::cmdApply_Click);
     outer->addLayout(line);
 }
 
@@ -149,6 +170,30 @@ void OptionsDialog::Follow() {
     bounds_->setText(ToQt(model_.Bounds()));
     optZyPict_->Follow();
     following_ = false;
+    ShowSaved(false);
+}
+
+std::string OptionsDialog::Unsaved() const {
+    std::string all = model_.FileText();
+    for (const std::string& name : model_.Names) {
+        all += name + '\n';
+    }
+    return all;
+}
+
+// Who listens is at the button that was pressed, and hears it there.
+void OptionsDialog::ShowSaved(bool justNow) {
+    const QString text = Unsaved() != saved_ ? QStringLiteral("Not saved yet.")
+                         : justNow           ? QStringLiteral("Saved.")
+                                             : QString();
+    if (told_->text() == text) {
+        return;
+    }
+    told_->setText(text);
+    apply_->setAccessibleDescription(text);
+    if (!text.isEmpty()) {
+        TellAlert(*told_);
+    }
 }
 
 void OptionsDialog::NextTab() {
@@ -168,6 +213,10 @@ bool OptionsDialog::Save() {
     const std::string fault = model_.Save(settings_, files_);
     fault_->setText(ToQt(fault));
     fault_->setVisible(!fault.empty());
+    if (fault.empty()) {
+        saved_ = Unsaved();
+    }
+    ShowSaved(fault.empty());
     return fault.empty();
 }
 

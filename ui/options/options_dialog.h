@@ -5,10 +5,12 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
+#include <string>
 
 #include "ui/options/options_model.h"
 #include "ui/options/zy_picture.h"
@@ -40,6 +42,10 @@ private:
     void NextTab();
     void TakeTyped();
     bool Save();
+    /// All that would be saved now.
+    std::string Unsaved() const;
+    /// Tells beside the buttons that something is not saved yet, or that all has just been saved.
+    void ShowSaved(bool justNow);
     /// Takes everything from the model.
     void Follow();
 
@@ -56,6 +62,9 @@ private:
     QLabel* bounds_ = nullptr;
     QLabel* diagnosis_ = nullptr;
     QLabel* fault_ = nullptr;
+    QLabel* told_ = nullptr;
+    QPushButton* apply_ = nullptr;
+    std::string saved_;  ///< what was saved last
     std::array<QLineEdit*, 7> pname_{};
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
 #include <functional>
 
@@ -23,12 +24,22 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void DrawStone(QPainter& painter, const QRectF& stone, bool picked) const;
+    /// A hand over a block, which closes while it is held.
+    void ShowHand(QPoint place);
+    bool IsBlock(QPoint place) const;
+    void Click(QPoint place, int button);
+
     OptionsModel& model_;
-    int column_ = 0;  ///< the square the keyboard is at, from 0
+    QPoint held_{-1, -1};  ///< where the block that is dragged was taken; -1: none is
+    QPoint carried_;       ///< where it is now
+    int column_ = 0;       ///< the square the keyboard is at, from 0
     int row_ = 0;
 };
 

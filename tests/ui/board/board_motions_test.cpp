@@ -55,6 +55,13 @@ bool IsStill(std::string_view scene) {
            scene == "no_meal";
 }
 
+/// Motions and pauses take a quarter of their time where nobody looks on.
+constexpr double Briskly = 0.25;
+
+/// What moves has come to rest in the time that a motion may take, a third of a second.
+#define COMES_TO_REST(scene, speed) \
+    QTRY_COMPARE_WITH_TIMEOUT(WhatMoves(scene), QString(), static_cast<int>(320 * (speed)))
+
 const SceneRow& RowOf(std::string_view name) {
     return *std::find_if(std::begin(SceneRows), std::end(SceneRows),
                          [name](const SceneRow& row) { return row.Name == name; });
@@ -139,21 +146,19 @@ void BoardMotionsTest::everyHappeningIsSeen_data() {
 void BoardMotionsTest::everyHappeningIsSeen() {
     QFETCH(int, row);
     HappeningStage stage;
-    stage.Board().SetSpeed(1);
     stage.Roll(SceneRows[row].Rolls);
     bool seen = false;
     const auto look = [&] { seen = seen || !WhatMoves(stage).isEmpty() || stage.Puddle().Motions().IsLinked(); };
     stage.LookWhile(
         [&] {
-            QTest::qWait(320);
-            seen = false;
+            QCOMPARE(WhatMoves(stage), QString());
+            stage.Board().SetSpeed(Briskly);
             SceneRows[row].Happens();
             look();
         },
         look, __FILE__, __LINE__);
     QVERIFY2(seen || IsStill(SceneRows[row].Name), "nothing is seen of it");
-    QTest::qWait(320);
-    QCOMPARE(WhatMoves(stage), QString());
+    COMES_TO_REST(stage, Briskly);
 }
 
 void BoardMotionsTest::nothingMovesInFastMode() {
@@ -180,7 +185,7 @@ void BoardMotionsTest::anAttackIsLinkedUntilItsOutcome() {
     QFETCH(QString, scene);
     QFETCH(QString, outcome);
     HappeningStage stage;
-    stage.Board().SetSpeed(1);
+    stage.Board().SetSpeed(Briskly);
     const SceneRow& row = RowOf(scene.toStdString());
     stage.Roll(row.Rolls);
     QStringList seen;
@@ -229,7 +234,7 @@ void BoardMotionsTest::theOutcomeStandsBehindItsBox() {
 
 void BoardMotionsTest::anotherStateShowsNoMotions() {
     HappeningStage stage;
-    stage.Board().SetSpeed(1);
+    stage.Board().SetSpeed(Briskly);
     GameState earlier;
     PHASE(stage, earlier = game; stage.Board().ShowState(earlier); QTest::qWait(50); RowOf("a_piece_is_torn").Happens();
           QCOMPARE(WhatMoves(stage), QString()); QVERIFY(!stage.Puddle().Motions().IsLinked());
@@ -270,16 +275,16 @@ void BoardMotionsTest::pictures() {
     const PictureRow& row = Pictures[picture];
     HappeningStage stage(6);
     stage.Board().resize(size);
-    stage.Board().SetSpeed(1);
     Crowd();
     QImage during;
     const auto take = [&] {
         during = stage.Board().grab().toImage();
         stage.TakePicture(QStringLiteral("%1-%2").arg(QLatin1String(row.Name)).arg(size.width()));
+        stage.Board().SetSpeed(0);
     };
-    PHASE(stage, QTest::qWait(300); QTimer::singleShot(row.After, &stage.Board(), take); row.Happens();
-          QTest::qWait(row.After + 100));
-    QTest::qWait(320);
+    PHASE(stage, stage.Board().SetSpeed(1); QTimer::singleShot(row.After, &stage.Board(), take); row.Happens();
+          QTRY_VERIFY(!during.isNull()));
+    COMES_TO_REST(stage, 1);
     QVERIFY(during != stage.Board().grab().toImage());
 }
 

@@ -8,7 +8,13 @@
 #include <QPushButton>
 #include <csignal>
 #include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include "files/text.h"
+#include "model/game_state.h"
+#include "questions/question.h"
 #include "ui/app/hand.h"
 #include "ui/window/board_presentation.h"
 #include "ui/window/uboard.h"
@@ -27,6 +33,7 @@ public:
     int At = 0;  ///< 0: never
     Way How = Way::Close;
     int Count = 0;
+    std::vector<std::string> Kinds;  ///< of every wait and pause: "Food in Movement", "pause in Scoring"
     QElapsedTimer Since;
     std::function<void()> OnAt;  ///< happens instead of an end
 
@@ -36,11 +43,11 @@ private:
         Presenting(const BoardParts& parts, ClosingBoard& board) : BoardPresentation(parts), board_(&board) {}
 
         void Wait() override {
-            board_->Next();
+            board_->Next(QuestionKindName(board_->TopQuestion()->Kind));
             BoardPresentation::Wait();
         }
         void Pause(int units) override {
-            board_->Next();
+            board_->Next("pause");
             BoardPresentation::Pause(units);
         }
 
@@ -48,7 +55,8 @@ private:
         ClosingBoard* board_;
     };
 
-    void Next() {
+    void Next(std::string_view what) {
+        Kinds.push_back(Concat(what, " in ", game.Phase));
         if (++Count != At) {
             return;
         }
