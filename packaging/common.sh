@@ -95,6 +95,8 @@ use_ccache() {
     if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] && command -v ccache >/dev/null 2>&1; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
     fi
+    # Without it ccache passes on whatever is compiled with precompiled headers.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
 }
 
 # configure FOLDER PRESET [-DNAME=VALUE]...: configures a build folder unless it is configured that

@@ -32,6 +32,9 @@ ci       cppcheck            a second reader of the sources
 ci       xvfb                an X server without a screen, for the window tests
 ci       xauth               needed by xvfb-run
 ci       xdotool             moves its pointer and presses its keys
+ci       at-spi2-core        the accessibility bus, for the game by ear
+ci       dbus-daemon         a session's bus of its own, which starts it
+ci       python3-gi          talks over them
 ci       ccache              makes second builds quick
 ci       python3             draws the rooms
 wayland  qt6-wayland         a window where there is Wayland and no X server

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
-#include <QMessageBox>
 #include <QSessionManager>
 #include <cstdio>
 
@@ -13,7 +12,7 @@
 #include "ui/app/end_signals.h"
 #include "ui/app/qt_settings.h"
 #include "ui/app/scale_factors.h"
-#include "ui/look/dress.h"
+#include "ui/look/notice.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
 
@@ -43,12 +42,8 @@ int main(int argc, char** argv) {
         Qt::DirectConnection);
     const EndSignals endSignals([&board] { board.CloseAtOnce(); });
     board.show();
-    QMessageBox notice(QMessageBox::Warning, QStringLiteral("Plasmos"), ToQt(fault), QMessageBox::Ok, &board);
-    notice.setTextFormat(Qt::PlainText);
-    Dress(notice);
     if (!fault.empty()) {
-        notice.setModal(false);
-        notice.show();
+        ShowNotice(board, ToQt(fault));
     }
     return QApplication::exec();
 }

@@ -32,7 +32,7 @@ PuddleView::PuddleView(QWidget* parent, const GameState& state)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("The Puddle"));
-    setAccessibleDescription(QStringLiteral("Arrow keys go from square to square; Enter answers."));
+    SetAsked(QString());
 }
 
 void PuddleView::ShowState(const GameState& state) {
@@ -50,6 +50,11 @@ void PuddleView::ShowGridlines(bool on) {
 void PuddleView::ShowNumbers(bool on) {
     numbers_ = on;
     update();
+}
+
+void PuddleView::SetAsked(const QString& question) {
+    const QString keys = QStringLiteral("Arrow keys go from square to square; Enter answers.");
+    setAccessibleDescription(question.isEmpty() ? keys : question + QLatin1Char('\n') + keys);
 }
 
 void PuddleView::SetOffered(const std::vector<int>& squares) {

@@ -36,6 +36,8 @@ public:
     void ShowNumbers(bool on);
     /// Squares that glow because they may be clicked; empty: none.
     void SetOffered(const std::vector<int>& squares);
+    /// What is asked of the person who is to choose a square, for who listens; empty: nothing.
+    void SetAsked(const QString& question);
     const std::vector<int>& Offered() const { return offered_; }
     /// The square that the open question speaks of; 0: none.
     void SetSpokenOf(int square);
@@ -59,6 +61,8 @@ public:
     /// A point of the widget in board units, and back.
     QPoint UnitsAt(QPointF point) const;
     QPointF PointAt(QPointF units) const;
+    /// The square in the widget.
+    QRect SquareRect(int square) const;
 
     // ---- by ear ----
     std::vector<int> PartsOf(int part) const override;
@@ -96,7 +100,6 @@ private:
     /// The offered square after the cursor's, or before it; 0: there is none.
     int NextOffered(bool next) const;
     void AnswerAt(int square);
-    QRect SquareRect(int square) const;
     QString TipAt(QPoint point) const;
 
     const GameState* state_;

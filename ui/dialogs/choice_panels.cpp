@@ -85,7 +85,7 @@ NumberPanel::NumberPanel(QWidget* parent, const GameState& state, AmNumfrm& form
 }
 
 void NumberPanel::Reread() {
-    SetTitle(TitleOf(form_.Caption, "How many?"));
+    SetTitle(TitleOf(form_.Caption, "How many?"), false);
     question_->setText(ToQt(form_.Text));
     for (int k = 0; k <= 7; ++k) {
         QPushButton* option = options_[static_cast<std::size_t>(k)];
@@ -143,7 +143,7 @@ void AmoebaPanel::Redress() {
 }
 
 void AmoebaPanel::Reread() {
-    SetTitle(TitleOf(form_.Caption, "Which amoeba?"));
+    SetTitle(TitleOf(form_.Caption, "Which amoeba?"), false);
     question_->setText(ToQt(form_.Text));
     for (int k = 0; k <= 7; ++k) {
         QPushButton* option = options_[static_cast<std::size_t>(k)];
@@ -180,6 +180,7 @@ BoxPanel::BoxPanel(QWidget* parent, const GameState& state, BoxQuestion& box)
 }
 
 void BoxPanel::Reread() {
+    SetTitle(QStringLiteral("Plasmos"), false);
     text_->setText(ToQt(box_.Text));
     SayClosing(QStringLiteral("like OK"));
 }

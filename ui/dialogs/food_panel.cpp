@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QRegularExpressionValidator>
+#include <utility>
 
 #include "model/game_state.h"
 #include "ui/dialogs/choice_panels.h"
@@ -126,8 +127,15 @@ void FoodPanel::MakeAlternatives() {
     line->addStretch(1);
     line->addWidget(hosts_);
     Body()->addLayout(line);
-    connect(paropt_, &QRadioButton::clicked, this, [this] { Handle([this] { form_.paropt_Click(); }); });
-    connect(sfsopt_, &QRadioButton::clicked, this, [this] { Handle([this] { form_.sfsopt_Click(); }); });
+    // Who plays by ear toggles, and clicks nothing.
+    for (const auto& [option, click] :
+         {std::pair{paropt_, &FoodForm::paropt_Click}, std::pair{sfsopt_, &FoodForm::sfsopt_Click}}) {
+        connect(option, &QRadioButton::toggled, this, [this, handler = click] {
+            if (!rereading_) {
+                Handle([this, handler] { (form_.*handler)(); });
+            }
+        });
+    }
 }
 
 void FoodPanel::MakeRow(int field) {

@@ -103,7 +103,11 @@ void GenePanel::MakeBox(int gene) {
     for (QWidget* part : std::initializer_list<QWidget*>{line.Box, line.Cost}) {
         part->installEventFilter(this);
     }
-    connect(line.Box, &QCheckBox::clicked, this, [this, gene] { Handle([this, gene] { form_.gcheck_Click(gene); }); });
+    connect(line.Box, &QCheckBox::toggled, this, [this, gene] {
+        if (!rereading_) {
+            Handle([this, gene] { form_.gcheck_Click(gene); });
+        }
+    });
 }
 
 // Who adapts has only its own genes before it.

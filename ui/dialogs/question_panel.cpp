@@ -51,6 +51,7 @@ void RefuseRepeats(QWidget* control) {
 
 QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Question& question, const QString& title)
     : Card(parent),
+      HeardPlace(QAccessible::Dialog),
       state_(state),
       question_(question),
       clan_(question.Clan),
@@ -80,7 +81,6 @@ QuestionPanel::QuestionPanel(QWidget* parent, const GameState& state, const Ques
     hint_->setText(ToQt(question.Hint));
     hint_->setVisible(!question.Hint.empty());
     WearTone(*hint_, Tone::Faint);
-    setAccessibleDescription(Spoken());
     connect(close_, &QPushButton::clicked, this, [this] { CloseAsked(); });
     SetEdge(clan_ > 0 ? clan_ : -1);
 }
@@ -136,9 +136,11 @@ void QuestionPanel::Handle(const std::function<void()>& handler) {
     }
 }
 
-void QuestionPanel::SetTitle(const QString& title) {
+void QuestionPanel::SetTitle(const QString& title, bool asks) {
     title_->setText(title);
-    setAccessibleName(title);
+    const bool said = !asks && !question_.Text.empty();
+    setAccessibleName(said ? ToQt(question_.Text) : title);
+    setAccessibleDescription(said ? ToQt(question_.Hint) : Spoken());
 }
 
 QString QuestionPanel::Spoken() const {

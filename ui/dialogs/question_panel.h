@@ -10,6 +10,7 @@
 
 #include "questions/question.h"
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
@@ -21,7 +22,7 @@ struct GameState;
 /// the person's input to the question's handlers, and reads the question again.
 ///
 /// Its body scrolls where room is short; the foot with what answers stays in sight.
-class QuestionPanel : public Card {
+class QuestionPanel : public Card, public HeardPlace {
 public:
     QuestionPanel(QWidget* parent, const GameState& state, const Question& question, const QString& title);
 
@@ -68,7 +69,8 @@ protected:
     QPushButton* MakeButton(const QString& name, const QString& caption, bool main);
     /// The tab key goes through the controls in this order.
     static void OrderTabs(const std::vector<QWidget*>& controls);
-    void SetTitle(const QString& title);
+    /// A listener is told the title, or the question itself where the title does not ask.
+    void SetTitle(const QString& title, bool asks = true);
     /// A quiet line with what the answers cost and bring, for the body, below the question's own words; hidden where
     /// the question has none.
     QWidget* Hint() { return hint_; }

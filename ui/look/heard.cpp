@@ -169,16 +169,30 @@ void PartHeard::doAction(const QString& action) {
 }
 
 QAccessibleInterface* Make(const QString&, QObject* object) {
-    auto* picture = dynamic_cast<HeardPicture*>(object);
     auto* widget = qobject_cast<QWidget*>(object);
-    return picture != nullptr && widget != nullptr ? new PictureHeard(widget, *picture) : nullptr;
+    if (widget == nullptr) {
+        return nullptr;
+    }
+    if (auto* picture = dynamic_cast<HeardPicture*>(object)) {
+        return new PictureHeard(widget, *picture);
+    }
+    const auto* place = dynamic_cast<HeardPlace*>(object);
+    return place != nullptr ? new QAccessibleWidget(widget, place->HeardRole) : nullptr;
+}
+
+void TakeCharge() {
+    QAccessible::removeFactory(Make);
+    QAccessible::installFactory(Make);
 }
 
 }  // namespace
 
 HeardPicture::HeardPicture() {
-    QAccessible::removeFactory(Make);
-    QAccessible::installFactory(Make);
+    TakeCharge();
+}
+
+HeardPlace::HeardPlace(QAccessible::Role role) : HeardRole(role) {
+    TakeCharge();
 }
 
 void TellFocus(QWidget& picture) {

@@ -42,6 +42,18 @@ public:
     virtual void PressPart(int /*part*/) {}
 };
 
+/// A part of the window that a listener comes into and is told of: a dialog, a group. Who does not say so is heard as
+/// nothing but a gap between its neighbours.
+class HeardPlace {
+public:
+    explicit HeardPlace(QAccessible::Role role);
+    virtual ~HeardPlace() = default;
+    HeardPlace(const HeardPlace&) = delete;
+    HeardPlace& operator=(const HeardPlace&) = delete;
+
+    const QAccessible::Role HeardRole;
+};
+
 /// The keyboard has gone to another part, which is told.
 void TellFocus(QWidget& picture);
 /// Something new stands in a widget, and is told at once.

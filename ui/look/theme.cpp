@@ -38,6 +38,7 @@ constexpr ToneRow Tones[] = {
     {Tone::HighlightPressed, {0xFFEFEBDF, 0xFF3A454B, 0xFF00404C}, "HighlightPressed"},
     {Tone::Focus, {0xFFC27400, 0xFFFFB92E, 0xFFFFFF00}, "Focus"},
     {Tone::Alarm, {0xFFC8231E, 0xFFFF8C84, 0xFFFFA0A0}, "Alarm"},
+    {Tone::Guide, {0xFF8A1FB8, 0xFFE3A0FF, 0xFFFF8CFF}, "Guide"},
     {Tone::Field, {0xFFFFFFFF, 0xFF1F2528, 0xFF000000}, "Field"},
     {Tone::FieldEdge, {0xFF8E8878, 0xFF748189, 0xFFFFFFFF}, "FieldEdge"},
     {Tone::FieldDisabled, {0xFFEFEDE6, 0xFF2A3236, 0xFF000000}, "FieldDisabled"},

@@ -27,6 +27,7 @@ enum class Tone {
     HighlightPressed,
     Focus,  ///< where the keyboard is
     Alarm,
+    Guide,  ///< what somebody who explains points at
     Field,  ///< where something can be typed, and lists
     FieldEdge,
     FieldDisabled,

@@ -97,7 +97,7 @@ ClanPanel::Columns ClanPanel::ColumnsOf() const {
 void ClanPanel::ShowBP(int clan) {
     QLabel* label = bplab[static_cast<std::size_t>(clan - 1)];
     label->setText(QString::number(state_->BP[clan]));
-    label->setAccessibleName(label->text() + QStringLiteral(" BP"));
+    label->setAccessibleName(QStringLiteral("%1: %2 BP").arg(ToQt(state_->Players[clan].Name.View()), label->text()));
     update();
 }
 
@@ -109,7 +109,8 @@ void ClanPanel::ShowOrder() {
         const int clan = ClanAtPlace(*state_, place);
         QLabel* label = orderlab[static_cast<std::size_t>(place - 1)];
         label->setText(QString::number(state_->Players[clan].Score));
-        label->setAccessibleName(QStringLiteral("score ") + label->text());
+        label->setAccessibleName(
+            QStringLiteral("%1: score %2").arg(ToQt(state_->Players[clan].Name.View()), label->text()));
         label->setToolTip(
             QStringLiteral("Score %1, place %2 in the order of play").arg(state_->Players[clan].Score).arg(place));
         QPalette palette = label->palette();

@@ -69,11 +69,13 @@ void DrawDriftArrow(QPainter& painter, int drift, QPointF centre, double radius)
 
 EnvironmentView::EnvironmentView(QWidget* parent, const GameState& state)
     : Card(parent),
+      HeardPlace(QAccessible::Grouping),
       turnlab(MakeLabel(this, QStringLiteral("turnlab"), 19, true, Tone::Ink)),
       driftlab(MakeFitLabel(this, QStringLiteral("driftlab"), 14)),
       UVlab(MakeFitLabel(this, QStringLiteral("UVlab"), 20)),
       state_(&state),
       clock_(*this) {
+    setAccessibleName(QStringLiteral("Turn, drift and UV level"));
     Clear();
     driftlab->setToolTip(QStringLiteral("The current carries every amoeba this way"));
     UVlab->setToolTip(QStringLiteral("Ultraviolet light: clans with more mutation must adapt"));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 #include "ui/look/motion_clock.h"
 
 namespace plasmos {
@@ -12,7 +13,7 @@ namespace plasmos {
 struct GameState;
 
 /// Turn, drift and UV level of the state it is given, the last against every clan's mutation level.
-class EnvironmentView : public Card {
+class EnvironmentView : public Card, public HeardPlace {
 public:
     EnvironmentView(QWidget* parent, const GameState& state);
 

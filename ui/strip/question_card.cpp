@@ -39,6 +39,7 @@ QLabel* MakePill(QWidget* parent, const char* name, const char* text) {
 
 QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     : Card(parent),
+      HeardPlace(QAccessible::Grouping),
       playerlab(new PillLabel(this)),
       msglab(new SpeechLabel(this, 15, 10)),
       autoeatlab(MakePill(this, "autoeatlab", "auto-eating")),
@@ -66,6 +67,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     (new ArrowKeys(this))->Take();
     AskYesNo(false);
     ShowClan(0);
+    ShowAsked(false);
     Recolour();
 }
 
@@ -83,6 +85,8 @@ void QuestionCard::ShowMessage(const QString& text, int clan) {
 void QuestionCard::ShowAsked(bool asked) {
     if (asked) {
         askedText_ = msglab->text();
+    } else {
+        setAccessibleName(QStringLiteral("The message line"));
     }
     SetAnswered(!asked && (answered_ || (asked_ && msglab->text() == askedText_)));
     asked_ = asked;

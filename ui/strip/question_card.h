@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
@@ -17,7 +18,7 @@ struct GameState;
 /// The message line in the colours of the clan it speaks to and under its sign, with the current clan's name and the
 /// buttons Yes and No, which answer only while they are asked for. Where another clan acts than the message is about,
 /// both are named, each in its own colours.
-class QuestionCard : public Card {
+class QuestionCard : public Card, public HeardPlace {
 public:
     QuestionCard(QWidget* parent, const GameState& state);
 

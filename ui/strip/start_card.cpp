@@ -18,6 +18,7 @@ constexpr int Foot = 62;
 constexpr int BelowTitle = 46;
 constexpr int BelowBlobs = 92;
 constexpr int WelcomeHeight = 214;
+constexpr int RowHeight = 58;  ///< of the buttons, where they take two rows
 const char* const Welcome =
     "Your amoebas share this puddle with hungry neighbours. Drift or swim, eat what the others leave, keep your "
     "mutation below the UV level, buy genes, divide and conquer. Ten turns; the highest score wins.";
@@ -26,7 +27,9 @@ const char* const Welcome =
 
 StartCard::StartCard(QWidget* parent, const GameState& state)
     : Card(parent),
+      HeardPlace(QAccessible::Grouping),
       gob(new QPushButton(QStringLiteral("Go"), this)),
+      guideb(new QPushButton(QStringLiteral("Show me how"), this)),
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
       txtReplay(new QLineEdit(this)),
       state_(state),
@@ -36,17 +39,27 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     gob->setObjectName(QStringLiteral("gob"));
     gob->setProperty("main", true);
     gob->setDefault(true);
+    guideb->setObjectName(QStringLiteral("guideb"));
+    guideb->setToolTip(QStringLiteral("A short first game with somebody who explains"));
+    guideb->hide();
     watchb->setObjectName(QStringLiteral("watchb"));
     watchb->setToolTip(QStringLiteral("Six clans at most, all of them the computer's"));
     txtReplay->setObjectName(QStringLiteral("txtReplay"));
     txtReplay->setPlaceholderText(QStringLiteral("by the clock"));
     txtReplay->setToolTip(QStringLiteral("The same replay number deals the same game"));
     replayLabel_->setText(QStringLiteral("Replay number"));
+    txtReplay->setAccessibleName(replayLabel_->text());
     ShowWelcome();
 }
 
 void StartCard::ShowWelcome() {
     Show(QStringLiteral("Welcome to the Puddle"), QString::fromLatin1(Welcome), 0);
+}
+
+void StartCard::OfferGuide(bool on) {
+    offersGuide_ = on;
+    guideb->setVisible(on && winner_ == 0);
+    StartCard::Redress();
 }
 
 void StartCard::ShowResult(const QString& line, const QString& story, const QString& places, int clan) {
@@ -59,7 +72,9 @@ void StartCard::Show(const QString& title, const QString& text, int clan) {
     winner_ = clan;
     title_->setText(title);
     text_->SetText(text);
-    StartCard::Redress();
+    setAccessibleName(title);
+    setAccessibleDescription(text);
+    OfferGuide(offersGuide_);
     update();
 }
 
@@ -69,7 +84,7 @@ int StartCard::ResultHeight(int width, const QString& text) const {
 
 int StartCard::HeightFor(int width, int room) const {
     if (winner_ == 0) {
-        return Px(WelcomeHeight);
+        return Px(WelcomeHeight) + (guideb->isVisibleTo(this) ? Px(RowHeight) : 0);
     }
     const int whole = ResultHeight(width, places_ + story_);
     return whole <= room ? whole : std::min(ResultHeight(width, story_), room);
@@ -84,13 +99,20 @@ void StartCard::Redress() {
     }
     const int below = winner_ > 0 ? BelowTitle : BelowBlobs;
     title_->setGeometry(InPixels({Pad, 12, inner, 30}));
-    text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot}));
-    const double top = high - 50;
+    const double rows = guideb->isVisibleTo(this) ? RowHeight : 0;
+    text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot - rows}));
+    ArrangeButtons(wide, high - 50, rows);
+}
+
+// The guided game has Go beside it, and the rest a row of its own.
+void StartCard::ArrangeButtons(double wide, double top, double rows) {
     const double go = wide < Roomy ? 66 : 84;
     const double watch = std::max(watchb->sizeHint().width() / Letters(), wide < Roomy ? 116.0 : 136.0);
-    gob->setGeometry(InPixels({Pad, top, go, 36}));
-    watchb->setGeometry(InPixels({Pad + go + 8, top, watch, 36}));
-    const double left = Pad + go + 8 + watch + 10;
+    gob->setGeometry(InPixels({Pad, top - rows, go, 36}));
+    guideb->setGeometry(InPixels({Pad + go + 8, top - rows, watch, 36}));
+    const double before = rows > 0 ? Pad : Pad + go + 8;
+    watchb->setGeometry(InPixels({before, top, watch, 36}));
+    const double left = before + watch + 10;
     replayLabel_->setGeometry(InPixels({left, top - 16, wide - Pad - left, 16}));
     txtReplay->setGeometry(InPixels({left, top + 3, wide - Pad - left, 30}));
 }

@@ -5,22 +5,27 @@
 #include <QPushButton>
 
 #include "ui/look/card.h"
+#include "ui/look/heard.h"
 
 namespace plasmos {
 
 struct GameState;
 
-/// What greets the person between two games: Go, the replay number, and a game to watch.
-class StartCard : public Card {
+/// What greets the person between two games: Go, the replay number, a game to watch, and for whoever has not begun one
+/// yet the guided game.
+class StartCard : public Card, public HeardPlace {
 public:
     StartCard(QWidget* parent, const GameState& state);
 
     QPushButton* gob;
+    QPushButton* guideb;
     QPushButton* watchb;
     QLineEdit* txtReplay;
 
     /// Greets the person who has not played yet.
     void ShowWelcome();
+    /// The guided game stands beside Go in the welcome, or in the menu alone.
+    void OfferGuide(bool on);
     /// A line about the game that is over, how it came out, everybody's places, and the clan that has won.
     void ShowResult(const QString& line, const QString& story, const QString& places, int clan);
     int HeightFor(int width, int room) const;
@@ -32,6 +37,7 @@ protected:
 
 private:
     void Show(const QString& title, const QString& text, int clan);
+    void ArrangeButtons(double wide, double top, double rows);
     int ResultHeight(int width, const QString& text) const;
 
     static constexpr int Roomy = 420;
@@ -43,6 +49,7 @@ private:
     QString story_;
     QString places_;
     int winner_ = 0;
+    bool offersGuide_ = false;
 };
 
 }  // namespace plasmos

@@ -122,10 +122,13 @@ void BoardMenus::Turn(const Switch& turned) {
     }
 }
 
-void BoardMenus::Enable(bool playing, bool free) {
+void BoardMenus::Enable(bool playing, bool free, bool guided) {
     playing_ = playing;
     watchmen_->setEnabled(free);
     leavemen_->setEnabled(playing);
+    for (QAction* item : {easymen_, normmen_, victorymen_}) {
+        item->setEnabled(!guided);
+    }
     twoplayermen_->setEnabled(!playing);
     pref_men_->setEnabled(free && HasUpDownControls());
 }

@@ -30,7 +30,8 @@ public:
     BoardMenus(QMainWindow& window, PuddleView& puddle, Deeds deeds);
 
     /// What can be chosen while a game is played or not, and while nothing else keeps a game from beginning.
-    void Enable(bool playing, bool free);
+    /// In a guided game the rules stay as they are.
+    void Enable(bool playing, bool free, bool guided);
     /// The marks of what a person has made automatic; whether the tentacle can be.
     void ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle);
     /// Nothing automatic can be switched on until the next game.

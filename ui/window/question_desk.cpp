@@ -109,7 +109,11 @@ Question* QuestionDesk::TopQuestion() const {
 void QuestionDesk::Open(Question& question) {
     auto panel = MakePanel(strip_, game, question);
     if (panel) {
-        panel->OnHandled = [this] { ShowSafety(), wait_.Wake(); };
+        panel->OnHandled = [this] {
+            ShowSafety();
+            wait_.Wake();
+            TellTop();
+        };
     }
     asked_.push_back({&question, std::move(panel)});
     ActivateTop(Qt::TabFocusReason);
@@ -123,6 +127,7 @@ void QuestionDesk::Refresh(Question& question) {
     }
     ShowAsked();
     strip_->Arrange();
+    TellTop();
     if (TopQuestion() == &question) {
         AnnounceTop();
     }
@@ -156,6 +161,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     Question* top = TopQuestion();
     const auto* square = As<SquareQuestion>(top);
     strip_->Question->ShowHint(square != nullptr ? QStringLiteral("Click one of the glowing squares.") : QString());
+    track_->Puddle()->SetAsked(square != nullptr ? ToQt(square->Text).trimmed() : QString());
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
     const auto* yesNo = As<YesNoQuestion>(top);
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
@@ -170,6 +176,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
         asked_.back().Panel->FirstControl()->setFocus(reason);
     }
     Speak();
+    TellTop();
     AnnounceTop();
 }
 
@@ -177,6 +184,12 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
 void QuestionDesk::ShowSafety() {
     if (const auto* genes = As<GeneForm>(TopQuestion()); genes != nullptr) {
         strip_->Clans->ShowSafe(genes->Adapts && genes->UVdiff <= 0 ? genes->Clan : 0);
+    }
+}
+
+void QuestionDesk::TellTop() {
+    if (OnTop) {
+        OnTop(TopQuestion());
     }
 }
 
@@ -193,7 +206,7 @@ void QuestionDesk::Speak() {
     QWidget* part = asked_.back().Panel.get();
     if (part == nullptr) {
         part = strip_->Question;
-        part->setAccessibleName(ToQt(TopQuestion()->Text));
+        part->setAccessibleName(ToQt(TopQuestion()->Text).trimmed());
     }
     QAccessibleEvent event(part, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);

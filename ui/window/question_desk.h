@@ -27,6 +27,8 @@ public:
 
     /// Called, from the event loop, when a question has opened or is the topmost again and may be answered.
     std::function<void(Question&)> OnQuestion;
+    /// Called whenever another question is on top, or none (nullptr), or the topmost shows something else.
+    std::function<void(const Question*)> OnTop;
     /// The question that may be answered now; none: nullptr.
     Question* TopQuestion() const;
 
@@ -74,6 +76,7 @@ private:
     /// Who listens is told of the topmost question.
     void Speak();
     void AnnounceTop();
+    void TellTop();
     void Answer(void (*handler)());
     void AnswerSquare(int x, int y);
     void WarnOfSquare(const SquareQuestion& question, int square);

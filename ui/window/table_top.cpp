@@ -7,6 +7,7 @@
 #include "ui/board/score_track.h"
 #include "ui/look/dress.h"
 #include "ui/strip/side_strip.h"
+#include "ui/window/guide_bar.h"
 
 namespace plasmos {
 
@@ -17,7 +18,15 @@ constexpr int Margin = 10;
 }  // namespace
 
 TableTop::TableTop(QWidget* parent, const GameState& state)
-    : QWidget(parent), Track(new ScoreTrack(this, state)), Strip(new SideStrip(this, state)) {}
+    : QWidget(parent),
+      Track(new ScoreTrack(this, state)),
+      Strip(new SideStrip(this, state)),
+      Guide(new GuideBar(this)) {}
+
+void TableTop::ShowGuide(bool on) {
+    Guide->setVisible(on);
+    Arrange();
+}
 
 void TableTop::resizeEvent(QResizeEvent*) {
     Arrange();
@@ -33,7 +42,12 @@ void TableTop::changeEvent(QEvent* event) {
 // Half of the window is the puddle's, however large the letters are.
 void TableTop::Arrange() {
     const int side = std::min(std::clamp(width() * 36 / 100, Px(380), Px(490)), std::max(width() / 2, 380));
-    const QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    QRect inner = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    if (Guide->isVisibleTo(this)) {
+        const int guide = GuideBar::Height();
+        Guide->setGeometry(inner.left(), inner.bottom() + 1 - guide, inner.width(), guide);
+        inner.setBottom(inner.bottom() - guide - Margin);
+    }
     Strip->setGeometry(inner.right() - side + 1, inner.top(), side, inner.height());
     Track->setGeometry(inner.left(), inner.top(), inner.width() - side - Margin, inner.height());
 }

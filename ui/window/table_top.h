@@ -5,17 +5,23 @@
 
 namespace plasmos {
 
+class GuideBar;
 class ScoreTrack;
 class SideStrip;
 struct GameState;
 
-/// Board and strip side by side; the strip takes what is left of a comfortable share.
+/// Board and strip side by side, below them the note of the guided game; the strip takes what is left of a comfortable
+/// share.
 class TableTop : public QWidget {
 public:
     TableTop(QWidget* parent, const GameState& state);
 
     ScoreTrack* Track;
     SideStrip* Strip;
+    GuideBar* Guide;
+
+    /// Makes room for the guided game's note below both, or takes it back.
+    void ShowGuide(bool on);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -3,12 +3,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMessageBox>
 #include <QThread>
 #include <utility>
 
-#include "files/game_files.h"
 #include "files/runtime_error.h"
+#include "files/settings_store.h"
 #include "flow/play_game.h"
 #include "flow/start.h"
 #include "model/game_state.h"
@@ -19,8 +18,8 @@
 #include "ui/board/ttip.h"
 #include "ui/dialogs/question_panel.h"
 #include "ui/look/dress.h"
+#include "ui/look/notice.h"
 #include "ui/look/palette.h"
-#include "ui/options/options_dialog.h"
 #include "ui/strip/clan_panel.h"
 #include "ui/strip/environment_view.h"
 #include "ui/strip/log_view.h"
@@ -28,9 +27,12 @@
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
 #include "ui/window/board_menus.h"
+#include "ui/window/guide_bar.h"
+#include "ui/window/guide_desk.h"
 #include "ui/window/leave_guard.h"
 #include "ui/window/legend.h"
 #include "ui/window/lent_labels.h"
+#include "ui/window/preferences_desk.h"
 #include "ui/window/question_desk.h"
 #include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
@@ -61,21 +63,19 @@ UBoard::UBoard(const PresentationMaker& make) {
     menus_ = std::make_unique<BoardMenus>(
         *this, *track_->Puddle(),
         BoardMenus::Deeds{[this] { watch_Click(); }, [this] { LeaveGame(); }, [this] { desk_->Wake(); },
-                          [this] { pref_men_Click(); }, [this] { results_->Clear(), strip_->Arrange(); },
-                          [this](const QString& text) { Tell(text); }});
-    desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
-    desk_->OnQuestion = [this](Question& question) {
-        tips_->Hush();
-        if (OnQuestion) {
-            OnQuestion(question);
-        }
-    };
+                          [this] {
+                              if (!playing_)
+                                  preferences_->Open();
+                          },
+                          [this] { results_->Clear(), strip_->Arrange(); },
+                          [this](const QString& text) { ShowNotice(*this, text); }});
+    BuildDesks(*table);
     lent_ = new LentLabels(this, *strip_->Environment);
     tips_ = new ToolTips(track_->Puddle());
     place_ = std::make_unique<WindowPlace>(*this);
     guard_ = std::make_unique<LeaveGuard>(*this);
     BuildView();
-    results_ = std::make_unique<ResultDesk>(*strip_->Start, [this](const QString& text) { Tell(text); });
+    results_ = std::make_unique<ResultDesk>(*strip_->Start, [this](const QString& text) { ShowNotice(*this, text); });
     BuildStart();
     presentation_ = make({*this, *track_, *strip_, *menus_, *desk_});
     services.Window = presentation_.get();
@@ -90,27 +90,69 @@ UBoard::~UBoard() {
     }
 }
 
+void UBoard::BuildDesks(TableTop& table) {
+    desk_ = std::make_unique<QuestionDesk>(*this, *track_, *strip_);
+    desk_->OnQuestion = [this](Question& question) {
+        tips_->Hush();
+        if (OnQuestion) {
+            OnQuestion(question);
+        }
+    };
+    preferences_ = std::make_unique<PreferencesDesk>(*this, [this](bool otherBoard) {
+        EnableStart();
+        if (otherBoard) {
+            ClearBoard();
+        }
+    });
+    guide_ = std::make_unique<GuideDesk>(table);
+    desk_->OnTop = [this](const Question* top) { guide_->Show(top); };
+    connect(table.Guide->endguideb, &QPushButton::clicked, this, [this] { LeaveGame(); });
+    RefuseRepeats(table.Guide->endguideb);
+}
+
 void UBoard::BuildView() {
     view_ = std::make_unique<ViewMenus>(
         *this, ViewMenus::Deeds{[this](Pace pace) { desk_->SetPace(static_cast<int>(pace)); },
                                 [this](bool on) { desk_->Hold(on); }, [this] { desk_->Step(); },
-                                [this](bool on) { desk_->SetMotion(on); }, [this] { ShowSigns(*this); },
-                                [this] { ShowKeys(*this); }, [this](const QString& text) { Tell(text); }});
+                                [this](bool on) { desk_->SetMotion(on); }, [this] { guide_Click(); },
+                                [this] { ShowSigns(*this); }, [this] { ShowKeys(*this); },
+                                [this](const QString& text) { ShowNotice(*this, text); }});
     view_->Load();
 }
 
 void UBoard::BuildStart() {
     connect(strip_->Start->gob, &QPushButton::clicked, this, [this] { gob_Click(); });
+    connect(strip_->Start->guideb, &QPushButton::clicked, this, [this] { guide_Click(); });
     connect(strip_->Start->watchb, &QPushButton::clicked, this, [this] { watch_Click(); });
     connect(strip_->Start->txtReplay, &QLineEdit::returnPressed, this, [this] { gob_Click(); });
-    for (QPushButton* button : {strip_->Start->gob, strip_->Start->watchb}) {
+    for (QPushButton* button : {strip_->Start->gob, strip_->Start->guideb, strip_->Start->watchb}) {
         RefuseRepeats(button);
         button->setAutoDefault(true);
     }
+    strip_->Start->OfferGuide(services.Settings == nullptr || services.Settings->Get("play", "begun", "0") != "1");
 }
 
 void UBoard::gob_Click() {
+    NoteBegun();
     Play(PlayGame);
+}
+
+void UBoard::guide_Click() {
+    NoteBegun();
+    guided_ = true;
+    Play([this] { guide_->Play([this] { ClearBoard(); }, PlayGame); });
+    guided_ = false;
+    if (game.NumPlayers == 0) {
+        ClearBoard();
+    }
+}
+
+// Whoever has begun a game finds the guided one under Help; a setting that cannot be saved only offers it again.
+void UBoard::NoteBegun() {
+    if (services.Settings != nullptr) {
+        services.Settings->Save("play", "begun", "1");
+    }
+    strip_->Start->OfferGuide(false);
 }
 
 void UBoard::watch_Click() {
@@ -119,7 +161,7 @@ void UBoard::watch_Click() {
 
 // The rules run in here. What they throw stays in here too: nothing may pass through Qt.
 void UBoard::Play(const std::function<void()>& play) {
-    if (playing_ || options_ != nullptr || desk_->Ended()) {
+    if (playing_ || preferences_->IsOpen() || desk_->Ended()) {
         return;
     }
     SetPlaying(true);
@@ -129,7 +171,7 @@ void UBoard::Play(const std::function<void()>& play) {
     } catch (const ProgramEnd& end) {
         exitCode = end.ExitCode;
     } catch (const std::exception& error) {
-        Tell(QStringLiteral("This game cannot go on.\n%1").arg(QString::fromUtf8(error.what())));
+        ShowNotice(*this, QStringLiteral("This game cannot go on.\n%1").arg(QString::fromUtf8(error.what())));
     } catch (const GameLeft&) {
         // Left before the driver could hear of it: the window is as after any game.
     }
@@ -159,7 +201,7 @@ void UBoard::SetPlaying(bool playing) {
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        results_->Show(played);
+        results_->Show(played && !guided_);
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
@@ -187,49 +229,24 @@ void UBoard::ClearBoard() {
     strip_->Arrange();
 }
 
-void UBoard::Tell(const QString& text) {
-    auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Plasmos"), text, QMessageBox::Ok, this);
-    box->setTextFormat(Qt::PlainText);
-    Dress(*box);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setModal(false);
-    box->show();
-}
-
 void UBoard::EnableStart() {
-    const bool free = !playing_ && options_ == nullptr;
+    const bool free = !playing_ && !preferences_->IsOpen();
     strip_->Start->gob->setVisible(!playing_);
     strip_->Start->gob->setEnabled(free);
+    strip_->Start->guideb->setEnabled(free);
     strip_->Start->watchb->setEnabled(free);
     strip_->Start->txtReplay->setEnabled(free);
-    menus_->Enable(playing_, free);
+    menus_->Enable(playing_, free, playing_ && guided_);
+    view_->SetFree(free);
 }
 
-void UBoard::pref_men_Click() {
-    if (playing_ || options_ != nullptr || services.Settings == nullptr || services.Files == nullptr) {
-        return;
-    }
-    options_ = new OptionsDialog(this, *services.Settings, *services.Files);
-    options_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(options_, &QDialog::finished, this, [this, dialog = options_.data()] { OptionsClosed(dialog->SaveTried); });
-    EnableStart();
-    options_->open();
-}
-
-void UBoard::OptionsClosed(bool saveTried) {
-    options_ = nullptr;
-    EnableStart();
-    if (saveTried || (services.Files != nullptr && services.Files->Exists(OptionsFile))) {
-        const GameSetup before = game;
-        LoadBoard();
-        if (before.NumRows != game.NumRows || before.NumCols != game.NumCols || before.Blocked != game.Blocked) {
-            ClearBoard();
-        }
-    }
+// The guided game deals the same cards again.
+bool UBoard::AsksBeforeLeaving() const {
+    return !guided_ && LeaveGuard::IsNeeded();
 }
 
 void UBoard::LeaveGame() {
-    if (playing_ && !LeaveGuard::IsNeeded()) {
+    if (playing_ && !AsksBeforeLeaving()) {
         desk_->LeaveGame();
     } else if (playing_) {
         guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
@@ -267,7 +284,7 @@ void UBoard::CloseAtOnce() {
 }
 
 void UBoard::closeEvent(QCloseEvent* event) {
-    if (!sure_ && playing_ && !desk_->Ended() && LeaveGuard::IsNeeded()) {
+    if (!sure_ && playing_ && !desk_->Ended() && AsksBeforeLeaving()) {
         event->ignore();
         guard_->Ask(QStringLiteral("Close the window in the middle of this game? It cannot be taken up again."),
                     QStringLiteral("&Close"), [this] { CloseAtOnce(); });

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
 #include <functional>
 #include <memory>
 
@@ -10,11 +9,13 @@
 
 namespace plasmos {
 
+class GuideDesk;
 class LeaveGuard;
 class LentLabels;
-class OptionsDialog;
+class PreferencesDesk;
 class ResultDesk;
 class ToolTips;
+class TableTop;
 class ViewMenus;
 class WindowPlace;
 
@@ -36,6 +37,8 @@ public:
     void gob_Click();
     /// Plays one game of computer clans only.
     void watch_Click();
+    /// Plays the guided game.
+    void guide_Click();
     bool Playing() const { return playing_; }
     /// Runs a game, or a part of one, the way the start buttons do.
     void Play(const std::function<void()>& play);
@@ -63,31 +66,32 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void BuildDesks(TableTop& table);
     void BuildStart();
     void SetPlaying(bool playing);
     void EnableStart();
     void ClearBoard();
+    void NoteBegun();
+    bool AsksBeforeLeaving() const;
     void BuildView();
     void LeaveGame();
-    void Tell(const QString& text);
-    void pref_men_Click();
-    /// Takes the saved board; a save that was tried may have reached the settings and not the file.
-    void OptionsClosed(bool saveTried);
 
     ScoreTrack* track_ = nullptr;
     SideStrip* strip_ = nullptr;
     LentLabels* lent_ = nullptr;
     ToolTips* tips_ = nullptr;
-    QPointer<OptionsDialog> options_;
     std::unique_ptr<WindowPlace> place_;
     std::unique_ptr<BoardMenus> menus_;
     std::unique_ptr<QuestionDesk> desk_;
+    std::unique_ptr<PreferencesDesk> preferences_;
     std::unique_ptr<ResultDesk> results_;
     std::unique_ptr<ViewMenus> view_;
     std::unique_ptr<LeaveGuard> guard_;
+    std::unique_ptr<GuideDesk> guide_;
     std::unique_ptr<BoardPresentation> presentation_;
     bool playing_ = false;
-    bool sure_ = false;  ///< the window closes without asking
+    bool guided_ = false;  ///< the game that is played is the guided one
+    bool sure_ = false;    ///< the window closes without asking
 };
 
 }  // namespace plasmos

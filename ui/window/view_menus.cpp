@@ -121,6 +121,8 @@ void ViewMenus::BuildPace(QMenu* view) {
 void ViewMenus::BuildHelp() {
     QMenu* help = window_->menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("help_men"));
+    guidemen_ = AddItem(help, "guidemen", QStringLiteral("Show me &How"), {});
+    connect(guidemen_, &QAction::triggered, this, [this] { deeds_.Guide(); });
     QAction* signs = AddItem(help, "signsmen", QStringLiteral("&Signs on the Board"), QStringLiteral("F2"));
     connect(signs, &QAction::triggered, this, [this] { deeds_.ShowSigns(); });
     QAction* keys = AddItem(help, "keysmen", QStringLiteral("&Keys"), QStringLiteral("F3"));
@@ -146,6 +148,10 @@ void ViewMenus::Load() {
     motionmen_->setChecked(motion);
     deeds_.SetMotion(motion);
     SetPlaying(false);
+}
+
+void ViewMenus::SetFree(bool free) {
+    guidemen_->setEnabled(free);
 }
 
 void ViewMenus::SetPlaying(bool playing) {

@@ -23,6 +23,7 @@ public:
         std::function<void(bool on)> Hold;  ///< nothing goes on until it is let go
         std::function<void()> Step;         ///< what is held goes on to the next pause
         std::function<void(bool on)> SetMotion;
+        std::function<void()> Guide;  ///< plays the guided game
         std::function<void()> ShowSigns;
         std::function<void()> ShowKeys;
         std::function<void(const QString& text)> Tell;  ///< a box for the person
@@ -34,6 +35,8 @@ public:
     void Load();
     /// A game begins or is over: nothing is held any more.
     void SetPlaying(bool playing);
+    /// Whether a game can begin.
+    void SetFree(bool free);
 
 private:
     QAction* AddItem(QMenu* menu, const char* name, const QString& caption, const QString& keys);
@@ -46,6 +49,7 @@ private:
     Deeds deeds_;
     QActionGroup* colours_;
     QActionGroup* pace_;
+    QAction* guidemen_ = nullptr;
     QAction* pausemen_ = nullptr;
     QAction* stepmen_ = nullptr;
     QAction* motionmen_ = nullptr;

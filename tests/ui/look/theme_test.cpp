@@ -34,6 +34,7 @@ constexpr PairRow Texts[] = {
     {"a button under the pointer", Tone::Accent, Tone::Highlight},
     {"a main button", Tone::OnAccent, Tone::Accent},
     {"an alarm", Tone::Alarm, Tone::Card},
+    {"what is recommended", Tone::Guide, Tone::Card},
     {"a gene's chip", Tone::ChipInk, Tone::Chip},
     {"a space of the track", Tone::TrackInk, Tone::Track},
     {"another space of the track", Tone::TrackInk, Tone::TrackOdd},
@@ -50,6 +51,9 @@ constexpr PairRow Shapes[] = {
     {"the acting piece in the light", Tone::PieceEdge, Tone::PieceHalo},
     {"an offered square in the light", Tone::OfferLine, Tone::WaterLight},
     {"an offered square in the deep", Tone::OfferLine, Tone::WaterDeep},
+    {"what is pointed at, on a card", Tone::Guide, Tone::Card},
+    {"what is pointed at, in the light", Tone::Guide, Tone::WaterLight},
+    {"what is pointed at, in the deep", Tone::Guide, Tone::WaterDeep},
     {"a turn that is played", Tone::Accent, Tone::Card},
 };
 

@@ -139,6 +139,9 @@ void ControlsTest::menus() {
                 game.RequestedClans = 3;
                 PLAY(scene, scene.Menu(QStringLiteral("watchmen")));
                 QCOMPARE(game.Turn, LastTurn + 1);
+            } else if (item->objectName() == QStringLiteral("guidemen")) {
+                scene.AnswerBy([&](Question&) { scene.Click(QStringLiteral("endguideb")); });
+                PLAY(scene, scene.Menu(QStringLiteral("guidemen")));
             } else {
                 bool chosen = false;
                 connect(item, &QAction::triggered, &scene.Board(), [&chosen] { chosen = true; });
