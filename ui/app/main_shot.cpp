@@ -195,6 +195,11 @@ std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
     return why == nullptr ? std::optional(wish) : std::nullopt;
 }
 
+bool Save(UBoard& board, const QString& file) {
+    constexpr int small = 0;
+    return board.grab().toImage().convertToFormat(QImage::Format_RGB888).save(file, nullptr, small);
+}
+
 /// A game with a person who answers at once, until the moment of the picture, or to its end.
 int TakeShot(const Wish& wish) {
     UBoard board;
@@ -207,7 +212,7 @@ int TakeShot(const Wish& wish) {
     board.OnQuestion = [&](Question& question) {
         if (!taken && wish.At->Is(question)) {
             taken = true;
-            saved = board.grab().save(wish.File);
+            saved = Save(board, wish.File);
             board.EndProgram();
             return;
         }
@@ -219,7 +224,7 @@ int TakeShot(const Wish& wish) {
     });
     QApplication::exec();
     if (!taken) {
-        saved = board.grab().save(wish.File);
+        saved = Save(board, wish.File);
     }
     if (!saved) {
         std::fprintf(stderr, "plasmos-shot: %s cannot be written\n", qPrintable(wish.File));
@@ -282,7 +287,7 @@ int main(int argc, char** argv) {
     services.Files = &files;
     // cppcheck-suppress danglingLifetime  // nothing of the services is used after main
     services.Settings = &settings;
-    WantScheme(wish->Colours);
+    settings.Save("look", "colours", SchemeName(wish->Colours).toStdString());
     if (wish->Points > 0) {
         QFont letters = QApplication::font();
         letters.setPointSize(wish->Points);

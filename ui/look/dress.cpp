@@ -53,9 +53,14 @@ void Change(QWidget& widget) {
     }
 }
 
-// A new style sheet gives back the palettes of before, so it comes first.
+// A new style sheet gives back the palettes of before, so it comes first; and it does so when a widget is polished,
+// which is not left until the window is shown.
 void ChangeWindow(QWidget& window) {
     window.setStyleSheet(LookSheet());
+    window.ensurePolished();
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        widget->ensurePolished();
+    }
     window.setPalette(LookPalette());
     window.setFont(LookFont(UsualPixels));
     const auto widgets = window.findChildren<QWidget*>();

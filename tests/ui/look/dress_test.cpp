@@ -42,6 +42,8 @@ private slots:
     void desktops();
     void followsTheDesktopWhileItRuns();
     void whatThePersonWantsGoesFirst();
+    void savedColoursAreWornFromTheStart_data();
+    void savedColoursAreWornFromTheStart();
     void whatStandsInTheLogIsReadInOtherColours();
     void scoresKeepTheirClansColours();
     void picturesOfAnOpenDialogFollow();
@@ -103,6 +105,26 @@ void DressTest::whatThePersonWantsGoesFirst() {
     QCOMPARE(CurrentScheme(), Scheme::Contrast);
     WantScheme(std::nullopt);
     QCOMPARE(CurrentScheme(), Scheme::Dark);
+}
+
+void DressTest::savedColoursAreWornFromTheStart_data() {
+    QTest::addColumn<QString>("scheme");
+    QTest::newRow("dark") << QStringLiteral("dark");
+    QTest::newRow("high contrast") << QStringLiteral("contrast");
+}
+
+// The window is coloured twice before it is shown: as the desktop, then as the person wants it.
+void DressTest::savedColoursAreWornFromTheStart() {
+    QFETCH(QString, scheme);
+    QImage chosen;
+    {
+        Scene scene;
+        scene.Menu(QStringLiteral("colour_") + scheme);
+        chosen = scene.Board().grab().toImage();
+    }
+    WantScheme(std::nullopt);
+    Scene scene({{"look", "colours", scheme.toStdString()}});
+    QCOMPARE(scene.Board().grab().toImage(), chosen);
 }
 
 void DressTest::whatStandsInTheLogIsReadInOtherColours() {
