@@ -68,26 +68,39 @@ bool SideStrip::event(QEvent* event) {
 }
 
 // Every arrangement decides it once: what is shown and hidden in turn asks for another arrangement.
-bool SideStrip::ShowsEnvironment() const {
+void SideStrip::MakePlan() {
+    if (playing_) {
+        plan_ = panels_.empty() ? Plan{true, false, 0} : PlanAround(*panels_.back());
+        return;
+    }
+    // After a game the final scores are worth more than the last light.
+    const int scores = Start->HeightFor(width(), height()) + Clans->ShortHeight() + Gap;
     const int environment = Environment->sizeHint().height() + Gap;
-    if (!playing_) {
-        // After a game the final scores are worth more than the last light.
-        const int scores = Start->HeightFor(width(), height()) + Clans->ShortHeight() + Gap;
-        return state_->NumPlayers > 0 && height() >= environment + scores;
+    plan_ = {state_->NumPlayers > 0 && height() >= environment + scores, false, 0};
+}
+
+// The clans stay in sight below a dialog: the levels give way to them, then the message goes into the dialog, which
+// scrolls at most a quarter of itself away. Where that is not enough, the dialog has what there is.
+SideStrip::Plan SideStrip::PlanAround(const QuestionPanel& dialog) const {
+    const int environment = Environment->sizeHint().height() + Gap;
+    const int asked = Question->HeightFor(width(), true) + Gap + dialog.HeightWith(false, width());
+    const int alone = dialog.HeightWith(true, width()) * 3 / 4;
+    const int clans = Gap + Clans->ShortHeight();
+    if (asked + clans <= height()) {
+        return {environment + asked + clans <= height(), false, clans};
     }
-    if (panels_.empty()) {
-        return true;
+    if (alone + clans <= height()) {
+        return {environment + alone + clans <= height(), true, clans};
     }
-    // The levels stay in sight as long as the dialog is of use below them.
-    const QuestionPanel& top = *panels_.back();
-    const int question = Question->HeightFor(width(), true) + Gap;
-    return environment + question + top.HeightWith(false, width()) <= height() ||
-           environment + top.LeastHeight(width()) <= height();
+    if (environment + asked <= height()) {
+        return {true, false, 0};
+    }
+    return {environment + dialog.LeastHeight(width()) <= height(), asked > height(), 0};
 }
 
 int SideStrip::ArrangeHead() {
     const int environment = Environment->sizeHint().height();
-    const bool shown = ShowsEnvironment();
+    const bool shown = plan_.ShowsEnvironment;
     Environment->setGeometry(0, 0, width(), environment);
     Environment->setVisible(shown);
     int top = shown ? environment + Gap : 0;
@@ -112,21 +125,22 @@ int SideStrip::ArrangePanels(int top) {
     bool first = true;
     // NOLINTNEXTLINE(modernize-loop-convert): clang++ 14 cannot compile the views of <ranges>
     for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
-        int wanted = (*panel)->HeightWith(false, width());
-        const bool fits = top + wanted <= height();
-        const bool alone = first && !fits && playing_;
+        const bool alone = first && plan_.Alone;
         if (alone) {
-            top = ShowsEnvironment() ? Environment->height() + Gap : 0;
-            wanted = (*panel)->HeightWith(true, width());
+            top = plan_.ShowsEnvironment ? Environment->height() + Gap : 0;
         }
+        const int wanted = (*panel)->HeightWith(alone, width());
+        const bool fits = top + wanted <= height();
         if (first) {
             Question->setVisible(playing_ && !alone);
         }
         (*panel)->ShowMessage(alone);
         (*panel)->setVisible(first || fits);
         if (first || fits) {
-            (*panel)->setGeometry(0, top, width(), std::min(wanted, std::max(height() - top, Px(60))));
-            top += wanted + Gap;
+            const int room = height() - top - (first ? plan_.Clans : 0);
+            const int high = std::min(wanted, std::max(room, Px(60)));
+            (*panel)->setGeometry(0, top, width(), high);
+            top += high + Gap;
         }
         first = false;
     }
@@ -137,6 +151,7 @@ int SideStrip::ArrangePanels(int top) {
 }
 
 void SideStrip::Arrange() {
+    MakePlan();
     int top = ArrangePanels(ArrangeHead());
     const int room = height() - top;
     const int least = Clans->LeastHeight();

@@ -40,11 +40,19 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    bool ShowsEnvironment() const;
+    struct Plan {
+        bool ShowsEnvironment = false;
+        bool Alone = false;  ///< the dialog has taken in the message, and the question card is not shown
+        int Clans = 0;       ///< height kept free below the dialog
+    };
+
+    void MakePlan();
+    Plan PlanAround(const QuestionPanel& dialog) const;
     int ArrangeHead();
     int ArrangePanels(int top);
 
     const GameState* state_;
+    Plan plan_;
     bool playing_ = false;
     std::vector<QuestionPanel*> panels_;
 };
