@@ -84,7 +84,7 @@ void SideStrip::MakePlan() {
 SideStrip::Plan SideStrip::PlanAround(const QuestionPanel& dialog) const {
     const int environment = Environment->sizeHint().height() + Gap;
     const int asked = Question->HeightFor(width(), true) + Gap + dialog.HeightWith(false, width());
-    const int alone = dialog.HeightWith(true, width()) * 3 / 4;
+    const int alone = std::max(dialog.HeightWith(true, width()) * 3 / 4, dialog.LeastHeight(width()));
     const int clans = Gap + Clans->ShortHeight();
     if (asked + clans <= height()) {
         return {environment + asked + clans <= height(), false, clans};
