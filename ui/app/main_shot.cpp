@@ -4,10 +4,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +20,7 @@
 #include "model/services.h"
 #include "ui/app/auto_person.h"
 #include "ui/app/scale_factors.h"
+#include "ui/app/shot_moments.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
@@ -30,37 +29,6 @@ namespace {
 
 using namespace plasmos;
 
-constexpr int TurnOfPicture = 4;
-
-bool AsksIn(const Question& question, QuestionKind kind, std::string_view phase) {
-    return question.Kind == kind && game.Phase.View() == phase;
-}
-
-/// A moment of a game that a picture can be taken at.
-struct Moment {
-    const char* Name;
-    bool (*Is)(const Question&);
-};
-
-constexpr Moment Moments[] = {
-    {"turn",
-     [](const Question& question) {
-         return game.Turn > TurnOfPicture || (game.Turn == TurnOfPicture && question.Kind == QuestionKind::YesNo);
-     }},
-    {"meal", [](const Question& question) { return game.Turn > 1 && question.Kind == QuestionKind::Food; }},
-    {"genes", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "New genes"); }},
-    {"adapt", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "Environment"); }},
-    {"birth", [](const Question& question) { return AsksIn(question, QuestionKind::Square, "Division"); }},
-    {"attack", [](const Question& question) { return question.Text.find("the attack?") != std::string::npos; }},
-    {"victim", [](const Question& question) { return question.Kind == QuestionKind::Victim; }},
-    {"end", [](const Question&) { return false; }},
-};
-
-const Moment* MomentNamed(const QString& name) {
-    const auto* found = std::find_if(std::begin(Moments), std::end(Moments),
-                                     [&](const Moment& moment) { return name == QLatin1String(moment.Name); });
-    return found != std::end(Moments) ? found : nullptr;
-}
 constexpr int LastDemoTurn = LastTurn;
 
 struct Wish {
@@ -71,7 +39,7 @@ struct Wish {
     std::optional<Scheme> Colours;
     int Points = 0;  ///< of the desktop's letters; 0: as they are
     int Clans = 0;   ///< 0: as the person chooses
-    const Moment* At = &Moments[0];
+    const ShotMoment* At = ShotMomentNamed(QStringLiteral("turn"));
 };
 
 /// A window that takes pictures of itself.
@@ -167,7 +135,7 @@ const char* TakeOption(const QString& option, const QString& value, Wish& wish) 
         return wish.Clans >= MinClans && wish.Clans <= MaxClans ? nullptr : "there are 3 to 6 clans";
     }
     if (option == QLatin1String("--at")) {
-        wish.At = MomentNamed(value);
+        wish.At = ShotMomentNamed(value);
         return wish.At != nullptr ? nullptr : "there is no such moment";
     }
     wish.Folder = value;

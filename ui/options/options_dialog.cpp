@@ -101,6 +101,11 @@ QWidget* OptionsDialog::MakeBoardPage() {
     left->addWidget(diagnosis_);
     left->addStretch(1);
     line->addLayout(left);
+    line->addWidget(MakeBoardPicture(page));
+    return whole;
+}
+
+QWidget* OptionsDialog::MakeBoardPicture(QWidget* page) {
     auto* frame = new QWidget(page);
     frame->setFixedSize(MaxSide * ZyPicture::SquarePixels + 8, MaxSide * ZyPicture::SquarePixels + 8);
     optZyPict_ = new ZyPicture(frame, model_);
@@ -111,8 +116,7 @@ QWidget* OptionsDialog::MakeBoardPage() {
         diagnosis_->setText(ToQt(model_.Diagnosis(x, y, button)));
         Follow();
     };
-    line->addWidget(frame);
-    return whole;
+    return frame;
 }
 
 QWidget* OptionsDialog::MakeNamesPage() {

@@ -36,6 +36,7 @@ protected:
 
 private:
     QWidget* MakeBoardPage();
+    QWidget* MakeBoardPicture(QWidget* page);
     QWidget* MakeNamesPage();
     void MakeButtons(QVBoxLayout* outer);
     QSpinBox* MakeUpDown(QWidget* page, const char* name, void (OptionsModel::*set)(int));
