@@ -45,4 +45,9 @@ std::string GeneBarText(const GameState& state, int clan, int gene) {
     return {};
 }
 
+std::string GenePrice(const GameState& state, int gene) {
+    const GeneRecord& row = state.Catalogue[gene];
+    return Concat(row.Cost, " BP, mutation ", row.MutationPoints > 0 ? "+" : "", row.MutationPoints);
+}
+
 }  // namespace plasmos

@@ -91,4 +91,7 @@ constexpr std::string_view GeneText(int gene) {
 /// clan's other genes have against it comes before its price. An empty text where it can.
 std::string GeneBarText(const GameState& state, int clan, int gene);
 
+/// "3 BP, mutation +2": what a gene costs in this game and does to the mutation level.
+std::string GenePrice(const GameState& state, int gene);
+
 }  // namespace plasmos

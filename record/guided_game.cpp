@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/guided_game.h"
 
+#include <algorithm>
+
 #include "model/board_size.h"
 #include "questions/visit.h"
 #include "record/lesson_notes.h"
@@ -26,6 +28,18 @@ std::string_view PartOf(std::string_view text, std::size_t index) {
         text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
     }
     return text.substr(0, text.find(';'));
+}
+
+/// One meal is as good as another.
+bool IsAsTold(const Answer& answer, std::string_view told) {
+    Answer lesson;
+    return answer.Text() == told || (answer.What == Answer::Kind::Eat && Answer::Parse(told, lesson).empty() &&
+                                     lesson.What == Answer::Kind::Eat);
+}
+
+bool MayBeGiven(const Question& question, const Answer& answer) {
+    const auto allowed = question.Allowed();
+    return std::find(allowed.begin(), allowed.end(), answer) != allowed.end();
 }
 
 }  // namespace
@@ -59,15 +73,20 @@ GuidedGame::~GuidedGame() {
 
 Advice GuidedGame::AdviceFor(const Question& question) const {
     Advice advice;
-    if (!onPath_ || LessonsAreOver() || Lessons()[lesson_].Asked != question.Kind) {
+    if (!onPath_ || LessonsAreOver()) {
         advice.Note = TopicNote(question, game);
         return advice;
     }
     const Lesson& lesson = Lessons()[lesson_];
-    advice.Note = lesson.Note;
+    const bool between = lesson.Asked != question.Kind;  // such as what was refused
+    advice.Note = between ? TopicNote(question, game) : std::string(lesson.Note);
     advice.Number = static_cast<int>(lesson_) + 1;
+    if (between) {
+        return advice;
+    }
     Answer next;
-    if (const auto step = PartOf(lesson.Steps, step_); !step.empty() && Answer::Parse(step, next).empty()) {
+    if (const auto step = PartOf(lesson.Steps, step_);
+        !step.empty() && Answer::Parse(step, next).empty() && MayBeGiven(question, next)) {
         advice.Recommended = next;
     }
     return advice;
@@ -86,7 +105,7 @@ void GuidedGame::OnAnswer(const Question& question, const Answer& answer, bool a
         return;
     }
     const Lesson& lesson = Lessons()[lesson_];
-    onPath_ = lesson.Asked == question.Kind && answer.Text() == PartOf(lesson.Told, told_);
+    onPath_ = lesson.Asked == question.Kind && IsAsTold(answer, PartOf(lesson.Told, told_));
     if (onPath_ && PartOf(lesson.Told, ++told_).empty()) {
         ++lesson_;
         step_ = told_ = 0;

@@ -34,8 +34,8 @@ struct Advice {
 
 /// A first game with somebody who explains: three clans on five by five squares, dealt from a replay number that is
 /// always the same, so that the lessons are about what lies on the board. The rules are the game's own and know nothing
-/// of it. Whoever answers otherwise than it is recommended, or plays on when the lessons are over, is told what every
-/// question is about and decides alone.
+/// of it. Any meal will do. Whoever answers otherwise than it is recommended, or plays on when the lessons are over, is
+/// told what every question is about and decides alone.
 ///
 /// While it lives the current game has the guided game's setup, no files, and this as its listener; afterwards setup,
 /// files and listener are as before, and the board is empty unless the game came to its end on it.

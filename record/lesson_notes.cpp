@@ -50,63 +50,62 @@ constexpr Lesson LessonRows[] = {
      "How many clans share the puddle? One of them is yours, the others are the computer's. Three leave room to "
      "learn."},
     {Kind::Square, "square 13", "square 13",
-     "Every clan begins with two amoebas. Each square holds two pieces of food in every colour, so any will do; "
-     "from "
-     "the middle you can go everywhere."},
+     "Every clan begins with two amoebas. Each square holds two pieces of food in every colour, so any will do; from "
+     "the "
+     "middle you can go everywhere."},
     {Kind::Square, "square 18", "square 18",
-     "Your second amoeba. Keep it near the first, but not so near that they eat from the same squares."},
+     "Your second amoeba begins next to the first; each has a square of food to itself."},
     {Kind::YesNo, "yes", "yes",
-     "A turn begins with moving. The drift would carry the framed amoeba into the square with the dashed edge, "
-     "free of "
+     "A turn begins with moving. The drift would carry the framed amoeba into the square with the dashed edge, free of "
      "charge. For 1 of your 4 BP, with which everything is paid, a die decides instead: try it once."},
     {Kind::Square, "square 12", "square 12",
-     "The die shows a 6: your amoeba may go where it wants. Take a square away from the others, where the next "
-     "drift "
-     "finds you food as well."},
+     "The die shows a 6: your amoeba may go where it wants. Any of these squares has all its food."},
     {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0",
-     "Now it eats: with three clans two pieces of one other colour and one of a second, never its own. Take the "
-     "suggested menu over, then press Eat. Two pieces in your colour stay behind as food for others."},
+     "Now it eats: with three clans two pieces of one other colour and one of a second, written 21, never its own. "
+     "Enter "
+     "the suggested menu, then press Eat. Two pieces in your colour stay behind as food for others."},
     {Kind::YesNo, "no", "no", "Your second amoeba. The drift takes it to a full square anyhow, so save the BP."},
     {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0",
-     "There is plenty here too. Who finds nothing takes damage, and dies of "
-     "the second time."},
+     "There is plenty here too. An amoeba that finds no meal takes damage; it can bear that once."},
     {Kind::YesNo, "yes", "yes",
-     "All have moved, and a new card tells UV light and drift of the next turn. Now genes: you have 3 BP, enough "
-     "for a "
+     "All have moved, and a new card tells UV light and drift of the next turn. Now genes: you have 3 BP, enough for a "
      "first one. To look costs nothing."},
     {Kind::Genes, "tick 2;done", "tick 2;done",
-     "Movement 1 throws two dice where others throw one, and you choose. It adds 2 to your mutation level: whose "
-     "level "
-     "is above the UV level has to give genes up. Tick it, then press Done."},
+     "Movement 1 throws two dice where others throw one, and you choose. It adds 2 to your mutation level: whose level "
+     "is "
+     "above the UV level has to give genes up. Tick it, then press Done."},
     {Kind::YesNo, "yes", "yes",
-     "Each turn brings a clan of three 10 BP, and an amoeba costs 6. More amoebas mean more points, and more "
+     "Among three clans each gets 10 BP a turn, and an amoeba costs 6. More amoebas mean more points, and more "
      "mouths."},
     {Kind::Number, "number 1", "number 1", "Your BP are enough for one; the rest stays with you for the next turn."},
     {Kind::Square, "square 13", "square 13",
-     "It is born on a free square next to one of its clan. Here all the food is untouched."},
+     "It is born next to one of its clan, where none of yours lies yet. Here all the food is untouched."},
     {Kind::YesNo, "no", "no",
-     "The first turn has been scored: you lead on the track around the board, and the leader moves last. The card "
-     "now lets all go where they want, and that is free: paying brings nothing."},
+     "The turn has been scored: 1 point for three amoebas, and your marker jumped over a taken space, so you lead; the "
+     "leader moves last. The new card lets all go where they want, free of charge: paying brings nothing."},
     {Kind::Square, "square 11", "square 11",
-     "Where it stands your clan has eaten already, and it cannot eat its own "
-     "colour. On to fresh food."},
-    {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0", "The same meal as before: take it over and eat it."},
-    {Kind::YesNo, "no", "no", "Free of charge again."},
-    {Kind::Square, "square 18", "square 18", "A square with two pieces of every colour, and nobody near."},
-    {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0", "You could also click a meal on the buttons, or type your own."},
+     "Where it stands it has left food of your own colour, which your clan cannot eat. On to fresh food."},
+    {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0",
+     "The same meal as before. The line above Eat tells at any time whether what you have entered is legal."},
+    {Kind::YesNo, "no", "no", "Your second amoeba, and free of charge again."},
+    {Kind::Square, "square 18", "square 18", "A square with two pieces of every colour."},
+    {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0",
+     "You could also type another meal of two and one: what you leave is what others find."},
     {Kind::YesNo, "no", "no", "Your youngest. It may stay where it is, or go."},
     {Kind::Square, "square 14", "square 14",
-     "Either would feed it. If it goes, it leaves a full square behind for another turn."},
+     "It could stay and eat, too. If it goes, it leaves a full square behind for another turn."},
     {Kind::Food, "suggestion;eat 2,1,0", "eat 2,1,0", "The last meal of this turn."},
     {Kind::YesNo, "no", "no",
-     "You could buy Spores or another small gene. But 4 BP and the next 10 make two amoebas: leave the genes for "
-     "now."},
-    {Kind::YesNo, "yes", "yes", "14 BP: two amoebas."},
+     "You could buy Spores or another small gene. But 4 BP and the next 10 make two amoebas: leave the genes for now."},
+    {Kind::YesNo, "yes", "yes", "You have 14 BP, enough for two amoebas."},
     {Kind::Number, "number 2", "number 2", "Both at once: three amoebas score 1 point a turn, five score 4."},
-    {Kind::Square, "square 13", "square 13", "The full square that was left behind a moment ago."},
-    {Kind::Square, "square 17", "square 17",
-     "And another one with fresh food. That was the last lesson: fights and adapting to the UV light will explain "
-     "themselves when they come."},
+    {Kind::Square, "square 15", "square 15",
+     "Amoebas move before they eat, and the card already shows the next drift: up. From here it leads to square 10, "
+     "where "
+     "all the food lies."},
+    {Kind::Square, "square 6", "square 6",
+     "And from here to square 1, as good. That was the last lesson: fights and adapting to the UV light are explained "
+     "when they come."},
 };
 
 }  // namespace

@@ -92,7 +92,7 @@ std::string ClansHint(int persons) {
                             : "";
 }
 
-std::string MoveOfferHint(int clan, int amoeba, bool first) {
+std::string MoveOfferHint(int clan, int amoeba, bool first, int without) {
     if (!HintsAreWanted()) {
         return {};
     }
@@ -100,10 +100,11 @@ std::string MoveOfferHint(int clan, int amoeba, bool first) {
                                    : first                ? "Yes: 1 BP, wherever it leads. "
                                    : HasGene(clan, "per") ? "Yes: free, the second attempt (Persistence). "
                                                           : "Yes: free, the second attempt (Speed). ";
-    const std::string_view no = !first                       ? " No: it stays."
-                                : game.Drift == WhereItWants ? " No: it drifts where you want, free."
-                                                             : " No: it drifts.";
-    return Concat(price, WayText(clan, amoeba, "Two throws"), no, first ? GenesForMoving(clan) : std::string());
+    const std::string_view no = !first                       ? " No: it stays"
+                                : game.Drift == WhereItWants ? " No: it drifts where you want, free"
+                                                             : " No: it drifts";
+    const std::string_view meal = without > 0 && !CanEat(without, clan) ? ", and finds no menu there." : ".";
+    return Concat(price, WayText(clan, amoeba, "Two throws"), no, meal, first ? GenesForMoving(clan) : std::string());
 }
 
 std::string FreeDriftHint() {

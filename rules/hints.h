@@ -19,8 +19,8 @@ std::string ClansHint(int persons);
 
 // ---- movement ----
 /// The offer to move elsewhere: its price, where the faces of the die lead, what a "no" means, and the genes that
-/// would change it.
-std::string MoveOfferHint(int clan, int amoeba, bool first);
+/// would change it. `without` is the square in which it then eats, 0 where that is not known.
+std::string MoveOfferHint(int clan, int amoeba, bool first, int without);
 /// The square of a drift that lets the amoeba choose.
 std::string FreeDriftHint();
 /// A square chosen without a die, with Movement 2.

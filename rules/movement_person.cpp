@@ -71,7 +71,7 @@ bool Attempt(int clan, int amoeba, bool first, const DriftForecast& drift) {
         return false;
     }
     if (!AskYesNo(clan, drift.Text + OfferText(clan, amoeba, first), drift.Square,
-                  MoveOfferHint(clan, amoeba, first))) {
+                  MoveOfferHint(clan, amoeba, first, first ? drift.Square : game.Amoeba[amoeba][clan].Square))) {
         return false;
     }
     const bool freeAttempt = HasGene(clan, "str") || (!first && HasSpeed(clan));

@@ -99,9 +99,9 @@ TEST_F(GuidedGameTest, TheNotesTellWhatIsSo) {
     };
     EXPECT_TRUE(has("For 1 of your 4 BP", {1, 4, 2}));
     EXPECT_TRUE(has("you have 3 BP", {1, 3, 2}));
-    EXPECT_TRUE(has("The first turn has been scored", {2, 4, 3}));
+    EXPECT_TRUE(has("The turn has been scored", {2, 4, 3}));
     EXPECT_TRUE(has("But 4 BP and the next 10", {2, 4, 3}));
-    EXPECT_TRUE(has("14 BP: two amoebas", {2, 14, 3}));
+    EXPECT_TRUE(has("You have 14 BP", {2, 14, 3}));
     EXPECT_TRUE(has("Both at once", {2, 14, 3}));
     EXPECT_EQ(ClanAtPlace(1), 3) << "you lead";
     EXPECT_EQ(game.AmoebaCount[3], 5);

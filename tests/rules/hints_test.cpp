@@ -6,8 +6,6 @@
 
 #include <gmock/gmock.h>
 
-#include <functional>
-
 #include "flow/new_game.h"
 #include "rules/environment.h"
 #include "rules/feeding.h"
@@ -15,55 +13,13 @@
 #include "rules/move_amoeba.h"
 #include "rules/movement.h"
 #include "rules/new_genes.h"
+#include "tests/rules/hint_rows.h"
 #include "tests/support/game_fixture.h"
-#include "tests/support/scripted_board.h"
 
 namespace plasmos::testing {
 namespace {
 
 using ::testing::ElementsAre;
-
-/// Clan 1 of three, a person's with 9 BP; its amoeba A1 stands in square 11 of 5 by 5, on the left edge, and
-/// everything drifts to the right. Clan 2 is a computer's. The hints of all questions that come, in order.
-struct HintRow {
-    std::string_view Name;
-    std::vector<std::string_view> Genes;
-    std::vector<int> Rolls;
-    std::function<void()> Rule;
-    std::vector<Line> Answers;
-    std::vector<std::string> Hints;
-};
-
-void PrintTo(const HintRow& row, std::ostream* out) {
-    *out << row.Name;
-}
-
-class Hints : public GameRows<HintRow> {
-protected:
-    Hints() {
-        NewPosition(3);
-        Person(1);
-        Put(1, 1, 11);
-        game.Drift = 1;
-        game.BP[1] = 9;
-        game.UVLevel = 10;
-        game.Turn = 1;
-        game.EnvDeck[1] = {2, 1};
-        game.CurPlayer = 1;
-        game.CurAmoeba = 1;
-        for (const auto code : GetParam().Genes) {
-            Give(1, code);
-        }
-    }
-    void Play(ScriptedBoard& board) {
-        for (const Line& answer : GetParam().Answers) {
-            board.Then(answer);
-        }
-        Script rolls(GetParam().Rolls);
-        rolls.MayBeLeft();
-        GetParam().Rule();
-    }
-};
 
 TEST_P(Hints, StandBesideTheQuestions) {
     ScriptedBoard board;
@@ -102,6 +58,8 @@ void Attacked(Assault assault) {
 }
 
 const std::string Die = "1 right, 2 down, 3 left (stays), 4 up, 5 stays, 6 you choose";
+const std::string Drifts = ". No: it drifts, and finds no menu there.";
+const std::string Stays = ". No: it stays, and finds no menu there.";
 
 const HintRow HintRows[] = {
     {"the_offer_to_move",
@@ -109,53 +67,63 @@ const HintRow HintRows[] = {
      {5},
      Move,
      {Yes()},
-     {"Yes: 1 BP, wherever it leads. Die: " + Die + ". No: it drifts. Better with Movement 1, Speed, Streamlining."}},
+     {"Yes: 1 BP, wherever it leads. Die: " + Die + Drifts + " Better with Movement 1, Speed, Streamlining."}},
+    {"the_offer_where_the_drift_finds_a_meal",
+     {"str"},
+     {5, 5},
+     [] {
+         Feed(12, {0, 2, 1});
+         Move();
+     },
+     {No()},
+     {"Yes: free (Streamlining). Die: " + Die + ". No: it drifts. Better with Movement 1, Speed."}},
     {"the_offer_with_all_its_genes",
      {"mv2", "per", "str"},
      {1, 1},
      Move,
      {Yes(), Square(6), No()},
-     {"Yes: free (Streamlining). You choose the square (Movement 2). No: it drifts.", "Movement 2: no die.",
-      "Yes: free (Streamlining). You choose the square (Movement 2). No: it stays."}},
+     {"Yes: free (Streamlining). You choose the square (Movement 2). No: it drifts, and finds no menu there.",
+      "Movement 2: no die.",
+      "Yes: free (Streamlining). You choose the square (Movement 2). No: it stays, and finds no menu there."}},
     {"the_second_attempt",
      {"spe"},
      {5},
      Move,
      {Yes(), No()},
-     {"Yes: 1 BP, wherever it leads. Die: " + Die + ". No: it drifts. Better with Movement 1, Streamlining.",
-      "Yes: free, the second attempt (Speed). Die: " + Die + ". No: it stays."}},
+     {"Yes: 1 BP, wherever it leads. Die: " + Die + Drifts + " Better with Movement 1, Streamlining.",
+      "Yes: free, the second attempt (Speed). Die: " + Die + Stays}},
     {"a_six",
      {},
      {6, 1},
      Move,
      {Yes(), Square(6)},
-     {"Yes: 1 BP, wherever it leads. Die: " + Die + ". No: it drifts. Better with Movement 1, Speed, Streamlining.",
+     {"Yes: 1 BP, wherever it leads. Die: " + Die + Drifts + " Better with Movement 1, Speed, Streamlining.",
       "The die shows 6: you choose."}},
     {"both_throws",
      {"mv1"},
      {1, 2, 1},
      Move,
      {Yes(), Square(16)},
-     {"Yes: 1 BP, wherever it leads. Two throws, you choose between them (Movement 1): " + Die +
-          ". No: it drifts. Better with Movement 2, Speed, Streamlining.",
+     {"Yes: 1 BP, wherever it leads. Two throws, you choose between them (Movement 1): " + Die + Drifts +
+          " Better with Movement 2, Speed, Streamlining.",
       "First throw: Right, square 12. Second throw: Down, square 16. Take one of them."}},
     {"a_six_in_the_second_throw",
      {"mv1", "spe", "str"},
      {4, 6, 1},
      Move,
      {Yes(), Square(12), No()},
-     {"Yes: free (Streamlining). Two throws, you choose between them (Movement 1): " + Die +
-          ". No: it drifts. Better with Movement 2.",
+     {"Yes: free (Streamlining). Two throws, you choose between them (Movement 1): " + Die + Drifts +
+          " Better with Movement 2.",
       "Second throw: 6, you choose. The first was Up, square 6.",
       "Yes: free (Streamlining). Two throws, you choose between them (Movement 1): 1 right, 2 down, 3 left, 4 up, 5 "
-      "stays, 6 you choose. No: it stays."}},
+      "stays, 6 you choose. No: it stays, and finds no menu there."}},
     {"a_six_in_the_first_throw",
      {"mv1"},
      {6, 2, 1},
      Move,
      {Yes(), Square(12), Square(16)},
-     {"Yes: 1 BP, wherever it leads. Two throws, you choose between them (Movement 1): " + Die +
-          ". No: it drifts. Better with Movement 2, Speed, Streamlining.",
+     {"Yes: 1 BP, wherever it leads. Two throws, you choose between them (Movement 1): " + Die + Drifts +
+          " Better with Movement 2, Speed, Streamlining.",
       "First throw: 6, you choose. If another throw follows, you choose between the two.",
       "First throw: your choice, square 12. Second throw: Down, square 16. Take one of them."}},
     // The coins of the computer clans fall so that they divide nothing.

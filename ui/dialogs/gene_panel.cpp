@@ -3,6 +3,8 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QPainter>
+#include <QStyleOption>
 
 #include "model/game_state.h"
 #include "model/gene_texts.h"
@@ -16,13 +18,23 @@ namespace plasmos {
 
 namespace {
 
-/// A check box that is clicked anywhere on it.
+/// A check box that is clicked anywhere on it, with an edge that is seen in dark colours, too.
 class WideCheckBox : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
 
 protected:
     bool hitButton(const QPoint& point) const override { return rect().contains(point); }
+
+    void paintEvent(QPaintEvent* event) override {
+        QCheckBox::paintEvent(event);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QRect box = style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this);
+        QPainter painter(this);
+        painter.setPen(Shade(isEnabled() ? Tone::FieldEdge : Tone::Disabled));
+        painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    }
 };
 
 QString TitleOf(const GeneForm& form) {
@@ -203,7 +215,7 @@ void GenePanel::RereadBox(int gene) {
     line.Box->setAccessibleDescription(ToQt(GeneText(gene)));
     line.Box->setChecked(source.Ticked);
     line.Box->setEnabled(source.Enabled);
-    line.Cost->setText(ToQt(source.ToolTip));
+    line.Cost->setText(ToQt(GenePrice(State(), gene)));
     line.Gives->setText(given ? QStringLiteral("gives %1").arg(PointsText(GeneForm::PointsOf(gene))) : QString());
     const bool shown = !form_.Adapts || source.Enabled;
     line.Box->setVisible(shown);

@@ -11,9 +11,9 @@ namespace plasmos {
 
 namespace {
 
-constexpr int Around = 8;
-constexpr double Halo = 7;
-constexpr double Line = 4;
+constexpr int Around = 5;
+constexpr double Halo = 5;
+constexpr double Line = 3.5;
 
 }  // namespace
 

@@ -142,6 +142,13 @@ void BoardMenus::ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle) {
     autoten_men_->setEnabled(hasTentacle);
 }
 
+bool BoardMenus::ShowNumbers(bool on) {
+    const bool before = sqno_men_->isChecked();
+    sqno_men_->setChecked(on);
+    puddle_->ShowNumbers(on);
+    return before;
+}
+
 void BoardMenus::DisableAutoEating() {
     autoeat_men_->setEnabled(false);
     autoten_men_->setEnabled(false);

@@ -81,6 +81,9 @@ void GuideDesk::Show(const Question* top) {
     if (advice.Recommended) {
         if (const AnswerPlace place = PlaceOfAnswer(*table_, *advice.Recommended); place.Control != nullptr) {
             BringIntoSight(place.Control, place.Place());
+            if (qobject_cast<QAbstractButton*>(place.Control) != nullptr) {
+                place.Control->setFocus(Qt::OtherFocusReason);
+            }
             ring_->PointAt(place.Control, [place] { return place.Place(); });
             recommended = Recommendation(*advice.Recommended, *place.Control);
         }

@@ -136,8 +136,10 @@ void UBoard::gob_Click() {
 void UBoard::guide_Click() {
     NoteBegun();
     guided_ = true;
+    const bool numbers = menus_->ShowNumbers(true);  // the notes tell squares by their numbers
     Play([this] { guide_->Play([this] { ClearBoard(); }, PlayGame); });
     guided_ = false;
+    menus_->ShowNumbers(numbers);
     if (game.NumPlayers == 0) {
         ClearBoard();
     }

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 
+#include "model/gene_texts.h"
 #include "questions/visit.h"
 #include "rules/environment.h"
 #include "tests/ui/support/scene.h"
@@ -233,7 +234,7 @@ void CompareGenes(Comparison& see, Scene& scene, const GeneForm& form) {
         if (scene.Find(name)->toolTip() != ToQt(form.gcheck[gene].ToolTip)) {
             see.Note(name.toStdString() + " has another tool tip");
         }
-        see.Text(Numbered("gcost", gene), form.gcheck[gene].ToolTip);
+        see.Text(Numbered("gcost", gene), GenePrice(game, gene));
     }
     see.Answers(QStringLiteral("EnvBP"), form.EnvBPVisible, true);
     see.Text(QStringLiteral("EnvBP"), form.EnvBP);
