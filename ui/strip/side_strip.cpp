@@ -79,18 +79,20 @@ void SideStrip::MakePlan() {
     plan_ = {state_->NumPlayers > 0 && height() >= environment + scores, false, 0};
 }
 
-// The clans stay in sight below a dialog: the levels give way to them, then the message goes into the dialog, which
-// scrolls at most a quarter of itself away. Where that is not enough, the dialog has what there is.
+// Levels and clans stay in sight around a dialog: the message goes into it, and it scrolls at most a quarter of itself
+// away. In a low window the levels give way to the clans; where that is not enough, the dialog has what there is.
 SideStrip::Plan SideStrip::PlanAround(const QuestionPanel& dialog) const {
     const int environment = Environment->sizeHint().height() + Gap;
     const int asked = Question->HeightFor(width(), true) + Gap + dialog.HeightWith(false, width());
     const int alone = std::max(dialog.HeightWith(true, width()) * 3 / 4, dialog.LeastHeight(width()));
     const int clans = Gap + Clans->ShortHeight();
-    if (asked + clans <= height()) {
-        return {environment + asked + clans <= height(), false, clans};
-    }
-    if (alone + clans <= height()) {
-        return {environment + alone + clans <= height(), true, clans};
+    for (const int levels : {environment, 0}) {
+        if (levels + asked + clans <= height()) {
+            return {levels > 0, false, clans};
+        }
+        if (levels + alone + clans <= height()) {
+            return {levels > 0, true, clans};
+        }
     }
     if (environment + asked <= height()) {
         return {true, false, 0};

@@ -89,8 +89,20 @@ void Scene::Open() {
     player_->OnFault = [this](const std::string& why) { Fail(why); };
     board_->OnQuestion = [this](Question& question) { Answer(question); };
     board_->show();
-    board_->activateWindow();
+    Activate(*board_);
     QCoreApplication::processEvents();
+}
+
+// Without a window manager the keyboard may be given to a window before the server can show it, and is then lost.
+bool Scene::Activate(QWidget& window) {
+    return QTest::qWaitFor(
+        [&window] {
+            if (!window.isActiveWindow()) {
+                window.activateWindow();
+            }
+            return window.isActiveWindow();
+        },
+        KeyboardPatience);
 }
 
 void Scene::Reopen() {

@@ -138,6 +138,10 @@ private:
     };
 
     void Open();
+    /// Gives a window the keyboard.
+    static bool Activate(QWidget& window);
+    /// Longest time that takes, in milliseconds.
+    static constexpr int KeyboardPatience = 3000;
     QLineEdit* FieldToFill(const QString& name);
     void Answer(Question& question);
 

@@ -79,6 +79,7 @@ void Scene::Key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifier
         return;
     }
     if (!widget->hasFocus() && widget->focusPolicy() != Qt::NoFocus) {
+        Activate(*widget->window());
         widget->setFocus(Qt::TabFocusReason);
     }
     if (!widget->hasFocus()) {
@@ -94,6 +95,7 @@ QLineEdit* Scene::FieldToFill(const QString& name) {
         Fail("there is no " + name.toStdString() + " to type into");
         return nullptr;
     }
+    Activate(*field->window());
     field->setFocus();
     if (!field->hasFocus()) {
         Fail(name.toStdString() + " has not got the keyboard");
