@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QRegularExpressionValidator>
-#include <utility>
 
 #include "model/game_state.h"
 #include "ui/dialogs/choice_panels.h"
@@ -128,14 +127,16 @@ void FoodPanel::MakeAlternatives() {
     line->addWidget(hosts_);
     Body()->addLayout(line);
     // Who plays by ear toggles, and clicks nothing.
-    for (const auto& [option, click] :
-         {std::pair{paropt_, &FoodForm::paropt_Click}, std::pair{sfsopt_, &FoodForm::sfsopt_Click}}) {
-        connect(option, &QRadioButton::toggled, this, [this, handler = click] {
-            if (!rereading_) {
-                Handle([this, handler] { (form_.*handler)(); });
-            }
-        });
-    }
+    connect(paropt_, &QRadioButton::toggled, this, [this] {
+        if (!rereading_) {
+            Handle([this] { form_.paropt_Click(); });
+        }
+    });
+    connect(sfsopt_, &QRadioButton::toggled, this, [this] {
+        if (!rereading_) {
+            Handle([this] { form_.sfsopt_Click(); });
+        }
+    });
 }
 
 void FoodPanel::MakeRow(int field) {
