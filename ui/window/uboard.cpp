@@ -26,7 +26,9 @@
 #include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
+#include "ui/strip/summary_panel.h"
 #include "ui/window/board_menus.h"
+#include "ui/window/figure_listener.h"
 #include "ui/window/guide_bar.h"
 #include "ui/window/guide_desk.h"
 #include "ui/window/leave_guard.h"
@@ -121,10 +123,7 @@ void UBoard::BuildStart() {
     connect(strip_->Start->guideb, &QPushButton::clicked, this, [this] { guide_Click(); });
     connect(strip_->Start->watchb, &QPushButton::clicked, this, [this] { watch_Click(); });
     connect(strip_->Start->txtReplay, &QLineEdit::returnPressed, this, [this] { gob_Click(); });
-    for (QPushButton* button : {strip_->Start->gob, strip_->Start->guideb, strip_->Start->watchb}) {
-        RefuseRepeats(button);
-        button->setAutoDefault(true);
-    }
+    strip_->Summary->OnNewGame = [this] { gob_Click(); };
     strip_->Start->OfferGuide(services.Settings == nullptr || services.Settings->Get("play", "begun", "0") != "1");
 }
 
@@ -165,6 +164,7 @@ void UBoard::Play(const std::function<void()>& play) {
     SetPlaying(true);
     int exitCode = -1;
     try {
+        const FigureListener listener(figures_);
         play();
     } catch (const ProgramEnd& end) {
         exitCode = end.ExitCode;
@@ -200,6 +200,7 @@ void UBoard::SetPlaying(bool playing) {
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
         results_->Show(played && !guided_);
+        strip_->ShowSummary(ResultDesk::IsOver() ? figures_.Kept() : std::vector<TurnFigures>());
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
@@ -224,7 +225,7 @@ void UBoard::ClearBoard() {
     strip_->Environment->Clear();
     strip_->Clans->ShowAll();
     strip_->Start->ShowWelcome();
-    strip_->Arrange();
+    strip_->ShowSummary({});
 }
 
 void UBoard::EnableStart() {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "record/turn_figures.h"
 #include "ui/window/board_presentation.h"
 
 namespace plasmos {
@@ -89,6 +90,7 @@ private:
     std::unique_ptr<LeaveGuard> guard_;
     std::unique_ptr<GuideDesk> guide_;
     std::unique_ptr<BoardPresentation> presentation_;
+    FigureKeeper figures_;
     bool playing_ = false;
     bool guided_ = false;  ///< the game that is played is the guided one
     bool sure_ = false;    ///< the window closes without asking
