@@ -104,7 +104,7 @@ void TurnChart::MeasureValues() {
     }
     step_ = StepFor(most - least_);
     least_ = least_ < 0 ? -((step_ - 1 - least_) / step_ * step_) : 0;
-    most_ = (most + step_ - 1) / step_ * step_;
+    most_ = most;
 }
 
 QRectF TurnChart::Plot() const {
@@ -187,8 +187,10 @@ void TurnChart::DrawGround(QPainter& painter) const {
 void TurnChart::DrawAxis(QPainter& painter) const {
     const QRectF plot = Plot();
     painter.setFont(DrawnFont(10));
+    QColor grid = Shade(Tone::Faint);
     for (int value = least_; value <= most_; value += step_) {
-        painter.setPen(QPen(Shade(value == 0 ? Tone::Faint : Tone::CardEdge), 1));
+        grid.setAlphaF(value == 0 ? 1.0F : 0.3F);
+        painter.setPen(QPen(grid, 1));
         painter.drawLine(QPointF(plot.left(), Up(value)), QPointF(plot.right(), Up(value)));
         painter.setPen(Shade(Tone::Faint));
         painter.drawText(QRectF(0, Up(value) - 8, Left - 6, 16), Qt::AlignRight | Qt::AlignVCenter,

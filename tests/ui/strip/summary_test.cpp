@@ -4,79 +4,15 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
-#include <QDir>
-#include <QHelpEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QToolTip>
 
-#include "model/services.h"
-#include "record/turn_figures.h"
+#include "tests/ui/support/after_game.h"
 #include "tests/ui/support/walk.h"
 #include "ui/app/auto_person.h"
-#include "ui/look/dress.h"
-#include "ui/strip/summary_panel.h"
-#include "ui/strip/summary_table.h"
-#include "ui/strip/turn_chart.h"
-#include "ui/window/figure_listener.h"
-#include "ui/window/uboard.h"
+#include "ui/look/palette.h"
 
 namespace plasmos::testing {
-
-namespace {
-
-constexpr const char* Kinds[] = {"chart_score", "chart_amoebas", "chart_food", "chart_mutation"};
-
-QString Named(const char* name) {
-    return QString::fromLatin1(name);
-}
-
-/// A window after a game that somebody has watched; its figures were noted beside it.
-class AfterGame : public Scene {
-public:
-    explicit AfterGame(int clans, QSize size = QSize(1320, 860)) {
-        Board().resize(size);
-        Summary().OnTurn = [this](int turn) { Turns << turn; };
-        Summary().OnPlayAgain = [this](int turn) { Again << turn; };
-        Summary().OnSave = [this] { ++Saved; };
-        game.RequestedClans = clans;
-        game.HasRequestedReplay = true;
-        game.RequestedReplay = 4711;
-        const FigureListener listener(Keeper);
-        Click(Named("watchb"));
-    }
-
-    SummaryPanel& Summary() { return *Board().findChild<SummaryPanel*>(Named("summary")); }
-    TurnChart& Picture() { return *Summary().findChild<TurnChart*>(Named("turnchart")); }
-    SummaryTable& Places() { return *Summary().findChild<SummaryTable*>(Named("summarytab")); }
-    const std::vector<TurnFigures>& Kept() const { return Keeper.Kept(); }
-    QString Words() { return Text(Named("chartlab")).replace(QChar::Nbsp, QLatin1Char(' ')); }
-
-    QList<int> Turns;
-    QList<int> Again;
-    int Saved = 0;
-    FigureKeeper Keeper;
-};
-
-/// The figures in words, worked out anew.
-QString ScoreWords(const TurnFigures& figures) {
-    QStringList clans;
-    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
-        clans << QStringLiteral("Player %1 %2").arg(clan).arg(figures.Clans[clan].Score);
-    }
-    const QString when =
-        figures.Turn == 0 ? QStringLiteral("Before the first turn: ") : QStringLiteral("Turn %1: ").arg(figures.Turn);
-    return when + clans.join(QStringLiteral(", "));
-}
-
-/// With PLASMOS_PICTURES=folder what was tested can be looked at.
-void TakePicture(Scene& scene, const QString& name) {
-    if (qEnvironmentVariableIsSet("PLASMOS_PICTURES")) {
-        scene.Board().grab().save(QDir(qEnvironmentVariable("PLASMOS_PICTURES")).filePath(name));
-    }
-}
-
-}  // namespace
 
 class SummaryTest : public QObject {
     Q_OBJECT
@@ -89,17 +25,11 @@ private slots:
     void aGameThatIsLeftHasNone();
     void aClearedRecordLeavesIt();
     void everybodysPlaceAndFigures();
-    void everyChartInWords();
-    void aPressChoosesATurn();
-    void keysChooseATurn();
-    void thePointerIsToldOf();
     void arrowKeysGoFromControlToControl();
     void playItAgain();
     void whatHasNothingBehindItIsHidden();
     void newGame();
     void partsAreHeard();
-    void placesAreMovedApart_data();
-    void placesAreMovedApart();
     void signsAtTheEndsDoNotCoverEachOther_data() { sizes(); }
     void signsAtTheEndsDoNotCoverEachOther();
     void everythingIsInReach_data() { sizes(); }
@@ -153,72 +83,6 @@ void SummaryTest::everybodysPlaceAndFigures() {
         QCOMPARE(row.Figures.Amoebas, game.AmoebaCount[row.Clan]);
         QCOMPARE(row.Figures.BP, game.BP[row.Clan]);
     }
-}
-
-void SummaryTest::everyChartInWords() {
-    AfterGame scene(4);
-    const TurnFigures& last = scene.Kept().back();
-    QCOMPARE(scene.Words(), ScoreWords(last));
-    const QString food = QStringLiteral("Turn 10: %1 pieces of food on the board, %2 blue, %3 purple, ")
-                             .arg(last.Food)
-                             .arg(last.Clans[1].Food)
-                             .arg(last.Clans[2].Food);
-    const QString beginnings[] = {
-        QStringLiteral("Turn 10: Player 1 %1, ").arg(last.Clans[1].Score),
-        QStringLiteral("Turn 10: Player 1 %1, ").arg(last.Clans[1].Amoebas), food,
-        QStringLiteral("Turn 10: UV %1, Player 1 %2").arg(last.UV).arg(last.Clans[1].MutationLevel)};
-    for (int kind = 0; kind < ChartCount; ++kind) {
-        scene.Click(Named(Kinds[kind]));
-        QVERIFY2(scene.Words().startsWith(beginnings[kind]), qPrintable(scene.Words()));
-        for (int other = 0; other < ChartCount; ++other) {
-            QCOMPARE(scene.Ticked(Named(Kinds[other])), other == kind);
-        }
-        TakePicture(scene, Named(Kinds[kind]) + QStringLiteral(".png"));
-    }
-}
-
-void SummaryTest::aPressChoosesATurn() {
-    AfterGame scene(3);
-    for (const int turn : {4, 0, 10}) {
-        scene.Press(&scene.Picture(), Qt::LeftButton, scene.Picture().PlaceOf(turn));
-        QVERIFY(scene.Picture().HasChosen());
-        QCOMPARE(scene.Turns.last(), turn);
-        QCOMPARE(scene.Words(), ScoreWords(scene.Kept()[static_cast<std::size_t>(turn)]));
-    }
-    scene.Press(&scene.Picture(), Qt::RightButton, scene.Picture().PlaceOf(5));
-    QCOMPARE(scene.Turns.size(), 3);
-    scene.Click(Named("chart_food"));
-    QVERIFY2(scene.Picture().HasChosen(), "another chart keeps the turn");
-}
-
-void SummaryTest::keysChooseATurn() {
-    AfterGame scene(3);
-    scene.Picture().setFocus(Qt::TabFocusReason);
-    scene.Key(Named("turnchart"), Qt::Key_Left);
-    scene.Key(Named("turnchart"), Qt::Key_Left);
-    QCOMPARE(scene.Words(), ScoreWords(scene.Kept()[8]));
-    QVERIFY(scene.Turns.isEmpty());
-    scene.Key(Named("turnchart"), Qt::Key_Return);
-    scene.Key(Named("turnchart"), Qt::Key_Home);
-    scene.Key(Named("turnchart"), Qt::Key_Left);
-    scene.Key(Named("turnchart"), Qt::Key_Space);
-    scene.Key(Named("turnchart"), Qt::Key_End);
-    scene.Key(Named("turnchart"), Qt::Key_Right);
-    scene.Key(Named("turnchart"), Qt::Key_Enter);
-    QCOMPARE(scene.Turns, QList<int>({8, 0, 10}));
-}
-
-void SummaryTest::thePointerIsToldOf() {
-    AfterGame scene(3);
-    const QPoint at = scene.Picture().PlaceOf(3);
-    QTest::mouseMove(scene.Board().windowHandle(), scene.Picture().mapTo(&scene.Board(), at));
-    QCOMPARE(scene.Words(), ScoreWords(scene.Kept()[3]));
-    QHelpEvent help(QEvent::ToolTip, at, scene.Picture().mapToGlobal(at));
-    QCoreApplication::sendEvent(&scene.Picture(), &help);
-    QCOMPARE(QToolTip::text(), ScoreWords(scene.Kept()[3]));
-    QToolTip::hideText();
-    QTest::mouseMove(scene.Board().windowHandle(), QPoint(100, 300));
-    QTRY_COMPARE(scene.Words(), ScoreWords(scene.Kept()[10]));
 }
 
 void SummaryTest::arrowKeysGoFromControlToControl() {
@@ -295,25 +159,6 @@ void SummaryTest::partsAreHeard() {
                 ->text(QAccessible::Name)
                 .startsWith(QStringLiteral("1. %1, %2, score %3, ")
                                 .arg(first.Name, first.Kind, QString::number(first.Figures.Score))));
-}
-
-void SummaryTest::placesAreMovedApart_data() {
-    using Places = std::vector<double>;
-    QTest::addColumn<Places>("wanted");
-    QTest::addColumn<Places>("moved");
-    QTest::newRow("none") << Places{} << Places{};
-    QTest::newRow("apart already") << Places{50, 10, 30} << Places{50, 10, 30};
-    QTest::newRow("equal ones keep their order") << Places{50, 50, 50} << Places{40, 50, 60};
-    QTest::newRow("half of the way each") << Places{54, 50} << Places{57, 47};
-    QTest::newRow("no further than the ends") << Places{2, 0, 98, 99} << Places{10, 0, 90, 100};
-    QTest::newRow("a heap pushes its neighbour") << Places{50, 50, 59} << Places{43, 53, 63};
-}
-
-void SummaryTest::placesAreMovedApart() {
-    using Places = std::vector<double>;
-    QFETCH(Places, wanted);
-    QFETCH(Places, moved);
-    QCOMPARE(MovedApart(wanted, 10, 0, 100), moved);
 }
 
 /// A window that is larger than its screen cannot be pressed all over.
