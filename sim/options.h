@@ -27,6 +27,8 @@ struct SimOptions {
     std::string Output;   ///< empty: standard output
     std::string Journal;  ///< empty: none
     std::string Data;     ///< empty: no files
+    std::string Records;  ///< the folder for the games' records; empty: none are written
+    std::string Record;   ///< the one record that is played; empty: games are
     bool Bench = false;
     bool Check = false;
     ProgressMode Progress = ProgressMode::Auto;
