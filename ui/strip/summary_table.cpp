@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "ui/look/dress.h"

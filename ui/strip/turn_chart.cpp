@@ -6,12 +6,54 @@
 #include <QMouseEvent>
 #include <QToolTip>
 #include <algorithm>
+#include <cstddef>
+#include <numeric>
 #include <utility>
 
 #include "ui/look/dress.h"
 #include "ui/look/plain_tip.h"
 
 namespace plasmos {
+
+namespace {
+
+/// Neighbours that stand as close as they may; where the first of the whole line would stand for their sake.
+struct Heap {
+    double First = 0;
+    int Count = 0;
+
+    Heap With(const Heap& other) const {
+        const int count = Count + other.Count;
+        return {(First * Count + other.First * other.Count) / count, count};
+    }
+};
+
+}  // namespace
+
+std::vector<double> MovedApart(const std::vector<double>& wanted, double apart, double low, double high) {
+    std::vector<std::size_t> order(wanted.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t one, std::size_t other) { return wanted[one] < wanted[other]; });
+    std::vector<Heap> heaps;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        heaps.push_back({wanted[order[i]] - apart * static_cast<double>(i), 1});
+        while (heaps.size() > 1 && heaps.back().First < heaps[heaps.size() - 2].First) {
+            const Heap last = heaps.back();
+            heaps.pop_back();
+            heaps.back() = heaps.back().With(last);
+        }
+    }
+    std::vector<double> places = wanted;
+    const double most = std::max(low, high - apart * (static_cast<double>(wanted.size()) - 1));
+    std::size_t next = 0;
+    for (const Heap& heap : heaps) {
+        for (int i = 0; i < heap.Count; ++i, ++next) {
+            places[order[next]] = std::clamp(heap.First, low, most) + apart * static_cast<double>(next);
+        }
+    }
+    return places;
+}
 
 TurnChart::TurnChart(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("turnchart"));

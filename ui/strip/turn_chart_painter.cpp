@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
 
 #include "model/game_state.h"
 #include "ui/look/dress.h"
@@ -35,17 +34,6 @@ QVector<qreal> DashesOf(int clan) {
     return dashes[clan >= 1 && clan <= MaxClans ? static_cast<std::size_t>(clan) : 0];
 }
 
-/// Neighbours that stand as close as they may; where the first of the whole line would stand for their sake.
-struct Heap {
-    double First = 0;
-    int Count = 0;
-
-    Heap With(const Heap& other) const {
-        const int count = Count + other.Count;
-        return {(First * Count + other.First * other.Count) / count, count};
-    }
-};
-
 int StepFor(int range) {
     constexpr int most = 4;
     for (int power = 1;; power *= 10) {
@@ -58,31 +46,6 @@ int StepFor(int range) {
 }
 
 }  // namespace
-
-std::vector<double> MovedApart(const std::vector<double>& wanted, double apart, double low, double high) {
-    std::vector<std::size_t> order(wanted.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t one, std::size_t other) { return wanted[one] < wanted[other]; });
-    std::vector<Heap> heaps;
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        heaps.push_back({wanted[order[i]] - apart * static_cast<double>(i), 1});
-        while (heaps.size() > 1 && heaps.back().First < heaps[heaps.size() - 2].First) {
-            const Heap last = heaps.back();
-            heaps.pop_back();
-            heaps.back() = heaps.back().With(last);
-        }
-    }
-    std::vector<double> places = wanted;
-    const double most = std::max(low, high - apart * (static_cast<double>(wanted.size()) - 1));
-    std::size_t next = 0;
-    for (const Heap& heap : heaps) {
-        for (int i = 0; i < heap.Count; ++i, ++next) {
-            places[order[next]] = std::clamp(heap.First, low, most) + apart * static_cast<double>(next);
-        }
-    }
-    return places;
-}
 
 int TurnChart::LeastHeight(int clans) {
     constexpr double least = 112;
