@@ -49,9 +49,9 @@ struct Clan {
 
 /// One amoeba piece.
 struct Piece {
-    int Square = 0;      ///< 1..NumSquares; 0: not on the board
-    int Damage = 0;      ///< rises by 1 when it starves or loses a fight in armour
-    int Slot = 0;        ///< its spot inside the square, 1..30; 0: not drawn
+    int Square = 0;                    ///< 1..NumSquares; 0: not on the board
+    int Damage = 0;                    ///< rises by 1 when it starves or loses a fight in armour
+    int Slot = 0;                      ///< its spot inside the square, 1..30; 0: not drawn
     FixedText<LongestPieceName> Name;  ///< dealt from the names file; longer names are cut
 };
 
@@ -131,7 +131,7 @@ struct GameTables {
     Table<Table<Piece, 0, MaxClans>, 0, MaxPieces> Amoeba;  ///< [piece][clan]
     /// [gene][clan]: which of the game's purchases the gene was, from 1; 0: never bought.
     Table<Table<int, 0, MaxClans>, 0, GeneCount> BoughtAs;
-    int Purchases = 0;  ///< genes bought in this game
+    int Purchases = 0;                   ///< genes bought in this game
     Table<int, 0, MaxClans> NameChoice;  ///< among how many names the clan's first piece was named
     /// Pieces per square and clan; column 0 counts every clan's. Kept by PutPiece and LiftPiece.
     Table<Table<std::int8_t, 0, MaxClans>, 0, MaxSquares> Occupancy;

@@ -15,12 +15,12 @@ WIDTH, BOX, HIGH, STEP, TOP = 1120, 210, 74, 116, 74
 
 # A room: row from the bottom, left edge, colour, and what lives there in two lines.
 ROOMS = {
-    "ui/app": (7, 300, "#f7e3b5", "plasmos, plasmos-shot, and", "a person made of code"),
-    "ui/window": (6, 290, "#d7ecd9", "the window and its menus;", "what the rules tell and ask"),
-    "ui/options": (5, 420, "#d7ecd9", "the preferences", ""),
-    "sim": (6, 860, "#f7e3b5", "plasmos-sim: many games,", "robot person, journal"),
-    "record": (5, 660, "#d5e5f5", "a game's inputs, and", "the game played again"),
-    "ui/strip": (4, 290, "#d7ecd9", "the cards beside the board:", "clans, log, message line"),
+    "ui/app": (8, 300, "#f7e3b5", "plasmos, plasmos-shot, and", "a person made of code"),
+    "ui/window": (7, 290, "#d7ecd9", "the window and its menus;", "what the rules tell and ask"),
+    "ui/options": (6, 620, "#d7ecd9", "the preferences", ""),
+    "sim": (7, 790, "#f7e3b5", "plasmos-sim: many games,", "robot person, journal"),
+    "record": (5, 790, "#d5e5f5", "a game's inputs, and", "the game played again"),
+    "ui/strip": (6, 380, "#d7ecd9", "the cards beside the board:", "clans, log, message line"),
     "flow": (4, 620, "#d5e5f5", "start, new game, the turns,", "scoring"),
     "ai": (4, 860, "#d5e5f5", "what a computer clan", "decides"),
     "ui/board": (3, 40, "#d7ecd9", "the puddle, the track,", "tool tips"),
@@ -70,11 +70,11 @@ def arrows():
 
 def corner(room):
     row, left = ROOMS[room][:2]
-    return left, TOP + (7 - row) * STEP
+    return left, TOP + (8 - row) * STEP
 
 
 def draw():
-    height = TOP + 8 * STEP + 10
+    height = TOP + 9 * STEP + 10
     lines = [
         '<?xml version="1.0" encoding="UTF-8"?>',
         "<!-- SPDX-License-Identifier: GPL-3.0-or-later -->",
@@ -104,7 +104,7 @@ def draw():
         ]
     legend = (("#f7e3b5", "programs"), ("#d7ecd9", "the window (Qt)"), ("#d5e5f5", "the core (standard library only)"))
     for place, (colour, text) in enumerate(legend):
-        y = TOP + 6 * STEP + 40 + place * 26
+        y = TOP + 7 * STEP + 40 + place * 26
         lines.append(f'  <rect x="780" y="{y}" width="18" height="18" rx="4" fill="{colour}" stroke="#33414d"/>')
         lines.append(f'  <text x="808" y="{y + 14}" font-size="13" fill="#33414d">{text}</text>')
     return "\n".join(lines + ["</svg>"]) + "\n"

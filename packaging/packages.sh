@@ -22,6 +22,7 @@ build    fonts-dejavu-core   letters where no desktop has brought any
 test     libgtest-dev        unit tests
 test     libgmock-dev        matchers of the unit tests
 test     librapidcheck-dev   property tests
+test     dbus-daemon         the bus of a desktop that the window asks
 ci       clang               the second compiler
 ci       clang-tidy          reads the sources for mistakes
 ci       clang-format        keeps the sources in one shape
@@ -33,7 +34,6 @@ ci       xvfb                an X server without a screen, for the window tests
 ci       xauth               needed by xvfb-run
 ci       xdotool             moves its pointer and presses its keys
 ci       at-spi2-core        the accessibility bus, for the game by ear
-ci       dbus-daemon         a session's bus of its own, which starts it
 ci       python3-gi          talks over them
 ci       ccache              makes second builds quick
 ci       python3             draws the rooms

@@ -52,6 +52,10 @@ void GameRecorder::OnBegin(Step step, int clan, int amoeba) {
 void GameRecorder::OnEnd(Step step, int clan, int amoeba) {
     LookWhetherDealt();
     CountMoment();
+    figures_.Note(step, game);
+    if (step == Step::NewGame || step == Step::Score) {
+        endOfTurn_.push_back(moment_);
+    }
     InputRecorder::OnEnd(step, clan, amoeba);
 }
 
@@ -95,6 +99,10 @@ void GameRecorder::OnAnswer(const Question& question, const Answer& answer, bool
     if (!accepted && !told) {
         Tell("refused\n");
     }
+}
+
+int GameRecorder::EndOfTurn(int turn) const {
+    return turn >= 0 && turn < static_cast<int>(endOfTurn_.size()) ? endOfTurn_[static_cast<std::size_t>(turn)] : 0;
 }
 
 std::size_t GameRecorder::InputsBefore(int moment) const {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "record/game_record.h"
+#include "record/turn_figures.h"
 
 namespace plasmos {
 
@@ -37,6 +38,10 @@ public:
     bool CanBePlayed() const { return dealt_; }
     int Moment() const { return moment_; }
     const std::vector<Place>& Places() const { return places_; }
+    /// How the game stood at the end of every turn.
+    const std::vector<TurnFigures>& Figures() const { return figures_.Kept(); }
+    /// The moment at which a turn was over; turn 0: the setup. 0: it is not over yet.
+    int EndOfTurn(int turn) const;
     /// How many inputs had been given before a moment.
     std::size_t InputsBefore(int moment) const;
     const std::vector<Chapter>& Chapters() const { return chapters_; }
@@ -67,6 +72,8 @@ private:
     std::vector<int> momentOf_;  ///< of every input
     std::vector<Place> places_;
     std::vector<Chapter> chapters_;
+    FigureKeeper figures_;
+    std::vector<int> endOfTurn_;
 };
 
 /// Takes away that the person left, at the end of a game's inputs.

@@ -25,10 +25,11 @@ std::string Called(const QWidget* widget) {
     return (name.isEmpty() ? QString::fromLatin1(widget->metaObject()->className()) : name).toStdString();
 }
 
-/// The scrolled area around a control; none: nullptr.
+/// The area that a control is scrolled in; none: nullptr. An area's own bars are not scrolled.
 QScrollArea* AreaAround(const QWidget& control) {
     for (QWidget* parent = control.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(parent)) {
+        auto* area = qobject_cast<QScrollArea*>(parent);
+        if (area != nullptr && area->viewport()->isAncestorOf(&control)) {
             return area;
         }
     }

@@ -14,6 +14,7 @@
 #include "ui/dialogs/victim_panel.h"
 #include "ui/look/arrow_keys.h"
 #include "ui/look/dress.h"
+#include "ui/look/page_keys.h"
 #include "ui/look/palette.h"
 #include "ui/look/scroll_body.h"
 
@@ -210,6 +211,11 @@ void QuestionPanel::paintEvent(QPaintEvent* event) {
     if (clan_ > 0) {
         DrawClanBadge(painter, clan_, QPointF(26, HeadHeight / 2.0 + 1), 10);
     }
+}
+
+// Where all of it is in sight, the keys go through the turns as everywhere.
+bool QuestionPanel::event(QEvent* event) {
+    return KeepsPageKeys(event, [this] { return scroll_->verticalScrollBar()->maximum() > 0; }) || Card::event(event);
 }
 
 void QuestionPanel::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 #include "ui/strip/log_view.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBlockFormat>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "ui/look/dress.h"
+#include "ui/look/page_keys.h"
 #include "ui/look/palette.h"
 
 namespace plasmos {
@@ -45,6 +47,8 @@ void LogView::Clear() {
     clear();
     heading_.clear();
     empty_ = following_ = true;
+    marked_ = 0;
+    setExtraSelections({});
     started_ = false;
 }
 
@@ -88,6 +92,73 @@ QColor LogView::ColourOf(Manner manner) {
     return Shade(manner == Manner::Heading ? Tone::Accent : manner == Manner::Quiet ? Tone::Faint : Tone::Ink);
 }
 
+// ---- looking back ----
+
+void LogView::MarkMoment(int moment) {
+    marked_ = moment;
+    Mark();
+}
+
+void LogView::Mark() {
+    QTextBlock last;
+    for (QTextBlock block = document()->begin(); marked_ > 0 && block.isValid(); block = block.next()) {
+        if (block.userState() > 0 && block.userState() <= marked_) {
+            last = block;
+        }
+    }
+    QList<QTextEdit::ExtraSelection> marks;
+    if (last.isValid()) {
+        QTextEdit::ExtraSelection mark;
+        mark.cursor = QTextCursor(last);
+        mark.format.setBackground(Shade(Tone::Highlight));
+        mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+        marks.append(mark);
+        following_ = false;
+        const QRect place = cursorRect(mark.cursor);
+        if (!viewport()->rect().contains(place)) {
+            verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - viewport()->height() / 2);
+        }
+    }
+    setExtraSelections(marks);
+    if (marks.isEmpty() && marked_ == 0) {
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    }
+}
+
+void LogView::LookAtLine(const QTextCursor& cursor) {
+    if (const int moment = cursor.block().userState(); OnMoment && moment > 0) {
+        OnMoment(moment);
+    }
+}
+
+void LogView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->pos();
+    QTextEdit::mousePressEvent(event);
+}
+
+// Who drags over lines selects them.
+void LogView::mouseReleaseEvent(QMouseEvent* event) {
+    QTextEdit::mouseReleaseEvent(event);
+    constexpr int atRest = 4;
+    if (event->button() == Qt::LeftButton && !textCursor().hasSelection() &&
+        (event->pos() - pressed_).manhattanLength() <= atRest) {
+        LookAtLine(cursorForPosition(event->pos()));
+    }
+}
+
+void LogView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        LookAtLine(textCursor());
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
+// Who reads in the log pages through it.
+bool LogView::event(QEvent* event) {
+    return KeepsPageKeys(event, [this] { return verticalScrollBar()->maximum() > 0; }) || QTextEdit::event(event);
+}
+
 void LogView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::StyleChange && scheme_ != CurrentScheme()) {
         scheme_ = CurrentScheme();
@@ -127,6 +198,7 @@ void LogView::Append(const QString& sign, int clan, const QString& text, Manner 
     block.setTopMargin(heading && !empty_ ? 6 : 0);
     empty_ ? cursor.setBlockFormat(block) : cursor.insertBlock(block);
     empty_ = false;
+    cursor.block().setUserState(MomentOfNow ? MomentOfNow() : 0);
     QTextCharFormat letters;
     if (!sign.isEmpty()) {
         letters.setForeground(ShadesOf(clan).Edge);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTextEdit>
+#include <functional>
 
 #include "ui/look/theme.h"
 
@@ -11,6 +12,13 @@ namespace plasmos {
 class LogView : public QTextEdit {
 public:
     explicit LogView(QWidget* parent);
+
+    /// Gives the moment of the game that a line belongs to as it is written; a line of moment 0 leads nowhere.
+    std::function<int()> MomentOfNow;
+    /// A line is pressed, or Enter on the line of the cursor: somebody wants to see its moment.
+    std::function<void(int moment)> OnMoment;
+    /// Marks the last line of a moment, or of what came before it, and brings it into sight; 0: none.
+    void MarkMoment(int moment);
 
     /// Empties the log for the game that is about to begin.
     void Clear();
@@ -26,16 +34,24 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     enum class Manner { Heading, Told, Quiet };
 
     void WriteHeading();
+    void Mark();
+    void LookAtLine(const QTextCursor& cursor);
     void Recolour();
     static QColor ColourOf(Manner manner);
     void Append(const QString& sign, int clan, const QString& text, Manner manner);
 
     QString heading_;
+    int marked_ = 0;  ///< the moment
+    QPoint pressed_;
     Scheme scheme_ = CurrentScheme();
     bool empty_ = true;
     bool started_ = false;

@@ -12,6 +12,7 @@
 #include "ui/strip/log_view.h"
 #include "ui/strip/question_card.h"
 #include "ui/strip/start_card.h"
+#include "ui/strip/summary_panel.h"
 
 namespace plasmos {
 
@@ -32,6 +33,7 @@ SideStrip::SideStrip(QWidget* parent, const GameState& state)
       Question(new QuestionCard(this, state)),
       Clans(new ClanPanel(this, state)),
       Log(new LogView(this)),
+      Summary(new SummaryPanel(this, state)),
       state_(&state) {
     SetPlaying(false);
 }
@@ -48,6 +50,16 @@ void SideStrip::SetPlaying(bool playing) {
     Start->setVisible(!playing);
     Question->setVisible(playing);
     Arrange();
+}
+
+void SideStrip::ShowSummary(const std::vector<TurnFigures>& figures) {
+    Summary->Show(figures);
+    Arrange();
+}
+
+bool SideStrip::LooksBack() const {
+    return !playing_ && Summary->HasGame() &&
+           Start->ShortHeight(width()) + Gap + Summary->LeastHeight(width()) <= height();
 }
 
 void SideStrip::SetPanels(const std::vector<QuestionPanel*>& panels) {
@@ -74,7 +86,9 @@ void SideStrip::MakePlan() {
         return;
     }
     // After a game the final scores are worth more than the last light.
-    const int scores = Start->HeightFor(width(), height()) + Clans->ShortHeight() + Gap;
+    const int scores =
+        LooksBack() ? Start->ShortHeight(width()) + Gap + Summary->HeightFor(width(), height()) + Gap + Px(PleasantLog)
+                    : Start->HeightFor(width(), height()) + Clans->ShortHeight() + Gap;
     const int environment = Environment->sizeHint().height() + Gap;
     plan_ = {state_->NumPlayers > 0 && height() >= environment + scores, false, 0};
 }
@@ -115,7 +129,8 @@ int SideStrip::ArrangeHead() {
         Question->setGeometry(0, top, width(), question);
         top += question + Gap;
     } else {
-        const int start = Start->HeightFor(width(), height() - top - Gap - Clans->ShortHeight());
+        const int start = LooksBack() ? std::min(Start->ShortHeight(width()), height() - top)
+                                      : Start->HeightFor(width(), height() - top - Gap - Clans->ShortHeight());
         Start->setGeometry(0, top, width(), start);
         top += start + Gap;
     }
@@ -152,13 +167,22 @@ int SideStrip::ArrangePanels(int top) {
     return top;
 }
 
-void SideStrip::Arrange() {
-    MakePlan();
-    int top = ArrangePanels(ArrangeHead());
+int SideStrip::ArrangeSummary(int top) {
+    Summary->setVisible(LooksBack());
+    if (!LooksBack()) {
+        return top;
+    }
+    const int high = Summary->HeightFor(width(), height() - top);
+    Summary->setGeometry(0, top, width(), high);
+    return top + high + Gap;
+}
+
+// The clans' figures stand in the summary of a game, too.
+int SideStrip::ArrangeClans(int top) {
     const int room = height() - top;
     const int least = Clans->LeastHeight();
-    const bool cards = room >= least;
-    const bool clans = least > 0 && room >= Clans->ShortHeight();
+    const bool cards = room >= least + (LooksBack() ? Gap + Px(PleasantLog) : 0);
+    const bool clans = least > 0 && (cards || (!LooksBack() && room >= Clans->ShortHeight()));
     Clans->setVisible(clans);
     if (clans) {
         const int wanted = cards ? std::clamp(room - Px(PleasantLog), least, std::max(Clans->FullHeight(), least))
@@ -166,6 +190,12 @@ void SideStrip::Arrange() {
         Clans->setGeometry(0, top, width(), wanted);
         top += wanted + Gap;
     }
+    return top;
+}
+
+void SideStrip::Arrange() {
+    MakePlan();
+    const int top = ArrangeClans(ArrangeSummary(ArrangePanels(ArrangeHead())));
     const int log = height() - top;
     Log->setVisible(log >= Px(LeastLog));
     Log->setGeometry(0, top, width(), std::max(log, Px(LeastLog)));

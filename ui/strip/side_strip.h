@@ -12,10 +12,12 @@ class LogView;
 class QuestionCard;
 class QuestionPanel;
 class StartCard;
+class SummaryPanel;
 struct GameState;
+struct TurnFigures;
 
-/// The strip beside the board: environment, question or start, open dialogs, clans, log. What does not
-/// fit below an open dialog makes room for it.
+/// The strip beside the board: environment, question or start, open dialogs, the game that is over, clans, log. What
+/// does not fit below an open dialog makes room for it.
 class SideStrip : public QWidget {
 public:
     SideStrip(QWidget* parent, const GameState& state);
@@ -25,6 +27,7 @@ public:
     QuestionCard* Question;
     ClanPanel* Clans;
     LogView* Log;
+    SummaryPanel* Summary;
 
     /// Shows environment and clans of another state, which is to live as long as it is shown. What is asked and told
     /// stays.
@@ -33,6 +36,9 @@ public:
     void SetPlaying(bool playing);
     /// The open dialogs, the topmost last.
     void SetPanels(const std::vector<QuestionPanel*>& panels);
+    /// A game that came to its end is looked back at below the start card, until the next one begins. No figures: none
+    /// is.
+    void ShowSummary(const std::vector<TurnFigures>& figures);
     void Arrange();
 
 protected:
@@ -50,6 +56,9 @@ private:
     Plan PlanAround(const QuestionPanel& dialog) const;
     int ArrangeHead();
     int ArrangePanels(int top);
+    int ArrangeSummary(int top);
+    int ArrangeClans(int top);
+    bool LooksBack() const;
 
     const GameState* state_;
     Plan plan_;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "model/game_state.h"
+#include "ui/dialogs/question_panel.h"
 #include "ui/look/blob_shape.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
@@ -57,6 +58,10 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
     txtReplay->setToolTip(QStringLiteral("The same replay number deals the same game"));
     replayLabel_->setText(QStringLiteral("Replay number"));
     txtReplay->setAccessibleName(replayLabel_->text());
+    for (QPushButton* button : {gob, guideb, watchb}) {
+        RefuseRepeats(button);
+        button->setAutoDefault(true);
+    }
     ShowWelcome();
 }
 
@@ -115,6 +120,10 @@ int StartCard::HeightFor(int width, int room) const {
     }
     const int whole = ResultHeight(width, places_ + story_);
     return whole <= room ? whole : std::min(ResultHeight(width, story_), room);
+}
+
+int StartCard::ShortHeight(int width) const {
+    return winner_ == 0 ? HeightFor(width, 0) : ResultHeight(width, story_);
 }
 
 void StartCard::Redress() {

@@ -35,6 +35,8 @@ public:
     /// A line about the game that is over, how it came out, everybody's places, and the clan that has won.
     void ShowResult(const QString& line, const QString& story, const QString& places, int clan);
     int HeightFor(int width, int room) const;
+    /// The same without everybody's places.
+    int ShortHeight(int width) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

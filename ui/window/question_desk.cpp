@@ -60,14 +60,23 @@ void QuestionDesk::Hold(bool on) {
     wait_.Interrupt();
 }
 
+void QuestionDesk::Freeze(bool on) {
+    if (std::exchange(frozen_, on) != on) {
+        ActivateTop(Qt::OtherFocusReason);
+        wait_.Interrupt();
+    }
+}
+
 void QuestionDesk::Step() {
     step_ = true;
     wait_.Interrupt();
 }
 
 void QuestionDesk::WaitWhileHeld() {
-    strip_->Question->ShowHint(QStringLiteral("Paused. F8 goes on, F9 takes a step."));
-    while (held_ && !std::exchange(step_, false) && !services.Switches.Leaves()) {
+    if (held_) {
+        strip_->Question->ShowHint(QStringLiteral("Paused. F8 goes on, F9 takes a step."));
+    }
+    while ((frozen_ || (held_ && !std::exchange(step_, false))) && !services.Switches.Leaves()) {
         wait_.ForAnswer(LongestWait);
         ThrowIfOver();
     }
@@ -91,7 +100,7 @@ void QuestionDesk::Pause(int units) {
     if (!services.Switches.Leaves()) {
         wait_.ForTime(Duration(units * PauseUnit));
     }
-    if (held_) {
+    if (held_ || frozen_) {
         WaitWhileHeld();
     }
     ThrowIfOver();
@@ -154,12 +163,12 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     std::vector<QuestionPanel*> panels;
     for (std::size_t i = 0; i < asked_.size(); ++i) {
         if (asked_[i].Panel) {
-            asked_[i].Panel->setEnabled(i + 1 == asked_.size());
+            asked_[i].Panel->setEnabled(!frozen_ && i + 1 == asked_.size());
             panels.push_back(asked_[i].Panel.get());
         }
     }
     Question* top = TopQuestion();
-    const auto* square = As<SquareQuestion>(top);
+    const auto* square = frozen_ ? nullptr : As<SquareQuestion>(top);
     strip_->Question->ShowHint(square != nullptr ? QStringLiteral("Click one of the glowing squares.") : QString());
     track_->Puddle()->SetAsked(square != nullptr ? ToQt(square->Text).trimmed() : QString());
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
@@ -167,9 +176,12 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
     strip_->Question->ShowAbout(top != nullptr && !asked_.back().Panel ? ToQt(top->Hint) : QString());
     strip_->SetPanels(panels);
-    strip_->Question->AskYesNo(yesNo != nullptr);
+    strip_->Question->AskYesNo(yesNo != nullptr && !frozen_);
     ShowAsked();
     ShowSafety();
+    if (frozen_) {
+        return;
+    }
     if (square != nullptr) {
         track_->Puddle()->setFocus();
     } else if (top != nullptr && asked_.back().Panel) {
@@ -229,7 +241,7 @@ void QuestionDesk::AnnounceTop() {
 
 void QuestionDesk::Answer(void (*handler)()) {
     const Question* top = TopQuestion();
-    if (top == nullptr || top->Kind != QuestionKind::YesNo) {
+    if (top == nullptr || top->Kind != QuestionKind::YesNo || frozen_) {
         return;
     }
     strip_->Question->yesb->setEnabled(false);
@@ -246,7 +258,7 @@ void QuestionDesk::WarnOfSquare(const SquareQuestion& question, int square) {
 
 void QuestionDesk::AnswerSquare(int x, int y) {
     Question* top = TopQuestion();
-    if (const auto* square = As<SquareQuestion>(top); square != nullptr) {
+    if (const auto* square = As<SquareQuestion>(top); square != nullptr && !frozen_) {
         WarnOfSquare(*square, SquareAt(game, x, y));
         Picture1_MouseUp(x, y);
         wait_.Wake();

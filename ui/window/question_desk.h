@@ -61,6 +61,8 @@ public:
     /// What goes on by itself stops at the next pause, until it is let go or taken a step further. Questions wait for
     /// their answers as ever.
     void Hold(bool on);
+    /// Nothing goes on and nothing is answered, as long as an earlier board is shown.
+    void Freeze(bool on);
     void Step();
 
 private:
@@ -95,6 +97,7 @@ private:
     bool motion_ = true;
     bool held_ = false;
     bool step_ = false;
+    bool frozen_ = false;
 };
 
 }  // namespace plasmos

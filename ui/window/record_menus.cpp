@@ -16,6 +16,7 @@
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/kept_game_view.h"
+#include "ui/window/look_desk.h"
 #include "ui/window/record_desk.h"
 
 namespace plasmos {
@@ -51,7 +52,8 @@ QString FolderOfFiles() {
 
 }  // namespace
 
-RecordMenus::RecordMenus(QMainWindow& window, RecordDesk& records) : window_(&window), records_(&records) {
+RecordMenus::RecordMenus(QMainWindow& window, RecordDesk& records, LookDesk& look)
+    : window_(&window), records_(&records), look_(&look) {
     BuildFileMenu(window_->findChild<QMenu*>(QStringLiteral("fil_men")));
     auto* options = window_->findChild<QMenu*>(QStringLiteral("opt_men"));
     auto* menu = new QMenu(QStringLiteral("&Game"), window_);
@@ -89,12 +91,29 @@ void RecordMenus::BuildGameMenu(QMenu* menu) {
     connect(backmen_, &QAction::triggered, this, [this] { records_->TakeBack(); });
     againmen_ = AddItem(menu, "againmen", QStringLiteral("&Again"), QStringLiteral("Ctrl+Shift+Z"));
     connect(againmen_, &QAction::triggered, this, [this] { records_->GoAgain(); });
+    menu->addSeparator();
+    AddLooks(menu);
+}
+
+void RecordMenus::AddLooks(QMenu* menu) {
+    const auto add = [this, menu](const char* name, const char* caption, const char* keys, const auto& deed) {
+        QAction* item = AddItem(menu, name, QString::fromLatin1(caption), QString::fromLatin1(keys));
+        connect(item, &QAction::triggered, this, deed);
+        looks_.append(item);
+    };
+    add("earliermen", "&Earlier", "PgUp", [this] { look_->Move(-1); });
+    add("latermen", "&Later", "PgDown", [this] { look_->Move(1); });
+    add("firstmen", "The &Beginning", "Home", [this] { look_->LookAtFirst(); });
+    add("nowmen", "&Now", "End", [this] { look_->Return(); });
 }
 
 void RecordMenus::ShowPossible() {
     savemen_->setEnabled(!guided_ && records_->HasGame());
     backmen_->setEnabled(!guided_ && records_->CanTakeBack());
     againmen_->setEnabled(!guided_ && records_->CanGoAgain());
+    for (QAction* item : looks_) {
+        item->setEnabled(!guided_ && records_->HasGame());
+    }
 }
 
 void RecordMenus::Enable(bool guided) {

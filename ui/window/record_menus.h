@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <functional>
 
@@ -10,13 +11,14 @@ class QMenu;
 
 namespace plasmos {
 
+class LookDesk;
 class RecordDesk;
 
 /// What of the menus concerns the record of a game: opening, saving and the recent games in the menu File, taking back
-/// in the menu Game.
+/// and looking back in the menu Game.
 class RecordMenus : public QObject {
 public:
-    RecordMenus(QMainWindow& window, RecordDesk& records);
+    RecordMenus(QMainWindow& window, RecordDesk& records, LookDesk& look);
 
     /// What can be chosen now. A guided game is neither saved nor taken back.
     void Enable(bool guided);
@@ -24,6 +26,8 @@ public:
     void ShowPossible();
     /// A file that was given to the program.
     void Open(const QString& path);
+    /// Asks where the game is to be saved, and saves it.
+    void AskWhereToSave();
 
 private:
     QAction* AddItem(QMenu* menu, const char* name, const QString& caption, const QString& keys);
@@ -31,12 +35,14 @@ private:
     void BuildGameMenu(QMenu* menu);
     void FillRecent();
     void AddRecent(const QString& path, const QString& caption);
+    void AddLooks(QMenu* menu);
     void AskForFile();
-    void AskWhereToSave();
     void NoteFile(const QString& path);
 
     QMainWindow* window_;
     RecordDesk* records_;
+    LookDesk* look_;
+    QList<QAction*> looks_;
     QMenu* recent_ = nullptr;
     QAction* openmen_ = nullptr;
     QAction* savemen_ = nullptr;

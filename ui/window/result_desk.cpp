@@ -15,9 +15,12 @@ namespace plasmos {
 ResultDesk::ResultDesk(StartCard& card, std::function<void(const QString& text)> tell)
     : card_(&card), tell_(std::move(tell)) {}
 
+bool ResultDesk::IsOver() {
+    return game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
+}
+
 void ResultDesk::Show(bool played) {
-    const bool over = game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
-    if (!over) {
+    if (!IsOver()) {
         ShowUnfinished();
         return;
     }

@@ -8,6 +8,7 @@
 #include "ui/look/dress.h"
 #include "ui/strip/side_strip.h"
 #include "ui/window/guide_bar.h"
+#include "ui/window/look_bar.h"
 
 namespace plasmos {
 
@@ -21,7 +22,10 @@ TableTop::TableTop(QWidget* parent, const GameState& state)
     : QWidget(parent),
       Track(new ScoreTrack(this, state)),
       Strip(new SideStrip(this, state)),
-      Guide(new GuideBar(this)) {}
+      Guide(new GuideBar(this)),
+      Look(new LookBar(this)) {
+    setTabOrder(Track, Look);
+}
 
 void TableTop::ShowGuide(bool on) {
     Guide->setVisible(on);
@@ -49,7 +53,11 @@ void TableTop::Arrange() {
         inner.setBottom(inner.bottom() - guide - Margin);
     }
     Strip->setGeometry(inner.right() - side + 1, inner.top(), side, inner.height());
-    Track->setGeometry(inner.left(), inner.top(), inner.width() - side - Margin, inner.height());
+    const int wide = inner.width() - side - Margin;
+    const int look = Guide->isVisibleTo(this) ? 0 : Look->Height();
+    Look->setVisible(look > 0);
+    Look->setGeometry(inner.left(), inner.bottom() + 1 - look, wide, look);
+    Track->setGeometry(inner.left(), inner.top(), wide, inner.height() - (look > 0 ? look + 4 : 0));
 }
 
 }  // namespace plasmos

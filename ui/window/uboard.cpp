@@ -29,14 +29,12 @@
 #include "ui/window/board_menus.h"
 #include "ui/window/guide_bar.h"
 #include "ui/window/guide_desk.h"
-#include "ui/window/kept_game_view.h"
+#include "ui/window/history_desk.h"
 #include "ui/window/leave_guard.h"
 #include "ui/window/legend.h"
 #include "ui/window/lent_labels.h"
 #include "ui/window/preferences_desk.h"
 #include "ui/window/question_desk.h"
-#include "ui/window/record_desk.h"
-#include "ui/window/record_menus.h"
 #include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
 #include "ui/window/view_menus.h"
@@ -76,9 +74,9 @@ UBoard::UBoard(const PresentationMaker& make) {
     BuildView();
     results_ = std::make_unique<ResultDesk>(*strip_->Start, [this](const QString& text) { ShowNotice(*this, text); });
     BuildStart();
-    BuildRecords();
+    BuildHistory(*table);
     presentation_ = make({*this, *track_, *strip_, *menus_, *desk_});
-    records_->ShowBy(*presentation_);
+    history_->ShowBy(*presentation_);
     services.Window = presentation_.get();
     place_->Load();
     SetPlaying(false);
@@ -108,7 +106,7 @@ void UBoard::BuildDesks(TableTop& table) {
     guide_ = std::make_unique<GuideDesk>(table);
     desk_->OnTop = [this](const Question* top) {
         guide_->Show(top);
-        recordMenus_->ShowPossible();
+        history_->Follow();
     };
     connect(table.Guide->endguideb, &QPushButton::clicked, this, [this] { LeaveGame(); });
     RefuseRepeats(table.Guide->endguideb);
@@ -129,42 +127,28 @@ void UBoard::BuildStart() {
     connect(strip_->Start->guideb, &QPushButton::clicked, this, [this] { guide_Click(); });
     connect(strip_->Start->watchb, &QPushButton::clicked, this, [this] { watch_Click(); });
     connect(strip_->Start->txtReplay, &QLineEdit::returnPressed, this, [this] { gob_Click(); });
-    for (QPushButton* button : {strip_->Start->gob, strip_->Start->guideb, strip_->Start->watchb}) {
-        RefuseRepeats(button);
-        button->setAutoDefault(true);
-    }
     strip_->Start->OfferGuide(services.Settings == nullptr || services.Settings->Get("play", "begun", "0") != "1");
 }
 
-void UBoard::BuildRecords() {
-    records_ = std::make_unique<RecordDesk>(
-        *this,
-        RecordDesk::Deeds{[this](const std::function<void()>& play) { Play(play); }, [this] { desk_->LeaveGame(); },
-                          [this] {
-                              ClearTable();
-                              ClearBoard();
-                          },
-                          [this] { EnableStart(); }, [this](const QString& text) { ShowNotice(*this, text); }});
-    recordMenus_ = std::make_unique<RecordMenus>(*this, *records_);
-    connect(strip_->Start->resumeb, &QPushButton::clicked, this, [this] { records_->Open(waiting_); });
-    RefuseRepeats(strip_->Start->resumeb);
-    strip_->Start->resumeb->setAutoDefault(true);
+void UBoard::BuildHistory(TableTop& table) {
+    const auto afresh = [this] {
+        ClearTable();
+        ClearBoard();
+    };
+    history_ = std::make_unique<HistoryDesk>(
+        *this, table, *desk_,
+        HistoryDesk::Deeds{[this](const std::function<void()>& play) { Play(play); }, afresh, [this] { EnableStart(); },
+                           [this] { gob_Click(); }, [this](const GameState& state) { ShowState(state); },
+                           [this](const QString& text) { ShowNotice(*this, text); }});
 }
 
 void UBoard::OpenGame(const QString& path) {
-    recordMenus_->Open(path);
-}
-
-void UBoard::OfferResume() {
-    const auto left = LatestKeptGame(records_->GamesFolder(), StartCard::PictureSide(), devicePixelRatioF());
-    waiting_ = left ? left->Path : std::string();
-    strip_->Start->OfferResume(left ? left->Line : QString(), left ? left->Board : QPixmap());
-    strip_->Arrange();
+    history_->Open(path);
 }
 
 void UBoard::gob_Click() {
     NoteBegun();
-    Play([this] { records_->PlayNew(PlayGame); });
+    Play([this] { history_->PlayNew(PlayGame); });
 }
 
 void UBoard::guide_Click() {
@@ -188,7 +172,7 @@ void UBoard::NoteBegun() {
 }
 
 void UBoard::watch_Click() {
-    Play([this] { records_->PlayNew(PlayUnattended); });
+    Play([this] { history_->PlayNew(PlayUnattended); });
 }
 
 // The rules run in here. What they throw stays in here too: nothing may pass through Qt.
@@ -228,8 +212,8 @@ void UBoard::SetPlaying(bool playing) {
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        results_->Show(played && !guided_ && records_->CountsNow());
-        OfferResume();
+        results_->Show(played && !guided_ && history_->CountsNow());
+        history_->GameIsOver();
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
@@ -263,7 +247,7 @@ void UBoard::ClearBoard() {
     strip_->Environment->Clear();
     strip_->Clans->ShowAll();
     strip_->Start->ShowWelcome();
-    strip_->Arrange();
+    strip_->ShowSummary({});
 }
 
 void UBoard::EnableStart() {
@@ -274,22 +258,8 @@ void UBoard::EnableStart() {
     strip_->Start->watchb->setEnabled(free);
     strip_->Start->txtReplay->setEnabled(free);
     menus_->Enable(playing_, free, playing_ && guided_);
-    recordMenus_->Enable(playing_ && guided_);
+    history_->Enable(playing_ && guided_);
     view_->SetFree(free);
-}
-
-// The guided game deals the same cards again, and a game that is kept can be gone on with.
-bool UBoard::AsksBeforeLeaving() const {
-    return !guided_ && !records_->IsKept() && LeaveGuard::IsNeeded();
-}
-
-void UBoard::LeaveGame() {
-    if (playing_ && !AsksBeforeLeaving()) {
-        desk_->LeaveGame();
-    } else if (playing_) {
-        guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
-                    [this] { desk_->LeaveGame(); });
-    }
 }
 
 Question* UBoard::TopQuestion() const {
@@ -300,12 +270,6 @@ void UBoard::SetSpeed(double factor) {
     desk_->SetSpeed(factor);
 }
 
-void UBoard::EndProgram() {
-    lent_->Stop();
-    tips_->Stop();
-    desk_->EndProgram();
-}
-
 void UBoard::resizeEvent(QResizeEvent* event) {
     FitLetters(size());
     QMainWindow::resizeEvent(event);
@@ -314,23 +278,6 @@ void UBoard::resizeEvent(QResizeEvent* event) {
 void UBoard::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     place_->Watch();
-}
-
-void UBoard::CloseAtOnce() {
-    sure_ = true;
-    close();
-}
-
-void UBoard::closeEvent(QCloseEvent* event) {
-    if (!sure_ && playing_ && !desk_->Ended() && AsksBeforeLeaving()) {
-        event->ignore();
-        guard_->Ask(QStringLiteral("Close the window in the middle of this game? It cannot be taken up again."),
-                    QStringLiteral("&Close"), [this] { CloseAtOnce(); });
-        return;
-    }
-    place_->Save();
-    EndProgram();
-    event->accept();
 }
 
 }  // namespace plasmos

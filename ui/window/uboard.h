@@ -5,16 +5,16 @@
 #include <functional>
 #include <memory>
 
+#include "record/turn_figures.h"
 #include "ui/window/board_presentation.h"
 
 namespace plasmos {
 
 class GuideDesk;
+class HistoryDesk;
 class LeaveGuard;
 class LentLabels;
 class PreferencesDesk;
-class RecordDesk;
-class RecordMenus;
 class ResultDesk;
 class ToolTips;
 class TableTop;
@@ -48,7 +48,7 @@ public:
     /// Opens the record of a game, which is gone on with once the window lives.
     void OpenGame(const QString& path);
     /// The record of the game that is played, or was played last.
-    RecordDesk& Records() { return *records_; }
+    HistoryDesk& History() { return *history_; }
 
     /// Shows board, clans and environment of a state, which is to live as long as it is shown; of the current game
     /// with ShowState(game). What is asked, told and marked stays.
@@ -81,9 +81,8 @@ private:
     void NoteBegun();
     bool AsksBeforeLeaving() const;
     void BuildView();
-    void BuildRecords();
+    void BuildHistory(TableTop& table);
     void ClearTable();
-    void OfferResume();
     void LeaveGame();
 
     ScoreTrack* track_ = nullptr;
@@ -98,10 +97,8 @@ private:
     std::unique_ptr<ViewMenus> view_;
     std::unique_ptr<LeaveGuard> guard_;
     std::unique_ptr<GuideDesk> guide_;
-    std::unique_ptr<RecordDesk> records_;
-    std::unique_ptr<RecordMenus> recordMenus_;
+    std::unique_ptr<HistoryDesk> history_;
     std::unique_ptr<BoardPresentation> presentation_;
-    std::string waiting_;  ///< the kept game that the start card offers
     bool playing_ = false;
     bool guided_ = false;  ///< the game that is played is the guided one
     bool sure_ = false;    ///< the window closes without asking

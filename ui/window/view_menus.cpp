@@ -14,6 +14,7 @@
 #include "model/services.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
+#include "ui/window/desktop_motion.h"
 
 namespace plasmos {
 
@@ -113,6 +114,7 @@ void ViewMenus::BuildPace(QMenu* view) {
     motionmen_ = AddItem(view, "motionmen", QStringLiteral("&Motion"), {});
     motionmen_->setCheckable(true);
     connect(motionmen_, &QAction::triggered, this, [this](bool on) {
+        motionIsChosen_ = true;
         deeds_.SetMotion(on);
         Save("motion", on ? QStringLiteral("1") : QStringLiteral("0"));
     });
@@ -144,10 +146,24 @@ void ViewMenus::Load() {
             deeds_.SetPace(row.What);
         }
     }
-    const bool motion = Saved("motion", DesktopMoves(*window_) ? "1" : "0") == QLatin1String("1");
-    motionmen_->setChecked(motion);
-    deeds_.SetMotion(motion);
+    LoadMotion();
     SetPlaying(false);
+}
+
+void ViewMenus::LoadMotion() {
+    const QString saved = Saved("motion", "");
+    motionIsChosen_ = saved == QLatin1String("0") || saved == QLatin1String("1");
+    SetMotion(motionIsChosen_ ? saved == QLatin1String("1") : DesktopMoves(*window_));
+    new DesktopMotion(this, [this](bool moves) {
+        if (!motionIsChosen_) {
+            SetMotion(moves);
+        }
+    });
+}
+
+void ViewMenus::SetMotion(bool on) {
+    motionmen_->setChecked(on);
+    deeds_.SetMotion(on);
 }
 
 void ViewMenus::SetFree(bool free) {

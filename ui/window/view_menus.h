@@ -31,7 +31,7 @@ public:
 
     ViewMenus(QMainWindow& window, Deeds deeds);
 
-    /// Takes pace, motion and colours from the settings.
+    /// Takes pace, motion and colours from the settings; motion from the desktop until the person has chosen.
     void Load();
     /// A game begins or is over: nothing is held any more.
     void SetPlaying(bool playing);
@@ -43,6 +43,8 @@ private:
     void BuildColours(QMenu* view);
     void BuildPace(QMenu* view);
     void BuildHelp();
+    void LoadMotion();
+    void SetMotion(bool on);
     void Save(const char* key, const QString& value);
 
     QMainWindow* window_;
@@ -53,6 +55,7 @@ private:
     QAction* pausemen_ = nullptr;
     QAction* stepmen_ = nullptr;
     QAction* motionmen_ = nullptr;
+    bool motionIsChosen_ = false;  ///< by the person, not by the desktop
 };
 
 }  // namespace plasmos

@@ -169,13 +169,14 @@ std::string WhatIsWrong(Scene& scene, Question& question);
 /// frame around the window), else it is large.
 void ChooseScreen();
 
-/// Runs the tests of a class off the screen, away from the user's own settings.
+/// Runs the tests of a class off the screen, away from the user's own settings and desktop.
 template <class Tests>
 int RunWindowTests(int argc, char** argv) {
     ChooseScreen();
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     PrepareApplication();

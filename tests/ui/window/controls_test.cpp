@@ -113,8 +113,11 @@ void ControlsTest::afterAGame() {
         Scene scene;
         game.RequestedClans = clans;
         PLAY(scene, scene.Click(QStringLiteral("watchb")));
-        for (const char* name : {"gob", "watchb", "txtReplay", "titlelab"}) {
+        for (const char* name : {"gob", "watchb", "txtReplay", "titlelab", "newgameb"}) {
             QCOMPARE(WhyNotWhole(scene.Find(QString::fromLatin1(name))), std::string());
+        }
+        for (const char* name : {"chart_amoebas", "chart_food", "chart_mutation", "chart_score", "turnchart"}) {
+            PLAY(scene, scene.Click(QString::fromLatin1(name)));
         }
         QVERIFY2(scene.Puddle().width() >= LeastSquare * game.NumCols, "the board is too small");
     }

@@ -15,6 +15,7 @@
 #include "record/record_file.h"
 #include "tests/ui/support/scene.h"
 #include "ui/app/auto_person.h"
+#include "ui/window/history_desk.h"
 #include "ui/window/record_desk.h"
 #include "ui/window/uboard.h"
 
@@ -104,7 +105,7 @@ void RecordsTest::everyAnswerIsTakenBackAndGivenAgain() {
             scene.Player().Answer(question);
             return;
         }
-        const auto& places = scene.Board().Records().Recorder()->Places();
+        const auto& places = scene.Board().History().Records().Recorder()->Places();
         if (back == 0 && !again && places.size() == asked) {
             scene.Player().Answer(question);  // the same dialog, a step further
             return;
@@ -127,11 +128,11 @@ void RecordsTest::everyAnswerIsTakenBackAndGivenAgain() {
                 return;
             }
             again = true;
-            QVERIFY(!scene.Board().Records().CanTakeBack());
+            QVERIFY(!scene.Board().History().Records().CanTakeBack());
         } else {
             CompareStands(StandOf(scene, question), stands[static_cast<std::size_t>(++back)]);
         }
-        if (scene.Board().Records().CanGoAgain()) {
+        if (scene.Board().History().Records().CanGoAgain()) {
             scene.Menu(Again);
         } else {
             QCOMPARE(back, static_cast<int>(stands.size()) - 1);
@@ -174,11 +175,11 @@ void RecordsTest::anotherAnswerForgetsWhatWasTakenBack() {
     scene.Then(QuestionKind::Square, [&] { scene.ClickSquare(1); });
     scene.Then(QuestionKind::Square, [&] { scene.Menu(Back); });
     scene.Then(QuestionKind::Square, [&] {
-        QVERIFY(scene.Board().Records().CanGoAgain());
+        QVERIFY(scene.Board().History().Records().CanGoAgain());
         scene.ClickSquare(2);
     });
     scene.Then(QuestionKind::Square, [&] {
-        QVERIFY(!scene.Board().Records().CanGoAgain());
+        QVERIFY(!scene.Board().History().Records().CanGoAgain());
         QVERIFY(game.Occupancy[2][3] == 1 && game.Occupancy[1][3] == 0);
         scene.LeaveGame();
     });
@@ -238,7 +239,7 @@ void RecordsTest::twoPersonsTakeBackTheirOwn() {
             scene.Player().Answer(question);
             return;
         }
-        const auto inputs = scene.Board().Records().Recorder()->Inputs.size();
+        const auto inputs = scene.Board().History().Records().Recorder()->Inputs.size();
         if (expected > 0) {
             QCOMPARE(inputs, expected);
             QCOMPARE(question.Clan, asked.back().first);

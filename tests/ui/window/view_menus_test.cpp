@@ -36,6 +36,7 @@ private slots:
     void coloursAreKept();
     void paceIsKept_data();
     void paceIsKept();
+    void damagedSettingsAreTheUsual_data();
     void damagedSettingsAreTheUsual();
     void motionIsKept();
     void aPausedGameStands();
@@ -81,11 +82,19 @@ void ViewMenusTest::paceIsKept() {
     QVERIFY(scene.Item(name)->isChecked());
 }
 
+void ViewMenusTest::damagedSettingsAreTheUsual_data() {
+    QTest::addColumn<QByteArray>("motion");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a word") << QByteArray("much");
+}
+
 void ViewMenusTest::damagedSettingsAreTheUsual() {
-    Scene scene({{"look", "colours", "mauve"}, {"look", "pace", "17"}, {"look", "motion", ""}});
+    QFETCH(QByteArray, motion);
+    const bool usual = IsChecked(*std::make_unique<Scene>(), "motionmen");
+    Scene scene({{"look", "colours", "mauve"}, {"look", "pace", "17"}, {"look", "motion", motion.toStdString()}});
     QVERIFY(IsChecked(scene, "colour_desktop"));
     QVERIFY(IsChecked(scene, "pace_normal"));
-    QVERIFY(!IsChecked(scene, "motionmen"));
+    QCOMPARE(IsChecked(scene, "motionmen"), usual);
 }
 
 void ViewMenusTest::motionIsKept() {
