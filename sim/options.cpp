@@ -66,8 +66,9 @@ void CheckBench(const CLI::App& app) {
     if (app.count("--bench") == 0) {
         return;
     }
-    for (const char* other : {"--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows", "--cols",
-                              "--blocks", "--robot", "--format", "--output", "--journal", "--data", "--check"}) {
+    for (const char* other :
+         {"--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows", "--cols", "--blocks", "--robot",
+          "--format", "--output", "--journal", "--why", "--data", "--check"}) {
         if (app.count(other) != 0) {
             throw UsageError(Concat(other, ": --bench plays a fixed set of games; only --games goes with it"));
         }
@@ -109,6 +110,7 @@ void AddRunOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
         ->check(CLI::IsMember({"table", "csv", "json"}));
     app.add_option("--output", options.Output, "file for the results (default: standard output)");
     app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
+    app.add_flag("--why", options.Why, "the journal tells why computer clans do what they do (with --journal only)");
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
     app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
     app.add_flag("--check", options.Check, "looks through the whole state after every step");
@@ -135,6 +137,12 @@ void CheckNames(const CLI::App& app) {
     }
 }
 
+void CheckWhy(const SimOptions& options) {
+    if (options.Why && options.Journal.empty()) {
+        throw UsageError("--why: the reasons stand in the journal; only with --journal FILE are there any");
+    }
+}
+
 void ReadWords(const TypedWords& words, SimOptions& options) {
     static const std::map<std::string, ResultFormat> formats{
         {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
@@ -158,6 +166,7 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     AddRunOptions(app, options, words);
     ReadCommandLine(app, argc, argv);
     CheckNames(app);
+    CheckWhy(options);
     ReadWords(words, options);
     if (options.Bench && app.count("--games") == 0) {
         options.Games = BenchGames;

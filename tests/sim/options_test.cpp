@@ -136,6 +136,8 @@ const RefusedRow RefusedRows[] = {
     {"bench_with_clans", {"--bench", "--clans", "3"}, "--bench plays a fixed set"},
     {"empty_output", {"--output", ""}, "--output"},
     {"empty_journal", {"--journal", ""}, "--journal"},
+    {"why_without_a_journal", {"--why"}, "--why: the reasons stand in the journal; only with --journal FILE"},
+    {"why_with_bench", {"--bench", "--why", "--journal", "j"}, "--bench plays a fixed set"},
     {"empty_data_folder", {"--data", ""}, "--data"},
 };
 
