@@ -9,6 +9,7 @@
 #include "files/encoding.h"
 #include "files/game_files.h"
 #include "files/strings.h"
+#include "model/dealt_names.h"
 #include "model/dice.h"
 #include "model/services.h"
 
@@ -47,6 +48,7 @@ constexpr DefaultName DefaultNames[] = {
 /// Names a clan's pieces by die; a name that is taken leaves the list, whose order stays.
 void NameClan(int clan, std::string_view* names, int count) {
     const int all = count;
+    game.NameChoice[clan] = count;
     for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
         if (count == 0) {
             game.CurPlayer = clan;
@@ -89,6 +91,18 @@ void NameFromFile() {
     }
 }
 
+/// The same rolls, and the names that were dealt.
+void NameAsDealt() {
+    for (int clan = 1; clan <= game.NumPlayers; ++clan) {
+        const DealtNames::OfClan& dealt = services.Dealt->Of(clan);
+        game.NameChoice[clan] = dealt.Choice;
+        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+            RollDie(dealt.Choice - amoeba + 1);
+            game.Amoeba[amoeba][clan].Name = dealt.Pieces.at(static_cast<std::size_t>(amoeba - 1));
+        }
+    }
+}
+
 }  // namespace
 
 NameLine ParseNameLine(std::string_view line) {
@@ -109,7 +123,9 @@ void WriteDefaultNames() {
 }
 
 void LoadAmoebaNames() {
-    if (services.Files != nullptr) {
+    if (services.Dealt != nullptr) {
+        NameAsDealt();
+    } else if (services.Files != nullptr) {
         NameFromFile();
     } else {
         NameFromDefaults();

@@ -8,6 +8,7 @@
 #include "flow/names.h"
 #include "flow/personalities.h"
 #include "flow/scoring.h"
+#include "model/dealt_names.h"
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/happening.h"
@@ -65,6 +66,9 @@ int GetPlayerCount() {
 }
 
 std::string ClanName(int clan) {
+    if (services.Dealt != nullptr) {
+        return services.Dealt->Of(clan).Name;
+    }
     return services.Settings != nullptr ? SavedClanName(*services.Settings, clan) : DefaultClanName(clan);
 }
 

@@ -21,6 +21,8 @@ inline constexpr int LastTurn = 10;
 inline constexpr int LastCard = 10;
 /// Characters of a clan's name.
 inline constexpr int LongestClanName = 20;
+/// Bytes of a piece's name.
+inline constexpr int LongestPieceName = 60;
 /// Spots for pieces inside one square; spot 0 is "not drawn".
 inline constexpr int MaxSpots = 30;
 /// The score at which a game with the victory limit ends.
@@ -50,7 +52,7 @@ struct Piece {
     int Square = 0;      ///< 1..NumSquares; 0: not on the board
     int Damage = 0;      ///< rises by 1 when it starves or loses a fight in armour
     int Slot = 0;        ///< its spot inside the square, 1..30; 0: not drawn
-    FixedText<60> Name;  ///< dealt from the names file; longer names are cut
+    FixedText<LongestPieceName> Name;  ///< dealt from the names file; longer names are cut
 };
 
 /// One environment card.
@@ -130,6 +132,7 @@ struct GameTables {
     /// [gene][clan]: which of the game's purchases the gene was, from 1; 0: never bought.
     Table<Table<int, 0, MaxClans>, 0, GeneCount> BoughtAs;
     int Purchases = 0;  ///< genes bought in this game
+    Table<int, 0, MaxClans> NameChoice;  ///< among how many names the clan's first piece was named
     /// Pieces per square and clan; column 0 counts every clan's. Kept by PutPiece and LiftPiece.
     Table<Table<std::int8_t, 0, MaxClans>, 0, MaxSquares> Occupancy;
     Table<std::uint32_t, 0, MaxSquares> SpotsTaken;  ///< bit n: spot n of the square is taken

@@ -10,6 +10,7 @@ class Observer;
 class GameFiles;
 class SettingsStore;
 class DiceTape;
+struct DealtNames;
 class Question;
 
 /// Whom the games of a thread talk to. It stands beside the state, which points nowhere outside itself and
@@ -21,6 +22,7 @@ struct Services {
     GameFiles* Files = nullptr;         ///< nobody: no file is read or written
     SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
     DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none
+    const DealtNames* Dealt = nullptr;  ///< the names of a game that is played again; nobody: they are dealt anew
     SwitchQueue Switches;               ///< what a person has switched and the rules have not taken over yet
     Question* Asked = nullptr;          ///< the question that is open on top; none: nobody is asked
 };

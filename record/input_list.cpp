@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/input_list.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "files/runtime_error.h"
 #include "files/text.h"
+#include "model/game_state.h"
 #include "model/services.h"
 #include "questions/ask.h"
 
@@ -31,6 +33,42 @@ bool TakeSteps(std::string_view& line, int& steps) {
     return true;
 }
 
+constexpr std::size_t CheckDigits = 4;
+
+std::string CheckText(int check) {
+    std::string text = "0000 ";
+    for (std::size_t digit = CheckDigits; digit-- > 0; check /= 16) {
+        text[digit] = "0123456789abcdef"[check % 16];
+    }
+    return text;
+}
+
+/// No answer and no switch is a word of four such digits.
+void TakeCheck(std::string_view& line, int& check) {
+    int number = 0;
+    const auto digits = line.substr(0, CheckDigits);
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, 16);
+    if (error == std::errc() && end == digits.data() + CheckDigits && line.substr(CheckDigits, 1) == " ") {
+        check = number;
+        line.remove_prefix(CheckDigits + 1);
+    }
+}
+
+/// What is put in, without when and how the game stood then.
+std::string WordsOf(const Input& input) {
+    return input.IsSwitch ? input.Turned.Text() : input.Given.Text();
+}
+
+std::string AllowedText(const Question& question) {
+    constexpr std::size_t most = 8;
+    const auto allowed = question.Allowed();
+    std::string text;
+    for (std::size_t i = 0; i < std::min(allowed.size(), most); ++i) {
+        text += (i == 0 ? "" : ", ") + allowed[i].Text();
+    }
+    return text + (allowed.size() > most ? " and more" : "");
+}
+
 bool IsSwitchText(std::string_view line) {
     return line.substr(0, 4) == "set " || line == Switch{}.Text();
 }
@@ -38,12 +76,14 @@ bool IsSwitchText(std::string_view line) {
 }  // namespace
 
 std::string Input::Text() const {
-    const auto text = IsSwitch ? Turned.Text() : Given.Text();
-    return StepsBegun < 0 ? text : Concat(Before, StepsBegun, Steps, text);
+    const auto check = Check < 0 ? std::string() : CheckText(Check);
+    const auto text = WordsOf(*this);
+    return StepsBegun < 0 ? check + text : Concat(check, Before, StepsBegun, Steps, text);
 }
 
 std::string Input::Parse(std::string_view line, Input& input) {
     input = {};
+    TakeCheck(line, input.Check);
     if (!TakeSteps(line, input.StepsBegun)) {
         return Concat("\"", line, R"(" names no number of steps, as in "after 12 steps: set victory on")");
     }
@@ -64,22 +104,52 @@ void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
 
 void InputRecorder::OnInput(const Question& question, const Answer& answer) {
     Inputs.push_back(InputOf(answer));
+    Inputs.back().Check = CheckOfNow();
     PassingObserver::OnInput(question, answer);
 }
 
 void InputRecorder::OnSwitch(const Switch& turned, TakenAt place) {
     Inputs.push_back(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
+    Inputs.back().Check = CheckOfNow();
     PassingObserver::OnSwitch(turned, place);
 }
 
-InputPlayer::InputPlayer(const InputList& inputs, Observer* next)
-    : PassingObserver(next), inputs_(inputs), windowBefore_(services.Window), listenerBefore_(services.Listener) {
+// A switch may have been turned since.
+void InputRecorder::OnAnswer(const Question& question, const Answer& answer, bool accepted) {
+    if (Input* given = LatestAnswer(); !accepted && given != nullptr) {
+        given->Refused = true;
+    }
+    PassingObserver::OnAnswer(question, answer, accepted);
+}
+
+Input* InputRecorder::LatestAnswer() {
+    const auto given = std::find_if(Inputs.rbegin(), Inputs.rend(), [](const Input& input) { return !input.IsSwitch; });
+    return given != Inputs.rend() ? &*given : nullptr;
+}
+
+int CheckOfNow() {
+    std::uint64_t folded = game.Signature;
+    folded ^= folded >> 32U;
+    folded ^= folded >> 16U;
+    return static_cast<int>(folded & 0xFFFFU);
+}
+
+InputPlayer::InputPlayer(const InputList& inputs, Observer* next, std::size_t givenBefore)
+    : PassingObserver(next),
+      inputs_(inputs),
+      next_(givenBefore),
+      windowBefore_(services.Window),
+      listenerBefore_(services.Listener) {
     services.Window = this;
     services.Listener = this;
     TurnSwitchesBeforeStep();
 }
 
 InputPlayer::~InputPlayer() {
+    HandBack();
+}
+
+void InputPlayer::HandBack() {
     services.Window = windowBefore_;
     services.Listener = listenerBefore_;
 }
@@ -88,20 +158,57 @@ void InputPlayer::Open(Question& /*question*/) {}
 
 void InputPlayer::Close(Question& /*question*/) {}
 
+void InputPlayer::Exhausted(Question& /*question*/) {
+    throw GameLeft{};
+}
+
+/// The next input, which the open question is to take.
+const Input& InputPlayer::Take(const Question& question) {
+    const Input& input = inputs_[next_];
+    if (input.StepsBegun >= 0) {
+        throw InputFault{next_, Concat("a question is open here, and \"", WordsOf(input),
+                                       "\" answers none; allowed: ", AllowedText(question))};
+    }
+    if (input.Check >= 0 && input.Check != CheckOfNow()) {
+        throw InputFault{next_, Concat("the game stands otherwise here than when \"", WordsOf(input),
+                                       "\" was put in: something above was changed")};
+    }
+    answer_ = input.IsSwitch ? answer_ : next_;
+    ++next_;
+    return input;
+}
+
 /// Answers until the rule has something to look at. A switch is taken over before the next answer.
 void InputPlayer::Wait() {
     Question& question = *TopQuestion();
     while (!question.Answered()) {
-        if (AtEnd() || inputs_[next_].StepsBegun >= 0) {
-            throw GameLeft{};
+        if (AtEnd()) {
+            Exhausted(question);
+            return;
         }
-        const Input& input = inputs_[next_++];
+        const Input& input = Take(question);
         if (input.IsSwitch) {
             services.Switches.Add(input.Turned);
             return;
         }
         question.Put(input.Given);
     }
+}
+
+// Whether the last one of all was refused may not have been written down any more.
+void InputPlayer::OnAnswer(const Question& question, const Answer& answer, bool accepted) {
+    if (services.Window != this) {
+        PassingObserver::OnAnswer(question, answer, accepted);
+        return;
+    }
+    const Input& given = inputs_.at(answer_);
+    if (accepted == given.Refused && !(AtEnd() && answer_ + 1 == inputs_.size() && !accepted)) {
+        throw InputFault{
+            answer_,
+            Concat("\"", WordsOf(given), accepted ? "\" is taken here, and was refused" : "\" is refused here; allowed: ",
+                   accepted ? std::string() : AllowedText(question))};
+    }
+    PassingObserver::OnAnswer(question, answer, accepted);
 }
 
 void InputPlayer::TurnSwitchesBeforeStep() {

@@ -19,8 +19,14 @@ struct Input {
     /// A switch that was taken over before a step: the number of steps begun until then. -1: it came while a
     /// question waited, as every answer does.
     int StepsBegun = -1;
+    /// How the game stood when it was given, 0 to 65535, so that a game that has gone another way is found out. -1: it
+    /// is not known.
+    int Check = -1;
+    /// An answer that came to nothing. Its text does not tell.
+    bool Refused = false;
 
-    /// One line: "square 7", "set victory on", "after 12 steps: set victory on".
+    /// One line: "square 7", "set victory on", "after 12 steps: set victory on", with its check before it as four
+    /// hexadecimal digits: "03fa square 7".
     std::string Text() const;
     /// Reads what Text() writes; what comes back is what is wrong with the line, or an empty text.
     static std::string Parse(std::string_view line, Input& input);
@@ -29,11 +35,17 @@ struct Input {
 };
 
 inline Input InputOf(const Answer& answer) {
-    return {answer, {}, false, -1};
+    Input input;
+    input.Given = answer;
+    return input;
 }
 /// A switch while a question waits, or before a step.
 inline Input InputOf(const Switch& turned, int stepsBegun = -1) {
-    return {{}, turned, true, stepsBegun};
+    Input input;
+    input.Turned = turned;
+    input.IsSwitch = true;
+    input.StepsBegun = stepsBegun;
+    return input;
 }
 
 /// Everything that came from the persons of a game, in order. With the game's setup and its replay number it is the
@@ -81,36 +93,63 @@ public:
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnInput(const Question& question, const Answer& answer) override;
     void OnSwitch(const Switch& turned, TakenAt place) override;
+    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
 
     InputList Inputs;
+
+protected:
+    /// The latest that is no switch; none: nullptr.
+    Input* LatestAnswer();
 
 private:
     int steps_ = 0;
 };
 
-/// Plays a game again from its inputs: it is the window and the listener of that game while it lives. A question
-/// that the inputs do not answer ends the game, as a person who leaves does.
+/// The inputs of a game do not fit it.
+struct InputFault {
+    std::size_t Input = 0;  ///< the first that does not, from 0
+    std::string Text;       ///< what is wrong with it
+};
+
+/// The check of an input that is given now.
+int CheckOfNow();
+
+/// Plays a game again from its inputs: it is the window and the listener of that game while it lives. Raises
+/// InputFault where they do not fit. A question that the inputs do not answer ends the game, as a person who leaves
+/// does.
 class InputPlayer : public Presentation, public PassingObserver {
 public:
-    explicit InputPlayer(const InputList& inputs, Observer* next = nullptr);
+    /// The first inputs may be given by somebody else, who plays before it does.
+    explicit InputPlayer(const InputList& inputs, Observer* next = nullptr, std::size_t givenBefore = 0);
     ~InputPlayer() override;
 
     /// What is asked may hang on whether words are wanted; the game was played before somebody who wanted them.
     bool WantsText() const override { return true; }
     /// Whether every input has been given.
     bool AtEnd() const { return next_ == inputs_.size(); }
+    /// How many have been given.
+    std::size_t Given() const { return next_; }
 
     void Open(Question& question) override;
     void Close(Question& question) override;
     void Wait() override;
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnEnd(Step step, int clan, int amoeba) override;
+    void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
+
+protected:
+    /// A question is open, and every input has been given.
+    virtual void Exhausted(Question& question);
+    /// Whoever was window and listener before is it again.
+    void HandBack();
 
 private:
+    const Input& Take(const Question& question);
     void TurnSwitchesBeforeStep();
 
     const InputList& inputs_;
     std::size_t next_ = 0;
+    std::size_t answer_ = 0;  ///< the latest that is an answer
     int steps_ = 0;
     Presentation* windowBefore_;
     Observer* listenerBefore_;

@@ -153,7 +153,7 @@ void AppendState(std::string& text) {
     Append(text, "}");
 }
 
-std::string GameRecord() {
+std::string GameLine() {
     std::string text = Concat(R"({"t":"game","replay":)", ReplayText(game.ReplayNo), R"(,"clans":)", game.NumPlayers,
                               R"(,"rows":)", game.NumRows, R"(,"cols":)", game.NumCols, R"(,"blocks":[)");
     const auto separate = [&] { Append(text, text.back() == '[' ? "" : ","); };
@@ -196,7 +196,7 @@ void Journal::OnBegin(Step step, int clan, int amoeba) {
 
 void Journal::OnEnd(Step step, int /*clan*/, int /*amoeba*/) {
     if (step == Step::NewGame) {
-        text_.insert(0, GameRecord());
+        text_.insert(0, GameLine());
     }
     Append(text_, R"({"t":"end","step":")", StepName(step), R"(","state":)");
     AppendState(text_);

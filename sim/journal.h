@@ -33,7 +33,7 @@ private:
 };
 
 /// The first line of a game's journal, from the current state.
-std::string GameRecord();
+std::string GameLine();
 
 /// The whole state as one JSON object, complete enough to go on from.
 void AppendState(std::string& text);

@@ -68,9 +68,23 @@ void CheckBench(const CLI::App& app) {
     }
     for (const char* other :
          {"--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows", "--cols", "--blocks", "--robot",
-          "--format", "--output", "--journal", "--why", "--data", "--check"}) {
+          "--format", "--output", "--journal", "--why", "--data", "--records", "--check"}) {
         if (app.count(other) != 0) {
             throw UsageError(Concat(other, ": --bench plays a fixed set of games; only --games goes with it"));
+        }
+    }
+}
+
+/// A record tells everything of its game.
+void CheckRecord(const CLI::App& app) {
+    if (app.count("--record") == 0) {
+        return;
+    }
+    for (const char* other : {"--games", "--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows",
+                              "--cols", "--blocks", "--robot", "--jobs", "--bench", "--records"}) {
+        if (app.count(other) != 0) {
+            throw UsageError(Concat(other, ": --record takes everything of the game from its file; only --format, ",
+                                    "--output, --journal, --why, --data, --check and --progress go with it"));
         }
     }
 }
@@ -112,6 +126,8 @@ void AddRunOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
     app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
     app.add_flag("--why", options.Why, "the journal tells why computer clans do what they do (with --journal only)");
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
+    app.add_option("--records", options.Records, "folder for the record of every game, REPLAY.plasmos");
+    app.add_option("--record", options.Record, "plays this one record instead of games");
     app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
     app.add_flag("--check", options.Check, "looks through the whole state after every step");
     app.add_option("--progress", words.Progress, "auto, always or never (default auto)")
@@ -128,11 +144,15 @@ void ReadCommandLine(CLI::App& app, int argc, const char* const* argv) {
     }
 }
 
+bool IsFolder(std::string_view name) {
+    return name == "--data" || name == "--records";
+}
+
 void CheckNames(const CLI::App& app) {
-    for (const char* name : {"--output", "--journal", "--data"}) {
+    for (const char* name : {"--output", "--journal", "--data", "--records", "--record"}) {
         if (app.count(name) != 0 && app.get_option(name)->as<std::string>().empty()) {
-            throw UsageError(Concat(name, ": the name of a ", std::string_view(name) == "--data" ? "folder" : "file",
-                                    " is needed, not an empty text"));
+            throw UsageError(
+                Concat(name, ": the name of a ", IsFolder(name) ? "folder" : "file", " is needed, not an empty text"));
         }
     }
 }
@@ -171,7 +191,11 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     if (options.Bench && app.count("--games") == 0) {
         options.Games = BenchGames;
     }
+    CheckRecord(app);
     CheckBench(app);
+    if (!options.Record.empty()) {
+        options.Games = 1;
+    }
     CheckBoard(options);
     CheckReplay(options);
     CheckJobs(options, app.count("--jobs") != 0);

@@ -5,22 +5,20 @@
 #include <chrono>
 #include <cinttypes>
 #include <cstdio>
+#include <filesystem>
+#include <functional>
 #include <memory>
 #include <new>
 #include <optional>
-
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
 
 #include "files/file_place.h"
 #include "files/game_files.h"
 #include "model/dice.h"
 #include "model/signature.h"
+#include "record/record_file.h"
 #include "sim/options.h"
 #include "sim/output.h"
+#include "sim/progress_bar.h"
 #include "sim/results.h"
 #include "sim/simulate.h"
 
@@ -33,58 +31,6 @@ std::atomic<bool> interrupted{false};
 constexpr int ExitFinding = 1;
 constexpr int ExitBadInput = 2;
 constexpr int ExitInterrupted = 130;
-
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start) {
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-bool IsTerminal() {
-#ifdef _WIN32
-    return _isatty(_fileno(stderr)) != 0;
-#else
-    return isatty(fileno(stderr)) != 0;
-#endif
-}
-
-/// A bar on standard error.
-class ProgressBar {
-public:
-    ProgressBar(const SimOptions& options)
-        : games_(options.Games),
-          shown_(options.Progress == ProgressMode::Always || (options.Progress == ProgressMode::Auto && IsTerminal())) {
-    }
-
-    void Advance() {
-        ++done_;
-        if (shown_ && (SecondsSince(last_) > 0.1 || done_ == games_)) {
-            Draw();
-        }
-    }
-    void Clear() const {
-        if (shown_) {
-            std::fprintf(stderr, "\r%*s\r", Width + 40, "");
-        }
-    }
-
-private:
-    static constexpr int Width = 40;
-
-    void Draw() {
-        const auto filled = static_cast<int>(done_ * Width / games_);
-        std::fprintf(stderr, "\r[%s%s] %" PRId64 "/%" PRId64,
-                     std::string(static_cast<std::size_t>(filled), '#').c_str(),
-                     std::string(static_cast<std::size_t>(Width - filled), '.').c_str(), done_, games_);
-        std::fflush(stderr);
-        last_ = Clock::now();
-    }
-
-    std::int64_t games_;
-    bool shown_;
-    std::int64_t done_ = 0;
-    Clock::time_point last_ = Clock::now();
-};
 
 bool Interrupted() {
     return interrupted.load(std::memory_order_relaxed);
@@ -158,11 +104,35 @@ void CheckPlaces(const SimOptions& options) {
     }
 }
 
+std::string RecordPath(const SimOptions& options, float replay) {
+    return (std::filesystem::path(options.Records) / Concat(ReplayText(replay), RecordEnding)).string();
+}
+
+/// Nothing that lies in the folder already is overwritten.
+void MakeRecordFolder(const SimOptions& options) {
+    if (options.Records.empty()) {
+        return;
+    }
+    std::error_code error;
+    if (std::filesystem::create_directories(options.Records, error); error) {
+        throw OutputError(Concat("--records: the folder ", options.Records, " cannot be made: ", error.message()));
+    }
+    for (std::int64_t index = 0; index < options.Games; ++index) {
+        const auto path = RecordPath(options, ReplayOf(options, index));
+        if (std::filesystem::exists(path, error)) {
+            throw UsageError(Concat("--records: ", path, " is there already, and no record is overwritten"));
+        }
+    }
+}
+
 /// The games of a run on their way to the results and the journal.
 class GameRun {
 public:
     explicit GameRun(const SimOptions& options)
-        : options_(options), output_(options.Output, Interrupted), writer_(options.Format), progress_(options) {
+        : options_(options),
+          output_(options.Output, Interrupted),
+          writer_(options.Format),
+          progress_(options.Progress, options.Games) {
         if (!options.Journal.empty()) {
             journal_.emplace(options.Journal, Interrupted);
             if (journal_->IsSameAs(output_)) {
@@ -171,12 +141,13 @@ public:
         }
     }
 
-    /// Plays the games. True: one of them was faulty, which ended the run.
-    bool Play() {
-        const auto data = OpenData(options_);
+    using Games = std::function<void(const std::function<bool(const GameResult&)>& take)>;
+
+    /// Takes the games as they are played. True: one of them was faulty, which ended the run.
+    bool Play(const Games& games) {
         output_.Write(writer_.Begin());
         const auto start = Clock::now();
-        SimulateGames(options_, data.get(), Interrupted, [this](const GameResult& result) { return Take(result); });
+        games([this](const GameResult& result) { return Take(result); });
         seconds_ = SecondsSince(start);
         progress_.Clear();
         Finish();
@@ -193,6 +164,7 @@ private:
         if (journal_) {
             journal_->Write(result.Journal);
         }
+        KeepRecord(result);
         faulty_ = !result.Fault.empty();
         if (faulty_) {
             progress_.Clear();
@@ -203,6 +175,15 @@ private:
         ++games_;
         progress_.Advance();
         return true;
+    }
+
+    void KeepRecord(const GameResult& result) const {
+        if (!options_.Records.empty()) {
+            const auto path = RecordPath(options_, result.Replay);
+            if (const auto fault = WriteRecordFile(path, result.Record); !fault.empty()) {
+                throw OutputError(Concat("--records: ", fault));
+            }
+        }
     }
 
     void Finish() {
@@ -227,15 +208,29 @@ private:
 
 int RunGames(const SimOptions& options) {
     CheckPlaces(options);
+    MakeRecordFolder(options);
     GameRun run(options);
-    const bool faulty = run.Play();
+    const auto data = OpenData(options);
+    const bool faulty = run.Play([&](const auto& take) { SimulateGames(options, data.get(), Interrupted, take); });
     run.Tell();
     return ExitCode(faulty);
+}
+
+/// A record that does not fit leaves every output as it was.
+int RunRecord(const SimOptions& options) {
+    CheckPlaces(options);
+    const auto data = OpenData(options);
+    const GameResult result = SimulateRecord(options, data.get());
+    GameRun run(options);
+    return ExitCode(run.Play([&](const auto& take) { take(result); }));
 }
 
 int Run(int argc, const char* const* argv) {
     try {
         const SimOptions options = ParseOptions(argc, argv);
+        if (!options.Record.empty()) {
+            return RunRecord(options);
+        }
         return options.Bench ? RunBench(options) : RunGames(options);
     } catch (const HelpWanted& help) {
         PrintOut(help.Text, Interrupted);

@@ -11,6 +11,8 @@
 #include "model/services.h"
 #include "model/step.h"
 #include "model/trace.h"
+#include "record/play_record.h"
+#include "record/record_file.h"
 #include "sim/journal.h"
 #include "sim/robot.h"
 
@@ -127,9 +129,41 @@ GameResult SimulateGame(const SimOptions& options, std::int64_t index) {
         services.Window = &*robot;
     }
     services.Listener = options.Check || writes ? &journal : nullptr;
+    GameRecorder recorder(services.Listener);
+    if (!options.Records.empty()) {
+        services.Listener = &recorder;
+    }
     PlayCaught(options, result);
     services.Listener = nullptr;
     services.Window = nullptr;
+    result.Journal = journal.Text();
+    if (!options.Records.empty()) {
+        result.Record = RecordText(recorder.Record());
+    }
+    return result;
+}
+
+GameResult SimulateRecord(const SimOptions& options, GameFiles* files) {
+    const ReadRecord read = ReadRecordFile(options.Record);
+    const auto refuse = [&](const RecordFault& fault) {
+        throw UsageError(Concat("--record: ", fault.Line > 0 ? options.Record + ", " : std::string(), fault.Told()));
+    };
+    if (!read.Fault.Text.empty()) {
+        refuse(read.Fault);
+    }
+    GameResult result;
+    result.Replay = read.Record.Head.ReplayNo;
+    services.Files = files;
+    CheckingJournal journal(options.Check, !options.Journal.empty(), options.Why);
+    try {
+        const PlayedRecord played = PlayRecord(read.Record, &journal);
+        if (!played.Fault.empty()) {
+            refuse(FaultOf(read, played));
+        }
+        ReadResult(result);
+    } catch (const Finding& finding) {
+        result.Fault = finding.Text;
+    }
     result.Journal = journal.Text();
     return result;
 }

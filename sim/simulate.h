@@ -32,6 +32,7 @@ struct GameResult {
     std::uint64_t Signature = 0;
     Table<ClanResult, 0, MaxClans> ByClan;
     std::string Journal;  ///< empty when none is wanted
+    std::string Record;   ///< likewise
     std::string Fault;    ///< what ended the game or was found in it; empty: nothing
 };
 
@@ -40,6 +41,9 @@ void PrepareThread(const SimOptions& options, GameFiles* files);
 
 /// Plays one game of a run on this thread.
 GameResult SimulateGame(const SimOptions& options, std::int64_t index);
+
+/// Plays the one record of a run on this thread. Raises UsageError where it does not fit.
+GameResult SimulateRecord(const SimOptions& options, GameFiles* files);
 
 /// Plays the games of a run on its jobs and hands the results over in replay order, on the calling
 /// thread. `take` answers whether to go on. Games in hand are finished when it answers no or `stop`

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "record/record_words.h"
+
+#include <charconv>
+
+namespace plasmos {
+
+std::string Quoted(std::string_view text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            quoted += '\\';
+        }
+        quoted += c;
+    }
+    return quoted + "\"";
+}
+
+bool TakeQuoted(std::string_view& line, std::string& text) {
+    text.clear();
+    std::size_t at = line.find_first_not_of(' ');
+    if (at == std::string_view::npos || line[at] != '"') {
+        return false;
+    }
+    for (++at; at < line.size() && line[at] != '"'; ++at) {
+        if (line[at] == '\\' && ++at == line.size()) {
+            return false;
+        }
+        text += line[at];
+    }
+    if (at >= line.size()) {
+        return false;
+    }
+    line.remove_prefix(at + 1);
+    return true;
+}
+
+bool TakeNumber(std::string_view& line, int& number) {
+    std::string_view rest = line;
+    TakeWord(rest, " ");
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+    if (error != std::errc()) {
+        return false;
+    }
+    line = rest.substr(static_cast<std::size_t>(end - rest.data()));
+    return true;
+}
+
+bool TakeWord(std::string_view& line, std::string_view word) {
+    if (line.substr(0, word.size()) != word) {
+        return false;
+    }
+    line.remove_prefix(word.size());
+    return true;
+}
+
+}  // namespace plasmos
