@@ -29,6 +29,7 @@ void PayForMove(int clan, bool pays) {
 
 }  // namespace
 
+// cppcheck-suppress uninitMemberVar  // a list of squares is filled as far as its count
 MovePass::MovePass(int clan, int amoeba, bool second)
     : clan_(clan), amoeba_(amoeba), second_(second), origin_(piece().Square), canEatHere_(CanEat(origin_, clan)) {}
 

@@ -13,7 +13,6 @@ namespace plasmos {
 /// One pass of a computer clan's decision about a move: where the amoeba goes, and in which mood.
 class MovePass {
 public:
-    // cppcheck-suppress uninitMemberVar  // a list of squares is filled as far as its count
     MovePass(int clan, int amoeba, bool second);
 
     /// Works out the destination, moves there, and tells whether a direction die was rolled.

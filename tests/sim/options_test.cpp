@@ -64,6 +64,11 @@ TEST_F(OptionsTest, TraceFilesAreKeptByOneJob) {
     EXPECT_EQ(Parse({"--data", "folder", "--jobs", "1"}).Jobs, 1);
 }
 
+TEST_F(OptionsTest, ReasonsGoIntoAJournal) {
+    EXPECT_TRUE(Parse({"--journal", "j", "--why"}).Why);
+    EXPECT_FALSE(Parse({"--journal", "j"}).Why);
+}
+
 TEST_F(OptionsTest, ReplayNumbersCountFromTheFirst) {
     const SimOptions options = Parse({"--replay", "0.5", "--games", "3"});
     EXPECT_EQ(ReplayOf(options, 0), 0.5F);
