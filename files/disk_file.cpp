@@ -49,6 +49,9 @@ long long SizeOf(int file) {
 void CutTo(int file, long long size) {
     ::_chsize_s(file, size);
 }
+int FlushNumber(int file) {
+    return ::_commit(file);
+}
 
 #else
 
@@ -81,6 +84,9 @@ long long SizeOf(int file) {
 void CutTo(int file, long long size) {
     const int cut = ::ftruncate(file, size);
     static_cast<void>(cut);
+}
+int FlushNumber(int file) {
+    return ::fdatasync(file);
 }
 
 #endif
@@ -192,6 +198,10 @@ int DiskFile::Write(std::string_view bytes) const {
 
 int DiskFile::Append(std::string_view bytes) const {
     const AloneWith alone(number_);
+    return AppendToClaimed(bytes);
+}
+
+int DiskFile::AppendToClaimed(std::string_view bytes) const {
     std::size_t written = 0;
     int reason = Write(bytes, written);
     if (reason == 0) {
@@ -212,6 +222,34 @@ int DiskFile::Settle() const {
     DiskFile second(Duplicate(number_));
     return second.IsOpen() ? second.Close() : LastReason();
 }
+
+// What knows no difference between written and on the disk has nothing to flush.
+int DiskFile::Flush() const {
+    return FlushNumber(number_) == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : LastReason();
+}
+
+#ifdef _WIN32
+
+bool DiskFile::Claim() const {
+    return true;
+}
+
+bool DiskFile::IsGone() const {
+    return false;  // the system itself does not remove a file that a program has open
+}
+
+#else
+
+bool DiskFile::Claim() const {
+    return ::flock(number_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+bool DiskFile::IsGone() const {
+    struct stat status {};
+    return ::fstat(number_, &status) != 0 || status.st_nlink == 0;
+}
+
+#endif
 
 DiskFile OpenDiskFile(const std::string& path, OpenFor use, int& reason) {
     std::error_code error;

@@ -33,8 +33,18 @@ public:
     /// Writes all of a text at the end of a file opened for appending, or nothing: what could be written
     /// in part only is taken back.
     int Append(std::string_view bytes) const;
+    /// The same for a file that this program has claimed.
+    int AppendToClaimed(std::string_view bytes) const;
     /// Whatever the system would tell of what was written when the file is closed.
     int Settle() const;
+    /// What was written is on the disk itself when this returns, and not in the system's memory alone.
+    int Flush() const;
+
+    /// Marks the file as this program's as long as it is open. False: it is another's. (Where the system marks none,
+    /// it is always this program's.)
+    bool Claim() const;
+    /// Whether its path leads nowhere any more: the file was removed, or its folder.
+    bool IsGone() const;
 
 private:
     int number_ = -1;

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/file_draft.h"
 
-#ifndef _WIN32
-#include <sys/file.h>
-#include <sys/stat.h>
-#endif
-
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
@@ -45,38 +40,18 @@ bool IsDraft(std::string_view name, std::string_view begin) {
            AreDraftNumbers(name.substr(begin.size(), name.size() - begin.size() - DraftEnd.size()));
 }
 
-#ifdef _WIN32
-
-bool Claim(const DiskFile&) {
-    return true;
-}
-
-/// The system itself does not remove a file that a program has open.
-void RemoveUnclaimed(const std::string& draft) {
-    std::error_code error;
-    fs::remove(draft, error);
-}
-
-#else
-
-/// Marks an open draft as this program's as long as it has it open. False: it is another's, or gone.
-bool Claim(const DiskFile& draft) {
-    struct stat status {};
-    const bool others = ::flock(draft.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-    return !others && ::fstat(draft.Number(), &status) == 0 && status.st_nlink > 0;
-}
-
 /// Removes a draft that no living program claims.
 void RemoveUnclaimed(const std::string& draft) {
     int reason = 0;
     const DiskFile file = OpenDiskFile(draft, OpenFor::Reading, reason);
-    if (file.IsOpen() && ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0) {
-        std::error_code error;
-        fs::remove(draft, error);
+#ifndef _WIN32  // the system itself does not remove a file that a program has open
+    if (!file.IsOpen() || !file.Claim()) {
+        return;
     }
-}
-
 #endif
+    std::error_code error;
+    fs::remove(draft, error);
+}
 
 }  // namespace
 
@@ -103,7 +78,7 @@ int FileDraft::OpenUnderFreeName() {
         const auto name = Concat(DraftBegin(target), ProcessNumber(), "-", ++drafts, DraftEnd);
         draft_ = (target.parent_path() / name).string();
         file_ = OpenDiskFile(draft_, OpenFor::Draft, reason);
-        if (file_.IsOpen() && !Claim(file_)) {
+        if (file_.IsOpen() && !(file_.Claim() && !file_.IsGone())) {
             file_.Close();
             reason = EEXIST;
         }

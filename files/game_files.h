@@ -24,6 +24,8 @@ public:
 
     /// The full path of a file, or of the folder for an empty name; for messages.
     virtual std::string PathOf(std::string_view name) const = 0;
+    /// The folder in which games that are not over are kept; empty: none are.
+    virtual std::string GamesFolder() const { return {}; }
     /// Makes sure that the folder is there, without the half-written files of programs that were killed.
     virtual void MakeFolder() = 0;
     virtual bool Exists(std::string_view name) const = 0;
@@ -44,6 +46,7 @@ public:
     explicit DataFolder(std::string folder) : folder_(std::move(folder)) {}
 
     std::string PathOf(std::string_view name) const override;
+    std::string GamesFolder() const override { return PathOf("Games"); }
     void MakeFolder() override;
     bool Exists(std::string_view name) const override;
     void Append(std::string_view name, std::string_view text) override;

@@ -135,10 +135,14 @@ void PlayGame() {
     });
 }
 
-void PlayUnattended() {
-    game.AutoPlay = true;
+void PlayAsSetUp() {
     PlayGuarded([] { PlayOneGame(); });
     game.AutoPlay = false;
+}
+
+void PlayUnattended() {
+    game.AutoPlay = true;
+    PlayAsSetUp();
 }
 
 }  // namespace plasmos

@@ -12,6 +12,9 @@ void PlayGame();
 /// The number of clans is rolled unless RequestedClans says it.
 void PlayUnattended();
 
+/// Plays one game with whom the setup says, asking nobody for anything that it says already: the way PlayGame does.
+void PlayAsSetUp();
+
 /// One game, from the setup to the winner; errors are the caller's.
 void PlayOneGame();
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/game_recorder.h"
 
+#include <algorithm>
+
 #include "model/game_state.h"
 #include "questions/question.h"
 
@@ -66,15 +68,22 @@ void GameRecorder::OnAsk(const Question& question) {
 
 // Written down before anything comes of it.
 void GameRecorder::OnInput(const Question& question, const Answer& answer) {
+    if (left_) {
+        PassingObserver::OnInput(question, answer);
+        return;
+    }
     LookWhetherDealt();
+    momentOf_.push_back(moment_);
     InputRecorder::OnInput(question, answer);
     Tell(InputText(Inputs.back()));
 }
 
 void GameRecorder::OnSwitch(const Switch& turned, TakenAt place) {
     LookWhetherDealt();
+    momentOf_.push_back(moment_);
     InputRecorder::OnSwitch(turned, place);
-    if (!Leaves(Inputs.back())) {
+    left_ = Leaves(Inputs.back());
+    if (!left_) {
         Tell(InputText(Inputs.back()));
     }
 }
@@ -86,6 +95,11 @@ void GameRecorder::OnAnswer(const Question& question, const Answer& answer, bool
     if (!accepted && !told) {
         Tell("refused\n");
     }
+}
+
+std::size_t GameRecorder::InputsBefore(int moment) const {
+    const auto found = std::lower_bound(momentOf_.begin(), momentOf_.end(), moment);
+    return static_cast<std::size_t>(found - momentOf_.begin());
 }
 
 void DropLeaving(InputList& inputs) {

@@ -37,6 +37,8 @@ public:
     bool CanBePlayed() const { return dealt_; }
     int Moment() const { return moment_; }
     const std::vector<Place>& Places() const { return places_; }
+    /// How many inputs had been given before a moment.
+    std::size_t InputsBefore(int moment) const;
     const std::vector<Chapter>& Chapters() const { return chapters_; }
 
     /// Hears the text of the record as it grows, whole lines, the head first. Leaving is not part of it: whoever comes
@@ -60,7 +62,9 @@ private:
 
     RecordHead head_;
     bool dealt_ = false;
+    bool left_ = false;  ///< what a control that is put away gives then is no input of the game
     int moment_ = 0;
+    std::vector<int> momentOf_;  ///< of every input
     std::vector<Place> places_;
     std::vector<Chapter> chapters_;
 };

@@ -203,10 +203,10 @@ void InputPlayer::OnAnswer(const Question& question, const Answer& answer, bool 
     }
     const Input& given = inputs_.at(answer_);
     if (accepted == given.Refused && !(AtEnd() && answer_ + 1 == inputs_.size() && !accepted)) {
-        throw InputFault{
-            answer_,
-            Concat("\"", WordsOf(given), accepted ? "\" is taken here, and was refused" : "\" is refused here; allowed: ",
-                   accepted ? std::string() : AllowedText(question))};
+        throw InputFault{answer_,
+                         Concat("\"", WordsOf(given),
+                                accepted ? "\" is taken here, and was refused" : "\" is refused here; allowed: ",
+                                accepted ? std::string() : AllowedText(question))};
     }
     PassingObserver::OnAnswer(question, answer, accepted);
 }

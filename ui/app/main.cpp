@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QFile>
 #include <QSessionManager>
 #include <cstdio>
 
@@ -19,10 +20,11 @@
 int main(int argc, char** argv) {
     using namespace plasmos;
     PrepareProcess();
-    if (argc > 1) {
-        std::fputs("plasmos takes no arguments\n", stderr);
+    if (argc > 2 || (argc == 2 && argv[1][0] == '-')) {
+        std::fputs("plasmos takes one argument at most, the record of a game: plasmos GAME.plasmos\n", stderr);
         return 2;
     }
+    const QString record = argc == 2 ? QFile::decodeName(argv[1]) : QString();
     CheckScaleFactors();
     QApplication application(argc, argv);
     PrepareApplication();
@@ -44,6 +46,9 @@ int main(int argc, char** argv) {
     board.show();
     if (!fault.empty()) {
         ShowNotice(board, ToQt(fault));
+    }
+    if (!record.isEmpty()) {
+        board.OpenGame(record);
     }
     return QApplication::exec();
 }

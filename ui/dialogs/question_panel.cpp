@@ -43,7 +43,29 @@ public:
     }
 };
 
+/// Taking back is the game's, whatever has the keyboard.
+class UndoFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride) {
+            return false;
+        }
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo)) {
+            return false;
+        }
+        event->ignore();
+        return true;
+    }
+};
+
 }  // namespace
+
+void LeaveUndoToGame(QWidget* field) {
+    field->installEventFilter(new UndoFilter(field));
+}
 
 void RefuseRepeats(QWidget* control) {
     control->installEventFilter(new RepeatFilter(control));

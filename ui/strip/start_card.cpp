@@ -18,6 +18,8 @@ constexpr int Foot = 62;
 constexpr int BelowTitle = 46;
 constexpr int BelowBlobs = 92;
 constexpr int WelcomeHeight = 214;
+constexpr int ResumeRow = 74;  ///< a game that waits, with its picture
+constexpr int PictureUnits = 60;
 constexpr int RowHeight = 58;  ///< of the buttons, where they take two rows
 const char* const Welcome =
     "Your amoebas share this puddle with hungry neighbours. Drift or swim, eat what the others leave, keep your "
@@ -31,11 +33,17 @@ StartCard::StartCard(QWidget* parent, const GameState& state)
       gob(new QPushButton(QStringLiteral("Go"), this)),
       guideb(new QPushButton(QStringLiteral("Show me how"), this)),
       watchb(new QPushButton(QStringLiteral("Watch a Game"), this)),
+      resumeb(new QPushButton(QStringLiteral("Resume"), this)),
       txtReplay(new QLineEdit(this)),
       state_(state),
       title_(MakeLabel(this, QStringLiteral("titlelab"), 21, true, Tone::Ink)),
       text_(new FitLabel(this, 13, 10)),
-      replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, Tone::Faint)) {
+      replayLabel_(MakeLabel(this, QStringLiteral("replaylab"), 12, false, Tone::Faint)),
+      resumeLine_(MakeLabel(this, QStringLiteral("resumelab"), 13, false, Tone::Ink)) {
+    resumeb->setObjectName(QStringLiteral("resumeb"));
+    resumeb->setToolTip(QStringLiteral("Goes on with the game that was left"));
+    resumeb->hide();
+    resumeLine_->hide();
     gob->setObjectName(QStringLiteral("gob"));
     gob->setProperty("main", true);
     gob->setDefault(true);
@@ -62,6 +70,24 @@ void StartCard::OfferGuide(bool on) {
     StartCard::Redress();
 }
 
+int StartCard::PictureSide() {
+    return Px(PictureUnits);
+}
+
+void StartCard::OfferResume(const QString& line, const QPixmap& board) {
+    resumeBoard_ = board;
+    resumeLine_->setText(line);
+    resumeb->setVisible(!line.isEmpty());
+    resumeb->setAccessibleDescription(line);
+    resumeLine_->setVisible(!line.isEmpty());
+    StartCard::Redress();
+    update();
+}
+
+double StartCard::ResumeHeight() const {
+    return resumeb->isVisibleTo(this) ? ResumeRow : 0;
+}
+
 void StartCard::ShowResult(const QString& line, const QString& story, const QString& places, int clan) {
     story_ = story;
     places_ = places;
@@ -79,12 +105,13 @@ void StartCard::Show(const QString& title, const QString& text, int clan) {
 }
 
 int StartCard::ResultHeight(int width, const QString& text) const {
-    return Px(BelowTitle + 10 + Foot) + text_->HeightOf(text, width - 2 * Px(Pad));
+    return Px(BelowTitle + 10 + Foot) + Px(static_cast<int>(ResumeHeight())) +
+           text_->HeightOf(text, width - 2 * Px(Pad));
 }
 
 int StartCard::HeightFor(int width, int room) const {
     if (winner_ == 0) {
-        return Px(WelcomeHeight) + (guideb->isVisibleTo(this) ? Px(RowHeight) : 0);
+        return Px(WelcomeHeight + static_cast<int>(ResumeHeight())) + (guideb->isVisibleTo(this) ? Px(RowHeight) : 0);
     }
     const int whole = ResultHeight(width, places_ + story_);
     return whole <= room ? whole : std::min(ResultHeight(width, story_), room);
@@ -99,9 +126,10 @@ void StartCard::Redress() {
     }
     const int below = winner_ > 0 ? BelowTitle : BelowBlobs;
     title_->setGeometry(InPixels({Pad, 12, inner, 30}));
-    const double rows = guideb->isVisibleTo(this) ? RowHeight : 0;
+    const double rows = (guideb->isVisibleTo(this) ? RowHeight : 0) + ResumeHeight();
     text_->setGeometry(InPixels({Pad, static_cast<double>(below), inner, high - below - Foot - rows}));
-    ArrangeButtons(wide, high - 50, rows);
+    ArrangeButtons(wide, high - 50, rows - ResumeHeight());
+    ArrangeResume(wide, high - 50 - rows - 8);
 }
 
 // The guided game has Go beside it, and the rest a row of its own.
@@ -117,11 +145,23 @@ void StartCard::ArrangeButtons(double wide, double top, double rows) {
     txtReplay->setGeometry(InPixels({left, top + 3, wide - Pad - left, 30}));
 }
 
+// What was left stands above what is begun.
+void StartCard::ArrangeResume(double wide, double top) {
+    const double left = Pad + PictureUnits + 12;
+    resumeLine_->setGeometry(InPixels({left, top, wide - Pad - left, 20}));
+    resumeb->setGeometry(InPixels({left, top + 24, std::max(resumeb->sizeHint().width() / Letters(), 100.0), 34}));
+}
+
 void StartCard::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
     PaintUsual(painter);
     const double wide = UsualWidth(*this);
+    if (resumeb->isVisibleTo(this)) {
+        const QSizeF size = resumeBoard_.deviceIndependentSize() / Letters();
+        const QPointF top(Pad, resumeLine_->y() / Letters());
+        painter.drawPixmap(QRectF(top, size), resumeBoard_, resumeBoard_.rect());
+    }
     if (winner_ > 0) {
         DrawBlob(painter, {winner_, winner_, 0, true, false, 1}, QPointF(wide - Pad - 16, 28), 15);
         return;

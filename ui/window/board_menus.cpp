@@ -142,6 +142,14 @@ void BoardMenus::ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle) {
     autoten_men_->setEnabled(hasTentacle);
 }
 
+void BoardMenus::ShowMarks() {
+    MarkDifficulty(game.Menu.normmen);
+    victorymen_->setChecked(game.Menu.victorymen);
+    twoplayermen_->setChecked(game.Menu.twoplayermen);
+    fast_men_->setChecked(game.FastMode);
+    autoeat_men_->setEnabled(true);
+}
+
 bool BoardMenus::ShowNumbers(bool on) {
     const bool before = sqno_men_->isChecked();
     sqno_men_->setChecked(on);

@@ -33,11 +33,15 @@ BoardPresentation::BoardPresentation(const BoardParts& parts)
 // The log has its line before a motion is looked at.
 void BoardPresentation::ShowHappening(const Happening& happening) {
     ShowResult(happening);
-    // The log begins with the header, when the game is set up.
+    LogHappening(happening);
+    motions_.Show(happening);
+}
+
+// The log begins with the header, when the game is set up.
+void BoardPresentation::LogHappening(const Happening& happening) {
     if (const std::string words = QuietWords(game, happening); strip_->Log->Started() && !words.empty()) {
         strip_->Log->QuietLine(ToQt(words), happening.Clan);
     }
-    motions_.Show(happening);
 }
 
 void BoardPresentation::ShowResult(const Happening& happening) {
@@ -94,10 +98,28 @@ void BoardPresentation::Log(std::string_view line, int clan) {
 }
 
 void BoardPresentation::ShowPhase(std::string_view phase) {
-    strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
+    LogPhase(phase);
     strip_->Environment->ShowPhase();
     strip_->Clans->update();
     motions_.EndAttack();
+}
+
+void BoardPresentation::LogPhase(std::string_view phase) {
+    strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
+}
+
+void BoardPresentation::ShowEverything(std::string_view message, int clan) {
+    ShowTurn();
+    strip_->Environment->ShowPhase();
+    ShowCard();
+    for (int each = 1; each <= game.NumPlayers; ++each) {
+        ShowClan(each);
+    }
+    menus_->ShowMarks();
+    ShowCurrentClan(game.CurPlayer);
+    ShowOrder();
+    DrawBoard();
+    ShowMessage(message, clan);
 }
 
 void BoardPresentation::ShowCaption(std::string_view caption) {

@@ -51,6 +51,14 @@ public:
     void Close(Question& question) override;
     void Wait() override;
 
+    // ---- for a game that is played again silently ----
+    /// The log's line of a happening, of which the rules have told nothing in words.
+    void LogHappening(const Happening& happening);
+    /// The log's heading for what comes.
+    void LogPhase(std::string_view phase);
+    /// Everything that the window shows of the current game, as it stands: `message` in the colours of a clan.
+    void ShowEverything(std::string_view message, int clan);
+
 private:
     /// What the state has become: pieces, labels, order of play and scores.
     void ShowResult(const Happening& happening);

@@ -29,11 +29,14 @@
 #include "ui/window/board_menus.h"
 #include "ui/window/guide_bar.h"
 #include "ui/window/guide_desk.h"
+#include "ui/window/kept_game_view.h"
 #include "ui/window/leave_guard.h"
 #include "ui/window/legend.h"
 #include "ui/window/lent_labels.h"
 #include "ui/window/preferences_desk.h"
 #include "ui/window/question_desk.h"
+#include "ui/window/record_desk.h"
+#include "ui/window/record_menus.h"
 #include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
 #include "ui/window/view_menus.h"
@@ -73,7 +76,9 @@ UBoard::UBoard(const PresentationMaker& make) {
     BuildView();
     results_ = std::make_unique<ResultDesk>(*strip_->Start, [this](const QString& text) { ShowNotice(*this, text); });
     BuildStart();
+    BuildRecords();
     presentation_ = make({*this, *track_, *strip_, *menus_, *desk_});
+    records_->ShowBy(*presentation_);
     services.Window = presentation_.get();
     place_->Load();
     SetPlaying(false);
@@ -101,7 +106,10 @@ void UBoard::BuildDesks(TableTop& table) {
         }
     });
     guide_ = std::make_unique<GuideDesk>(table);
-    desk_->OnTop = [this](const Question* top) { guide_->Show(top); };
+    desk_->OnTop = [this](const Question* top) {
+        guide_->Show(top);
+        recordMenus_->ShowPossible();
+    };
     connect(table.Guide->endguideb, &QPushButton::clicked, this, [this] { LeaveGame(); });
     RefuseRepeats(table.Guide->endguideb);
 }
@@ -128,9 +136,35 @@ void UBoard::BuildStart() {
     strip_->Start->OfferGuide(services.Settings == nullptr || services.Settings->Get("play", "begun", "0") != "1");
 }
 
+void UBoard::BuildRecords() {
+    records_ = std::make_unique<RecordDesk>(
+        *this,
+        RecordDesk::Deeds{[this](const std::function<void()>& play) { Play(play); }, [this] { desk_->LeaveGame(); },
+                          [this] {
+                              ClearTable();
+                              ClearBoard();
+                          },
+                          [this] { EnableStart(); }, [this](const QString& text) { ShowNotice(*this, text); }});
+    recordMenus_ = std::make_unique<RecordMenus>(*this, *records_);
+    connect(strip_->Start->resumeb, &QPushButton::clicked, this, [this] { records_->Open(waiting_); });
+    RefuseRepeats(strip_->Start->resumeb);
+    strip_->Start->resumeb->setAutoDefault(true);
+}
+
+void UBoard::OpenGame(const QString& path) {
+    recordMenus_->Open(path);
+}
+
+void UBoard::OfferResume() {
+    const auto left = LatestKeptGame(records_->GamesFolder(), StartCard::PictureSide(), devicePixelRatioF());
+    waiting_ = left ? left->Path : std::string();
+    strip_->Start->OfferResume(left ? left->Line : QString(), left ? left->Board : QPixmap());
+    strip_->Arrange();
+}
+
 void UBoard::gob_Click() {
     NoteBegun();
-    Play(PlayGame);
+    Play([this] { records_->PlayNew(PlayGame); });
 }
 
 void UBoard::guide_Click() {
@@ -154,7 +188,7 @@ void UBoard::NoteBegun() {
 }
 
 void UBoard::watch_Click() {
-    Play(PlayUnattended);
+    Play([this] { records_->PlayNew(PlayUnattended); });
 }
 
 // The rules run in here. What they throw stays in here too: nothing may pass through Qt.
@@ -188,18 +222,14 @@ void UBoard::SetPlaying(bool playing) {
     const bool played = std::exchange(playing_, playing) && strip_->Log->Started();
     SettleSwitches();
     if (playing) {
-        ForgetMessage();
-        strip_->Question->ShowMessage(QString(), 0);
-        strip_->Question->ShowClan(0);
-        strip_->Environment->Clear();
-        strip_->Clans->ShowAll();
-        strip_->Log->Clear();
+        ClearTable();
     } else {
         strip_->Start->txtReplay->clear();
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        results_->Show(played && !guided_);
+        results_->Show(played && !guided_ && records_->CountsNow());
+        OfferResume();
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
@@ -208,6 +238,15 @@ void UBoard::SetPlaying(bool playing) {
     if (!playing) {
         strip_->Start->gob->setFocus();
     }
+}
+
+void UBoard::ClearTable() {
+    ForgetMessage();
+    strip_->Question->ShowMessage(QString(), 0);
+    strip_->Question->ShowClan(0);
+    strip_->Environment->Clear();
+    strip_->Clans->ShowAll();
+    strip_->Log->Clear();
 }
 
 void UBoard::ShowState(const GameState& state) {
@@ -235,12 +274,13 @@ void UBoard::EnableStart() {
     strip_->Start->watchb->setEnabled(free);
     strip_->Start->txtReplay->setEnabled(free);
     menus_->Enable(playing_, free, playing_ && guided_);
+    recordMenus_->Enable(playing_ && guided_);
     view_->SetFree(free);
 }
 
-// The guided game deals the same cards again.
+// The guided game deals the same cards again, and a game that is kept can be gone on with.
 bool UBoard::AsksBeforeLeaving() const {
-    return !guided_ && LeaveGuard::IsNeeded();
+    return !guided_ && !records_->IsKept() && LeaveGuard::IsNeeded();
 }
 
 void UBoard::LeaveGame() {

@@ -13,6 +13,8 @@ class GuideDesk;
 class LeaveGuard;
 class LentLabels;
 class PreferencesDesk;
+class RecordDesk;
+class RecordMenus;
 class ResultDesk;
 class ToolTips;
 class TableTop;
@@ -42,6 +44,11 @@ public:
     bool Playing() const { return playing_; }
     /// Runs a game, or a part of one, the way the start buttons do.
     void Play(const std::function<void()>& play);
+
+    /// Opens the record of a game, which is gone on with once the window lives.
+    void OpenGame(const QString& path);
+    /// The record of the game that is played, or was played last.
+    RecordDesk& Records() { return *records_; }
 
     /// Shows board, clans and environment of a state, which is to live as long as it is shown; of the current game
     /// with ShowState(game). What is asked, told and marked stays.
@@ -74,6 +81,9 @@ private:
     void NoteBegun();
     bool AsksBeforeLeaving() const;
     void BuildView();
+    void BuildRecords();
+    void ClearTable();
+    void OfferResume();
     void LeaveGame();
 
     ScoreTrack* track_ = nullptr;
@@ -88,7 +98,10 @@ private:
     std::unique_ptr<ViewMenus> view_;
     std::unique_ptr<LeaveGuard> guard_;
     std::unique_ptr<GuideDesk> guide_;
+    std::unique_ptr<RecordDesk> records_;
+    std::unique_ptr<RecordMenus> recordMenus_;
     std::unique_ptr<BoardPresentation> presentation_;
+    std::string waiting_;  ///< the kept game that the start card offers
     bool playing_ = false;
     bool guided_ = false;  ///< the game that is played is the guided one
     bool sure_ = false;    ///< the window closes without asking

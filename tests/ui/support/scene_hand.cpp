@@ -129,7 +129,7 @@ void Scene::ClickSquare(int square, Qt::MouseButton button) {
 
 void Scene::LeaveGame() {
     Menu(QStringLiteral("leavemen"));
-    if (LeaveGuard::IsNeeded()) {
+    if (Sees(QStringLiteral("leavebox"))) {
         Click(QStringLiteral("leaveb"));
     }
 }

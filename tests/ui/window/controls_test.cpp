@@ -4,6 +4,7 @@
 // uncovered, and answers to the press. It runs on screens of many sizes.
 
 #include <QAbstractButton>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -147,6 +148,9 @@ void ControlsTest::menus() {
                 connect(item, &QAction::triggered, &scene.Board(), [&chosen] { chosen = true; });
                 scene.Menu(item->objectName());
                 QVERIFY2(chosen, qPrintable(item->objectName()));
+                for (auto* files : scene.Board().findChildren<QFileDialog*>()) {
+                    files->reject();
+                }
             }
         }
         if (auto* dialog = scene.Board().findChild<QDialog*>(QStringLiteral("frmOptions")); dialog != nullptr) {

@@ -44,8 +44,8 @@ private slots:
     void signsAndKeysStayOpenBesideTheGame_data();
     void signsAndKeysStayOpenBesideTheGame();
     void whoStaysPlaysOn();
-    void aGameIsLeftWithoutDoubt();
-    void theWindowAsksBeforeItCloses();
+    void aGameThatIsNotKeptIsLeftWithoutDoubt();
+    void theWindowAsksBeforeItLosesAGame();
     void theWindowClosesAtOnceWhenTheSessionEnds();
     void aWatchedGameIsLeftAtOnce();
 };
@@ -178,8 +178,10 @@ void ViewMenusTest::whoStaysPlaysOn() {
     QVERIFY(!scene.WasEnded());
 }
 
-void ViewMenusTest::aGameIsLeftWithoutDoubt() {
+// Somebody else's file stands where games are kept.
+void ViewMenusTest::aGameThatIsNotKeptIsLeftWithoutDoubt() {
     Scene scene;
+    scene.Files().Rewrite("Games", "in the way");
     game.RequestedClans = 3;
     scene.Then(QuestionKind::Square, [&] {
         scene.Menu(QStringLiteral("leavemen"));
@@ -193,8 +195,9 @@ void ViewMenusTest::aGameIsLeftWithoutDoubt() {
     QVERIFY(!scene.Board().Playing());
 }
 
-void ViewMenusTest::theWindowAsksBeforeItCloses() {
+void ViewMenusTest::theWindowAsksBeforeItLosesAGame() {
     Scene scene;
+    scene.Files().Rewrite("Games", "in the way");
     game.RequestedClans = 3;
     scene.Then(QuestionKind::Square, [&] {
         scene.Board().close();

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/record_desk.h"
+
+#include <QScopeGuard>
+#include <QWidget>
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "files/game_files.h"
+#include "flow/play_game.h"
+#include "flow/start.h"
+#include "model/game_state.h"
+#include "model/services.h"
+#include "questions/ask.h"
+#include "record/held_files.h"
+#include "record/play_record.h"
+#include "record/record_file.h"
+#include "ui/look/palette.h"
+#include "ui/window/catch_up.h"
+
+namespace plasmos {
+
+namespace {
+
+std::string FolderOfGames() {
+    return services.Files != nullptr ? services.Files->GamesFolder() : std::string();
+}
+
+bool IsOver() {
+    return game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
+}
+
+/// What the setup of the current game says of the next one only.
+void ForgetRequests(const GameSetup& before) {
+    game.RequestedClans = before.RequestedClans;
+    game.HasRequestedReplay = before.HasRequestedReplay;
+    game.RequestedReplay = before.RequestedReplay;
+    services.Dealt = nullptr;
+}
+
+QString HowFar(const PlayedRecord& played, std::size_t inputs) {
+    return QStringLiteral("\n\nThe game is opened as far as it is sound: %1 of %2 inputs, to turn %3.")
+        .arg(played.Sound)
+        .arg(inputs)
+        .arg(std::min(played.State.Turn, LastTurn));
+}
+
+}  // namespace
+
+RecordDesk::RecordDesk(QWidget& window, Deeds deeds)
+    : window_(&window), deeds_(std::move(deeds)), folder_(FolderOfGames()), keeper_(folder_) {
+    keeper_.OnFault = [this](const std::string& fault) {
+        deeds_.Tell(ToQt(Concat(fault, "\nThe game goes on, and is kept as soon as that is possible.")));
+    };
+}
+
+RecordDesk::~RecordDesk() = default;
+
+bool RecordDesk::HasGame() const {
+    return recorder_ != nullptr && recorder_->CanBePlayed();
+}
+
+// ---- playing ----
+
+void RecordDesk::PlayNew(const std::function<void()>& play) {
+    TakeOwnBoard();
+    takenBack_.Forget();
+    Run([this, &play] {
+        Record();
+        counted_ = false;
+        begun_ = false;
+        recorder_->OnText = [this](std::string_view lines) { KeepNew(lines); };
+        play();
+    });
+}
+
+/// The record of a new game grows. Nothing of a person's is lost with a game of computer clans.
+void RecordDesk::KeepNew(std::string_view lines) {
+    if (game.AutoPlay) {
+        return;
+    }
+    if (std::exchange(begun_, true)) {
+        keeper_.Add(lines);
+    } else {
+        keeper_.Begin(std::string(lines));
+    }
+}
+
+/// The games that follow from one another: each is left for the next.
+void RecordDesk::Run(const std::function<void()>& first) {
+    running_ = true;
+    const GameSetup before = game;
+    const auto end = qScopeGuard([this, &before] {
+        Stop();
+        ForgetRequests(before);
+        next_.reset();
+        running_ = false;
+        EndKeeping();
+        if (setupBefore_ != nullptr) {
+            game.Menu = setupBefore_->Menu;
+            game.FastMode = setupBefore_->FastMode;
+            setupBefore_.reset();
+        }
+    });
+    if (first) {
+        first();
+    }
+    while (next_) {
+        Stop();
+        ForgetRequests(before);
+        services.Switches.Clear();
+        Replay(*std::exchange(next_, std::nullopt));
+    }
+}
+
+void RecordDesk::Record() {
+    recorder_ = std::make_unique<GameRecorder>(services.Listener);
+    listenerBefore_ = services.Listener;
+    services.Listener = recorder_.get();
+}
+
+void RecordDesk::Stop() {
+    if (recorder_ != nullptr && services.Listener == recorder_.get()) {
+        services.Listener = listenerBefore_;
+        recorder_->OnText = nullptr;
+        DropLeaving(recorder_->Inputs);
+        kept_ = recorder_->Inputs;
+    }
+}
+
+void RecordDesk::Replay(Next next) {
+    if (next.Opened) {
+        EndKeeping();
+        takenBack_.Forget();
+        counted_ = next.Path.empty();
+        if (setupBefore_ == nullptr) {
+            setupBefore_ = std::make_unique<GameSetup>(game);
+        }
+    }
+    record_ = std::move(next.Record);
+    window_->setUpdatesEnabled(false);
+    const auto seen = qScopeGuard([this] { window_->setUpdatesEnabled(true); });
+    Record();
+    std::optional<HeldFiles> held;
+    GameFiles* const files = services.Files;
+    const auto released = qScopeGuard([files] { services.Files = files; });
+    if (files != nullptr) {
+        services.Files = &held.emplace(*files);
+    }
+    BeginAs(record_.Head);
+    otherBoard_ = otherBoard_ || next.Opened;
+    deeds_.BeginAfresh();
+    CatchUp catchUp(record_.Inputs, *recorder_, *presentation_, next.Until);
+    catchUp.OnHandedOver = [&] {
+        if (held) {
+            held->LetGo();
+        }
+        window_->setUpdatesEnabled(true);
+        deeds_.CaughtUp();
+        Keep(next);
+    };
+    PlayAsSetUp();
+    catchUp.Finish();
+}
+
+void RecordDesk::TakeOwnBoard() {
+    if (std::exchange(otherBoard_, false)) {
+        LoadBoard();
+        deeds_.BeginAfresh();
+    }
+}
+
+bool RecordDesk::CountsNow() {
+    return IsOver() && !std::exchange(counted_, true);
+}
+
+// ---- keeping ----
+
+/// The game goes on from here: its file has what it has come to, and takes what comes.
+void RecordDesk::Keep(const Next& next) {
+    if (record_.Head.Persons == 0) {
+        return;
+    }
+    const InputList& inputs = recorder_->Inputs;
+    if (!next.Path.empty()) {
+        keeper_.GoOn(next.Path, RecordText(recorder_->Record()));
+    } else if (keeper_.Path().empty()) {
+        keeper_.Begin(RecordText(recorder_->Record()));
+    } else {
+        const auto [one, other] = std::mismatch(inputs.begin(), inputs.end(), kept_.begin(), kept_.end());
+        std::string lines = other != kept_.end() ? Concat("back to ", one - inputs.begin(), "\n") : std::string();
+        for (auto more = one; more != inputs.end(); ++more) {
+            lines += InputText(*more);
+        }
+        keeper_.Add(lines);
+    }
+    recorder_->OnText = [this](std::string_view lines) { keeper_.Add(lines); };
+}
+
+void RecordDesk::EndKeeping() {
+    IsOver() ? keeper_.Remove() : keeper_.LetGo();
+    kept_.clear();
+}
+
+// ---- saving and opening ----
+
+bool RecordDesk::Save(const std::string& path) {
+    GameRecord record = recorder_->Record();
+    DropLeaving(record.Inputs);
+    const auto fault = WriteRecordFile(path, RecordText(record));
+    if (!fault.empty()) {
+        deeds_.Tell(ToQt(fault));
+    }
+    return fault.empty();
+}
+
+bool RecordDesk::Open(const std::string& path) {
+    ReadRecord read = ReadRecordFile(path);
+    DropLeaving(read.Record.Inputs);
+    const PlayedRecord played = read.HasHead ? PlayRecordApart(read.Record) : PlayedRecord();
+    const RecordFault fault = FaultOf(read, played);
+    const std::size_t inputs = read.Record.Inputs.size();
+    const bool opens = read.HasHead && played.HeadFits;
+    if (!fault.Text.empty()) {
+        const auto told = fault.Line > 0 || opens ? Concat(path, "\n", fault.Told()) : fault.Told();
+        deeds_.Tell(ToQt(told) + (opens ? HowFar(played, inputs) : QString()));
+    }
+    if (opens) {
+        read.Record.Inputs.resize(std::min(inputs, played.Sound));
+        const bool kept =
+            !folder_.empty() && std::filesystem::path(path).parent_path() == std::filesystem::path(folder_);
+        Go({std::move(read.Record), 0, true, kept ? path : std::string()});
+    }
+    return opens;
+}
+
+// ---- going back and on ----
+
+bool RecordDesk::CanTakeBack() const {
+    return HasGame() && !next_ && PlaceToTakeBackTo(*recorder_, 0).has_value();
+}
+
+bool RecordDesk::CanGoAgain() const {
+    return HasGame() && !next_ && takenBack_.PlaceToGoOnTo(recorder_->Inputs).has_value();
+}
+
+void RecordDesk::TakeBack() {
+    if (!CanTakeBack()) {
+        return;
+    }
+    const Question* asked = TopQuestion();
+    const int clan = running_ && asked != nullptr && asked->Kind != QuestionKind::Box ? asked->Clan : 0;
+    if (const auto place = PlaceToTakeBackTo(*recorder_, clan)) {
+        takenBack_.Keep(*recorder_);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + static_cast<std::ptrdiff_t>(*place)}, 0);
+    }
+}
+
+void RecordDesk::GoAgain() {
+    if (CanGoAgain()) {
+        GoTo(takenBack_.InputsTo(*takenBack_.PlaceToGoOnTo(recorder_->Inputs)), 0);
+    }
+}
+
+void RecordDesk::GoOnFrom(int moment) {
+    if (HasGame() && !next_) {
+        takenBack_.Keep(*recorder_);
+        const auto before = static_cast<std::ptrdiff_t>(recorder_->InputsBefore(moment));
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + before}, moment);
+    }
+}
+
+/// The same game, with other inputs.
+void RecordDesk::GoTo(InputList inputs, int until) {
+    GameRecord record = recorder_->Record();
+    record.Inputs = std::move(inputs);
+    Go({std::move(record), until, false, {}});
+}
+
+void RecordDesk::Go(Next next) {
+    next_ = std::move(next);
+    if (running_) {
+        deeds_.LeaveGame();
+    } else {
+        // Whoever wants it is not kept until that game is over.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                deeds_.Play([this] { Run({}); });
+                next_.reset();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+}  // namespace plasmos
