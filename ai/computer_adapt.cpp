@@ -8,6 +8,7 @@
 #include "model/genes.h"
 #include "model/happening.h"
 #include "model/narration.h"
+#include "model/reasons.h"
 #include "questions/ask.h"
 
 namespace plasmos {
@@ -81,6 +82,9 @@ private:
     bool GiveUpFront() {
         for (int place = 1; place <= front_.Count; ++place) {
             const int gene = front_.Genes[place];
+            Because(TheGene{gene}, " goes: at ", game.Catalogue[gene].Cost,
+                    " BP it is the cheapest that is neither Division Rate nor a favourite",
+                    Where{gene == GeneId("ray"), ", which Ray Protection never is here"}, ".");
             if (SomebodyFollows()) {
                 ReportBox(Concat(game.Players[clan_].Name, " loses: ", GeneName(gene)));
             }
@@ -89,6 +93,8 @@ private:
                 return true;
             }
             if (Excess() < PayableExcess && game.BP[clan_] > ComfortableBP) {
+                Because("What is still above the UV level, ", Excess(), ", it pays: it is less than ", PayableExcess,
+                        ", and it has more than ", ComfortableBP, " BP.");
                 PayBP(clan_, Excess());
                 return true;
             }
@@ -102,6 +108,8 @@ private:
                 return;
             }
             if (game.BP[clan_] >= Excess()) {
+                Because("It keeps what is left, as its ", game.BP[clan_], " BP cover the ", Excess(),
+                        " still above the UV level.");
                 PayBP(clan_, Excess());
                 return;
             }
@@ -109,6 +117,8 @@ private:
                 return;
             }
             const int gene = protected_.Genes[place];
+            Because(TheGene{gene}, " goes: only Division Rate and favourites are left, and ", game.BP[clan_],
+                    " BP do not cover the ", Excess(), " still above the UV level.");
             if (SomebodyFollows()) {
                 ReportBox(Concat("Player ", clan_, " discards: ", GeneName(gene)));
             }
@@ -122,11 +132,18 @@ private:
     GeneList protected_;
 };
 
+void TellOfRay(int clan) {
+    if (ReasonsAreWanted() && IsFavourite(clan, GeneId("ray"))) {
+        Because("With more than ", ScoreWithoutRay, " points Ray Protection is no favourite any more.");
+    }
+}
+
 }  // namespace
 
 void ComputerAdaptEnvironment() {
     const int clan = game.CurPlayer;
     if (game.Players[clan].Score > ScoreWithoutRay) {
+        TellOfRay(clan);
         game.Players[clan].Personality &= AllButRay;
     }
     Adaptation(clan).Run();

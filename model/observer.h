@@ -25,6 +25,8 @@ public:
 
     /// Whether lines are to be put into words for this observer.
     virtual bool WantsText() const { return true; }
+    /// Whether this observer reads why a computer clan does what it does. It is asked as each step begins.
+    virtual bool WantsReasons() const { return false; }
 
     virtual void OnRoll(int n, int face) = 0;
     /// Clan and amoeba are 0 where the step has none.
@@ -32,6 +34,8 @@ public:
     virtual void OnEnd(Step step, int clan, int amoeba) = 0;
     /// Something has happened, and the state has it; what is said and shown of it comes after.
     virtual void OnHappening(const Happening& /*happening*/) {}
+    /// A sentence of the reason for what follows in this step; see model/reasons.h. An action may have several.
+    virtual void OnReason(std::string_view /*sentence*/) {}
     /// A line that goes to the game log.
     virtual void OnSay(std::string_view line) = 0;
     virtual void OnBox(std::string_view text) = 0;

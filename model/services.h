@@ -18,6 +18,7 @@ class Question;
 struct Services {
     Presentation* Window = nullptr;     ///< nobody: nothing is shown and nobody can be asked
     Observer* Listener = nullptr;       ///< hears rolls, steps, happenings, inputs and lines; may be nobody
+    bool ReasonsWanted = false;         ///< whether the listener wanted reasons when the step began
     GameFiles* Files = nullptr;         ///< nobody: no file is read or written
     SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
     DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none

@@ -15,6 +15,7 @@ std::string_view StepName(Step step) {
 void PrepareStep(Step step, int clan, int amoeba) {
     TakeSwitches(TakenAt::Step);
     if (services.Listener != nullptr) {
+        services.ReasonsWanted = services.Listener->WantsReasons();
         services.Listener->OnBegin(step, clan, amoeba);
     }
 }

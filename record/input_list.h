@@ -58,10 +58,12 @@ public:
     explicit PassingObserver(Observer* next) : next_(next) {}
 
     bool WantsText() const override { return next_ != nullptr && next_->WantsText(); }
+    bool WantsReasons() const override { return next_ != nullptr && next_->WantsReasons(); }
     void OnRoll(int n, int face) override { Pass(&Observer::OnRoll, n, face); }
     void OnBegin(Step step, int clan, int amoeba) override { Pass(&Observer::OnBegin, step, clan, amoeba); }
     void OnEnd(Step step, int clan, int amoeba) override { Pass(&Observer::OnEnd, step, clan, amoeba); }
     void OnHappening(const Happening& happening) override { Pass(&Observer::OnHappening, happening); }
+    void OnReason(std::string_view sentence) override { Pass(&Observer::OnReason, sentence); }
     void OnSay(std::string_view line) override { Pass(&Observer::OnSay, line); }
     void OnBox(std::string_view text) override { Pass(&Observer::OnBox, text); }
     void OnAsk(const Question& question) override { Pass(&Observer::OnAsk, question); }

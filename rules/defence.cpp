@@ -5,6 +5,7 @@
 #include "model/dice.h"
 #include "model/genes.h"
 #include "model/happening.h"
+#include "model/reasons.h"
 #include "questions/ask.h"
 #include "rules/aggression.h"
 #include "rules/computer_clan.h"
@@ -32,9 +33,13 @@ Happening AttackEnds(Kind kind, int clan, int amoeba, int square) {
 
 bool AgreesToDefend(int clan, int amoeba, Assault assault, bool again) {
     if (game.BP[clan] < 1) {
+        ComputerBecause(clan, ThePiece{clan, amoeba}, " cannot defend itself: its clan has no BP.");
         return false;
     }
     if (game.Players[clan].IsComputer) {
+        Because(ThePiece{clan, amoeba},
+                Where{again, ", with Persistence, pays 1 BP to defend itself again", " pays 1 BP to defend itself"},
+                ", as its clan always does while it has one.");
         return true;
     }
     return AskYesNoBelow(clan,
@@ -45,11 +50,14 @@ bool AgreesToDefend(int clan, int amoeba, Assault assault, bool again) {
 }
 
 /// Two dice, rolled again as long as they are equal; the defence succeeds when the first is lower.
-bool RollDefence() {
+bool RollDefence(int clan) {
     for (int draw = 1; draw <= MaxDraws; ++draw) {
         const int first = RollDie(6);
         const int second = RollDie(6);
         if (first != second) {
+            ComputerBecause(clan, "Its dice threw ", first, " and ", second,
+                            Where{first < second, ": the first is lower, which beats the attack off.",
+                                  ": the first is not the lower one, so the defence fails."});
             return first < second;
         }
     }
@@ -58,7 +66,7 @@ bool RollDefence() {
 
 bool DefendOnce(int clan, int amoeba) {
     PayBP(clan, 1);
-    const bool beatenOff = RollDefence();
+    const bool beatenOff = RollDefence(clan);
     Happened(
         AttackEnds(beatenOff ? Kind::Defends : Kind::FailsToDefend, clan, amoeba, game.Amoeba[amoeba][clan].Square));
     if (beatenOff) {
@@ -88,9 +96,32 @@ void PayForEscape(int clan) {
     }
 }
 
+/// A computer clan's piece has one that can live on.
+bool HasALifeToSave(int clan, int amoeba, std::string_view what) {
+    const int damage = game.Amoeba[amoeba][clan].Damage;
+    if (damage >= DamageLimit(clan)) {
+        ComputerBecause(clan, ThePiece{clan, amoeba}, " does not ", what, ": its damage, ", damage,
+                        ", is deadly anyway.");
+        return false;
+    }
+    return true;
+}
+
+bool WantsToEscape(int clan, int amoeba) {
+    if (!HasALifeToSave(clan, amoeba, "try to escape")) {
+        return false;
+    }
+    Because(ThePiece{clan, amoeba}, " tries to escape, ",
+            Where{HasGene(clan, "str"), "free with Streamlining.", "for 1 BP."});
+    return true;
+}
+
 bool MayTryToEscape(int clan, int amoeba, Assault assault) {
-    return game.Players[clan].IsComputer ? game.Amoeba[amoeba][clan].Damage < DamageLimit(clan)
-                                         : AgreesToEscape(clan, amoeba, assault);
+    if (game.BP[clan] < 1) {
+        ComputerBecause(clan, ThePiece{clan, amoeba}, " cannot try to escape: its clan has no BP.");
+        return false;
+    }
+    return game.Players[clan].IsComputer ? WantsToEscape(clan, amoeba) : AgreesToEscape(clan, amoeba, assault);
 }
 
 int FindRefuge(int clan, int amoeba) {
@@ -101,10 +132,7 @@ int FindRefuge(int clan, int amoeba) {
 }  // namespace
 
 bool DefendAmoeba(int clan, int amoeba, Assault assault) {
-    if (game.Amoeba[amoeba][clan].Damage >= DamageLimit(clan)) {
-        return false;
-    }
-    if (!AgreesToDefend(clan, amoeba, assault, false)) {
+    if (!HasALifeToSave(clan, amoeba, "defend itself") || !AgreesToDefend(clan, amoeba, assault, false)) {
         return false;
     }
     if (DefendOnce(clan, amoeba)) {
@@ -114,7 +142,7 @@ bool DefendAmoeba(int clan, int amoeba, Assault assault) {
 }
 
 bool EscapeAmoeba(int clan, int amoeba, Assault assault) {
-    if (game.BP[clan] < 1 || !MayTryToEscape(clan, amoeba, assault)) {
+    if (!MayTryToEscape(clan, amoeba, assault)) {
         return false;
     }
     const Piece& piece = game.Amoeba[amoeba][clan];

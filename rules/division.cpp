@@ -8,6 +8,7 @@
 #include "model/genes.h"
 #include "model/happening.h"
 #include "model/presentation.h"
+#include "model/reasons.h"
 #include "model/step.h"
 #include "model/trace.h"
 #include "questions/ask.h"
@@ -72,6 +73,8 @@ int DrawStartSquare() {
     for (int draw = 1; draw <= MaxDraws; ++draw) {
         const int square = RollDie(game.NumSquares);
         if (IsValidSquare(square) && IsEmptySquare(square)) {
+            Because("At the start a die over all squares decides: ", square,
+                    " is the first it threw without an amoeba.");
             return square;
         }
     }

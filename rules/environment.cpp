@@ -5,6 +5,7 @@
 #include "model/genes.h"
 #include "model/happening.h"
 #include "model/presentation.h"
+#include "model/reasons.h"
 #include "model/step.h"
 #include "model/trace.h"
 #include "questions/ask.h"
@@ -68,8 +69,12 @@ void AdaptPerson(int clan) {
 
 void AdaptComputer(int clan, int excess) {
     if (game.BP[clan] > excess) {
+        Because(TheClan{clan}, " is ", excess, " above the UV level and pays, as its ", game.BP[clan],
+                " BP are more than that.");
         PayBP(clan, excess);
     } else {
+        Because(TheClan{clan}, " is ", excess, " above the UV level and gives up genes, as its ", game.BP[clan],
+                " BP are not more than that.");
         ComputerAdaptEnvironment();
     }
 }

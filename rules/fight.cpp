@@ -5,6 +5,7 @@
 #include "model/genes.h"
 #include "model/happening.h"
 #include "model/message_line.h"
+#include "model/reasons.h"
 #include "questions/ask.h"
 #include "questions/victim_form.h"
 #include "rules/aggression.h"
@@ -22,6 +23,16 @@ constexpr int FoodOfTheTorn = 2;
 
 using Kind = Happening::Kind;
 
+/// Why a computer clan picks this one of several.
+[[gnu::cold]] void TellPick(int square, int clan, int picked, bool highest) {
+    if (game.Occupancy[square][clan] > 1) {
+        Because("Of the ", game.Occupancy[square][clan], " amoebas of ", TheClan{clan}, " in square ", square,
+                " it picks ", ThePiece{clan, picked},
+                Where{highest, ", the first with the most damage, as they have Armor.",
+                      ", the first with the least damage."});
+    }
+}
+
 /// The clan's piece in a square with the lowest (or highest) damage; the lowest number on a tie.
 int PickByDamage(int square, int clan, bool highest) {
     int picked = 0;
@@ -35,6 +46,9 @@ int PickByDamage(int square, int clan, bool highest) {
             picked = amoeba;
         }
     }
+    if (ReasonsAreWanted()) [[unlikely]] {
+        TellPick(square, clan, picked, highest);
+    }
     return picked;
 }
 
@@ -43,7 +57,13 @@ bool GetsAway(int clan, int amoeba, Assault assault) {
     if (HasGene(clan, "esc") && EscapeAmoeba(clan, amoeba, assault)) {
         return true;
     }
-    return HasGene(clan, "def") && DefendAmoeba(clan, amoeba, assault);
+    if (HasGene(clan, "def")) {
+        return DefendAmoeba(clan, amoeba, assault);
+    }
+    if (!HasGene(clan, "esc")) {
+        ComputerBecause(clan, ThePiece{clan, amoeba}, " has neither Escape nor Defence.");
+    }
+    return false;
 }
 
 struct Victim {
@@ -174,6 +194,10 @@ void AttackAmoeba(int victimClan, int square, int victimAmoeba) {
         if (victim.Clan == 0) {
             return;
         }
+        ComputerBecause(
+            attacker, "With Persistence ", ThePiece{attacker, game.CurAmoeba},
+            " attacks once more, free: ", TheClan{victim.Clan},
+            Where{victim.Clan == victimClan, " is still there.", " is the first victim that is left there."});
     }
 }
 

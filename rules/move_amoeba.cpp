@@ -8,6 +8,7 @@
 #include "model/bio_points.h"
 #include "model/genes.h"
 #include "model/narration.h"
+#include "model/reasons.h"
 #include "model/trace.h"
 #include "questions/ask.h"
 #include "questions/victim_form.h"
@@ -87,7 +88,11 @@ void AskRiders(int clan, int from, int to, RiderList& riders) {
 /// A computer clan's pieces ride when they cannot eat where they are and can at the destination.
 bool WantsToRide(int clan, int from, int to, const TentacleLoad& load) {
     const CarriedFood carried(load, from, to);
-    return !CanEat(from, clan) && CanEat(to, clan);
+    if (CanEat(from, clan) || !CanEat(to, clan)) {
+        return false;
+    }
+    Because("With Holding ", TheClan{clan}, " rides along: it cannot eat in square ", from, ", but can in ", to, ".");
+    return true;
 }
 
 void ChooseRiders(int mover, int from, int to, const TentacleLoad& load, RiderList& riders) {

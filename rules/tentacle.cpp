@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/genes.h"
 #include "model/presentation.h"
+#include "model/reasons.h"
 #include "questions/ask.h"
 #include "questions/choice_forms.h"
 #include "questions/food_form.h"
@@ -25,6 +26,16 @@ bool FeedsThere(int clan, int destination, int colour, int second) {
     return feeds;
 }
 
+void TellPair(int first, int second, int destination) {
+    if (first == second) {
+        Because("Its tentacle takes 2 pieces of ", TheClan{first}, "'s food along, with which it can eat in ",
+                destination, ".");
+    } else {
+        Because("Its tentacle takes a piece of ", TheClan{first}, "'s and one of ", TheClan{second},
+                "'s food along, with which it can eat in ", destination, ".");
+    }
+}
+
 /// The fewest foreign pieces that make a meal possible where there is none: single ones before pairs.
 TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     TentacleLoad load;
@@ -33,6 +44,8 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
     }
     for (int colour = 1; colour <= game.NumPlayers; ++colour) {
         if (colour != clan && game.Food[from][colour] >= 1 && FeedsThere(clan, destination, colour, 0)) {
+            Because("Its tentacle takes a piece of ", TheClan{colour}, "'s food along, with which it can eat in ",
+                    destination, ".");
             load.Take(colour, 1);
             return load;
         }
@@ -42,6 +55,7 @@ TentacleLoad WorkOutLoad(int clan, int from, int destination) {
             const int needed = first == second ? 2 : 1;
             const bool there = game.Food[from][first] >= needed && game.Food[from][second] >= needed;
             if (first != clan && second != clan && there && FeedsThere(clan, destination, first, second)) {
+                TellPair(first, second, destination);
                 load.Take(first, 1);
                 load.Take(second, 1);
                 return load;

@@ -203,16 +203,22 @@ void Journal::OnEnd(Step step, int /*clan*/, int /*amoeba*/) {
     Append(text_, "}\n");
 }
 
-void Journal::OnSay(std::string_view line) {
-    Append(text_, R"({"t":"say","text":)");
-    AppendJsonText(text_, line);
+void Journal::AppendText(std::string_view kind, std::string_view text) {
+    Append(text_, R"({"t":")", kind, R"(","text":)");
+    AppendJsonText(text_, text);
     Append(text_, "}\n");
 }
 
+void Journal::OnReason(std::string_view sentence) {
+    AppendText("why", sentence);
+}
+
+void Journal::OnSay(std::string_view line) {
+    AppendText("say", line);
+}
+
 void Journal::OnBox(std::string_view text) {
-    Append(text_, R"({"t":"box","text":)");
-    AppendJsonText(text_, text);
-    Append(text_, "}\n");
+    AppendText("box", text);
 }
 
 void Journal::OnAsk(const Question& question) {

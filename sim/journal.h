@@ -19,6 +19,7 @@ public:
     void OnRoll(int n, int face) override;
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnEnd(Step step, int clan, int amoeba) override;
+    void OnReason(std::string_view sentence) override;
     void OnSay(std::string_view line) override;
     void OnBox(std::string_view text) override;
     void OnAsk(const Question& question) override;
@@ -26,6 +27,8 @@ public:
     void OnOver() override;
 
 private:
+    void AppendText(std::string_view kind, std::string_view text);
+
     std::string text_;
 };
 

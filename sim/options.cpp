@@ -68,7 +68,7 @@ void CheckBench(const CLI::App& app) {
     }
     for (const char* other :
          {"--replay", "--clans", "--persons", "--difficulty", "--victory", "--rows", "--cols", "--blocks", "--robot",
-          "--format", "--output", "--journal", "--data", "--records", "--check"}) {
+          "--format", "--output", "--journal", "--why", "--data", "--records", "--check"}) {
         if (app.count(other) != 0) {
             throw UsageError(Concat(other, ": --bench plays a fixed set of games; only --games goes with it"));
         }
@@ -84,7 +84,7 @@ void CheckRecord(const CLI::App& app) {
                               "--cols", "--blocks", "--robot", "--jobs", "--bench", "--records"}) {
         if (app.count(other) != 0) {
             throw UsageError(Concat(other, ": --record takes everything of the game from its file; only --format, ",
-                                    "--output, --journal, --data, --check and --progress go with it"));
+                                    "--output, --journal, --why, --data, --check and --progress go with it"));
         }
     }
 }
@@ -124,6 +124,7 @@ void AddRunOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
         ->check(CLI::IsMember({"table", "csv", "json"}));
     app.add_option("--output", options.Output, "file for the results (default: standard output)");
     app.add_option("--journal", options.Journal, "file for the journal of all games, JSON Lines");
+    app.add_flag("--why", options.Why, "the journal tells why computer clans do what they do (with --journal only)");
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
     app.add_option("--records", options.Records, "folder for the record of every game, REPLAY.plasmos");
     app.add_option("--record", options.Record, "plays this one record instead of games");
@@ -156,6 +157,12 @@ void CheckNames(const CLI::App& app) {
     }
 }
 
+void CheckWhy(const SimOptions& options) {
+    if (options.Why && options.Journal.empty()) {
+        throw UsageError("--why: the reasons stand in the journal; only with --journal FILE are there any");
+    }
+}
+
 void ReadWords(const TypedWords& words, SimOptions& options) {
     static const std::map<std::string, ResultFormat> formats{
         {"table", ResultFormat::Table}, {"csv", ResultFormat::Csv}, {"json", ResultFormat::Json}};
@@ -179,6 +186,7 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     AddRunOptions(app, options, words);
     ReadCommandLine(app, argc, argv);
     CheckNames(app);
+    CheckWhy(options);
     ReadWords(words, options);
     if (options.Bench && app.count("--games") == 0) {
         options.Games = BenchGames;

@@ -26,6 +26,7 @@ struct SimOptions {
     ResultFormat Format = ResultFormat::Table;
     std::string Output;   ///< empty: standard output
     std::string Journal;  ///< empty: none
+    bool Why = false;     ///< the journal tells why computer clans do what they do
     std::string Data;     ///< empty: no files
     std::string Records;  ///< the folder for the games' records; empty: none are written
     std::string Record;   ///< the one record that is played; empty: games are

@@ -28,9 +28,10 @@ struct Finding {
 /// Looks through the state after every step, and passes everything on to the journal if there is one.
 class CheckingJournal final : public Journal {
 public:
-    CheckingJournal(bool check, bool write) : check_(check), write_(write) {}
+    CheckingJournal(bool check, bool write, bool why) : check_(check), write_(write), why_(why) {}
 
     bool WantsText() const override { return write_; }
+    bool WantsReasons() const override { return why_; }
     void OnRoll(int n, int face) override {
         if (write_) {
             Journal::OnRoll(n, face);
@@ -56,6 +57,7 @@ public:
 private:
     bool check_;
     bool write_;
+    bool why_;
 };
 
 void ReadClans(GameResult& result) {
@@ -120,7 +122,7 @@ GameResult SimulateGame(const SimOptions& options, std::int64_t index) {
     game.RequestedReplay = result.Replay;
 
     const bool writes = !options.Journal.empty();
-    CheckingJournal journal(options.Check, writes);
+    CheckingJournal journal(options.Check, writes, options.Why);
     std::optional<Robot> robot;
     if (options.Persons > 0) {
         robot.emplace(options.Robot, std::bit_cast<std::uint32_t>(result.Replay));
@@ -152,7 +154,7 @@ GameResult SimulateRecord(const SimOptions& options, GameFiles* files) {
     GameResult result;
     result.Replay = read.Record.Head.ReplayNo;
     services.Files = files;
-    CheckingJournal journal(options.Check, !options.Journal.empty());
+    CheckingJournal journal(options.Check, !options.Journal.empty(), options.Why);
     try {
         const PlayedRecord played = PlayRecord(read.Record, &journal);
         if (!played.Fault.empty()) {

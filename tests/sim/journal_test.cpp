@@ -55,6 +55,42 @@ TEST_F(JournalTest, BeginsWithTheGameAndEndsWithItsOutcome) {
     EXPECT_EQ(records.back()["order"].size(), records.front()["clans"].get<std::size_t>());
 }
 
+/// The journal without the lines of one kind, and how many those were.
+std::string Without(std::string_view kind, const std::string& journal, int& left) {
+    std::string rest;
+    std::istringstream lines(journal);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind(Concat(R"({"t":")", kind, "\""), 0) == 0) {
+            ++left;
+        } else {
+            rest += line + "\n";
+        }
+    }
+    return rest;
+}
+
+TEST_F(JournalTest, ReasonsAreLinesOfTheirOwnAndTheRestIsAsItWas) {
+    for (const int persons : {0, 1, 2}) {
+        SimOptions options;
+        options.FirstReplay = 12;
+        options.Persons = persons;
+        options.Journal = "wanted";
+        options.Why = true;
+        PrepareThread(options, nullptr);
+        const auto told = SimulateGame(options, 0);
+        int reasons = 0;
+        EXPECT_EQ(Without("why", told.Journal, reasons), JournalOf(12, persons));
+        EXPECT_GT(reasons, 100);
+        std::string open;
+        for (const auto& record : Records(told.Journal)) {
+            if (record["t"] == "begin" || record["t"] == "end") {
+                open = record["t"] == "begin" ? record["step"].get<std::string>() : "";
+            }
+            EXPECT_TRUE(record["t"] != "why" || !open.empty()) << record;
+        }
+    }
+}
+
 TEST_F(JournalTest, EveryStepBeginsAndEndsInItsOrder) {
     const std::vector<std::string> order{"NewGame", "Move",   "Environment", "Adapt", "BuyGenes",
                                          "Divide",  "Deaths", "Attack",      "Score"};

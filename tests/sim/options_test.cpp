@@ -64,6 +64,11 @@ TEST_F(OptionsTest, TraceFilesAreKeptByOneJob) {
     EXPECT_EQ(Parse({"--data", "folder", "--jobs", "1"}).Jobs, 1);
 }
 
+TEST_F(OptionsTest, ReasonsGoIntoAJournal) {
+    EXPECT_TRUE(Parse({"--journal", "j", "--why"}).Why);
+    EXPECT_FALSE(Parse({"--journal", "j"}).Why);
+}
+
 TEST_F(OptionsTest, ReplayNumbersCountFromTheFirst) {
     const SimOptions options = Parse({"--replay", "0.5", "--games", "3"});
     EXPECT_EQ(ReplayOf(options, 0), 0.5F);
@@ -136,6 +141,8 @@ const RefusedRow RefusedRows[] = {
     {"bench_with_clans", {"--bench", "--clans", "3"}, "--bench plays a fixed set"},
     {"empty_output", {"--output", ""}, "--output"},
     {"empty_journal", {"--journal", ""}, "--journal"},
+    {"why_without_a_journal", {"--why"}, "--why: the reasons stand in the journal; only with --journal FILE"},
+    {"why_with_bench", {"--bench", "--why", "--journal", "j"}, "--bench plays a fixed set"},
     {"empty_data_folder", {"--data", ""}, "--data"},
 };
 
