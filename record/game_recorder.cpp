@@ -29,6 +29,7 @@ void GameRecorder::CountMoment() {
 void GameRecorder::LookWhetherDealt() {
     if (!dealt_ && NoteDealt(head_)) {
         dealt_ = true;
+        chapters_.front().Moment = moment_;
         InputList inputs = Inputs;
         DropLeaving(inputs);
         Tell(RecordText({head_, inputs}));
@@ -46,12 +47,40 @@ void GameRecorder::OnBegin(Step step, int clan, int amoeba) {
         head_ = HeadOfBeginning();
     }
     CountMoment();
+    step_ = {moment_, game.Turn, clan, amoeba, step, {}};
     InputRecorder::OnBegin(step, clan, amoeba);
+}
+
+void GameRecorder::OnReason(std::string_view sentence) {
+    if (reasons_.empty() || reasons_.back().Begin != step_.Begin) {
+        reasons_.push_back(step_);
+    }
+    reasons_.back().Sentences.emplace_back(moment_, sentence);
+    InputRecorder::OnReason(sentence);
+}
+
+std::string GameRecorder::WhyAt(int moment) const {
+    const auto next = std::upper_bound(reasons_.begin(), reasons_.end(), moment,
+                                       [](int at, const Why& why) { return at < why.Begin; });
+    std::string text;
+    if (next == reasons_.begin()) {
+        return text;
+    }
+    const Why& why = *std::prev(next);
+    const auto end = std::upper_bound(ends_.begin(), ends_.end(), why.Begin);
+    const bool after = end != ends_.end() && *end < moment;
+    for (const auto& [told, sentence] : why.Sentences) {
+        if (!after && told <= moment) {
+            text += (text.empty() ? "" : "\n") + sentence;
+        }
+    }
+    return text;
 }
 
 void GameRecorder::OnEnd(Step step, int clan, int amoeba) {
     LookWhetherDealt();
     CountMoment();
+    ends_.push_back(moment_);
     figures_.Note(step, game);
     if (step == Step::NewGame || step == Step::Score) {
         endOfTurn_.push_back(moment_);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "record/game_record.h"
@@ -33,6 +35,20 @@ public:
 
     /// What is asked may hang on whether words are wanted; whoever plays the record wants them.
     bool WantsText() const override { return true; }
+    bool WantsReasons() const override { return true; }
+    /// Why a computer clan did something: what was told in one step.
+    struct Why {
+        int Begin = 0;  ///< the moment at which the step began
+        int Turn = 0;
+        int Clan = 0;
+        int Amoeba = 0;
+        Step What = Step::NewGame;
+        std::vector<std::pair<int, std::string>> Sentences;  ///< with the moment of each
+    };
+    const std::vector<Why>& Reasons() const { return reasons_; }
+    /// The sentences of the step that a moment belongs to, as far as they were told by then; empty: there are none.
+    std::string WhyAt(int moment) const;
+
     /// The game so far. Without clans and names, which are dealt first, it cannot be played again yet.
     GameRecord Record() const { return {head_, Inputs}; }
     bool CanBePlayed() const { return dealt_; }
@@ -59,6 +75,7 @@ public:
     void OnInput(const Question& question, const Answer& answer) override;
     void OnSwitch(const Switch& turned, TakenAt place) override;
     void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
+    void OnReason(std::string_view sentence) override;
 
 private:
     void CountMoment();
@@ -73,6 +90,9 @@ private:
     std::vector<Place> places_;
     std::vector<Chapter> chapters_;
     FigureKeeper figures_;
+    Why step_;  ///< that is being played
+    std::vector<Why> reasons_;
+    std::vector<int> ends_;  ///< of steps
     std::vector<int> endOfTurn_;
 };
 

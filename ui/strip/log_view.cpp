@@ -2,16 +2,19 @@
 #include "ui/strip/log_view.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBlockFormat>
 #include <QTextCursor>
+#include <QToolTip>
 #include <vector>
 
 #include "ui/look/dress.h"
 #include "ui/look/page_keys.h"
 #include "ui/look/palette.h"
+#include "ui/look/plain_tip.h"
 
 namespace plasmos {
 
@@ -129,6 +132,16 @@ void LogView::LookAtLine(const QTextCursor& cursor) {
     if (const int moment = cursor.block().userState(); OnMoment && moment > 0) {
         OnMoment(moment);
     }
+}
+
+bool LogView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int moment = cursorForPosition(help->pos()).block().userState();
+        QToolTip::showText(help->globalPos(), WhyOf && moment > 0 ? PlainTip(WhyOf(moment)) : QString(), viewport());
+        return true;
+    }
+    return QTextEdit::viewportEvent(event);
 }
 
 void LogView::mousePressEvent(QMouseEvent* event) {

@@ -17,6 +17,8 @@ public:
     std::function<int()> MomentOfNow;
     /// A line is pressed, or Enter on the line of the cursor: somebody wants to see its moment.
     std::function<void(int moment)> OnMoment;
+    /// Why what a line tells was done; empty: nobody knows.
+    std::function<QString(int moment)> WhyOf;
     /// Marks the last line of a moment, or of what came before it, and brings it into sight; 0: none.
     void MarkMoment(int moment);
 
@@ -35,6 +37,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -46,6 +46,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
       autotenlab(MakePill(this, "autotenlab", "auto-tentacle")),
       yesb(new QPushButton(QStringLiteral("&Yes"), this)),
       nob(new QPushButton(QStringLiteral("&No"), this)),
+      whyb(new QPushButton(QStringLiteral("Why?"), this)),
       state_(state),
       hint_(MakeLabel(this, QStringLiteral("hintlab"), 12, true, Tone::Ink)),
       speaker_(MakeLabel(this, QStringLiteral("speakerlab"), 13, true, Tone::Ink)),
@@ -61,6 +62,12 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
     yesb->setProperty("main", true);
+    whyb->setObjectName(QStringLiteral("whyb"));
+    whyb->setToolTip(QStringLiteral("Why the other clans did what they did last (F4)"));
+    whyb->setFocusPolicy(Qt::TabFocus);  // the board or the dialog keeps the keyboard when it is pressed
+    whyb->setAutoDefault(true);
+    WearSheet(*whyb, QStringLiteral("padding:0 @6px;min-height:@18px;font-size:@11px"));
+    whyb->hide();
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     autoeatlab->setToolTip(QString::fromLatin1(AutoEatingTip));
     autotenlab->setToolTip(QStringLiteral("This clan uses its tentacles without asking"));
@@ -123,6 +130,15 @@ void QuestionCard::AskYesNo(bool on) {
     Arrange();
 }
 
+void QuestionCard::OfferWhy(bool on) {
+    whyb->setVisible(on);
+    Arrange();
+}
+
+int QuestionCard::WhyWidth() const {
+    return whyb->isVisibleTo(this) ? Px(52) : 0;
+}
+
 void QuestionCard::ShowHint(const QString& hint) {
     hint_->setText(hint);
 }
@@ -171,7 +187,7 @@ void QuestionCard::Redress() {
 void QuestionCard::ArrangeHead() {
     const int pad = Px(Pad);
     const int head = pad + Px(26);
-    const int room = std::max(Px(60), width() - head - Px(190));
+    const int room = std::max(Px(60), width() - head - Px(190) - WhyWidth());
     const int name = std::min(playerlab->sizeHint().width() + Px(14), room);
     speaker_->setVisible(IsOfTwo());
     if (!IsOfTwo()) {
@@ -183,15 +199,17 @@ void QuestionCard::ArrangeHead() {
     speaker_->setGeometry(head, Px(9), speaker, Px(20));
     const int after = head + speaker + Px(6);
     const bool pills = autoeatlab->isVisibleTo(this) || autotenlab->isVisibleTo(this);
-    const int left = width() - pad - (pills ? Px(190) : 0) - after;
+    const int left = width() - pad - WhyWidth() - (pills ? Px(190) : 0) - after;
     playerlab->setGeometry(after, Px(9), std::clamp(left, Px(20), std::max(name, Px(20))), Px(20));
 }
 
 void QuestionCard::Arrange() {
     ArrangeHead();
     const int pad = Px(Pad);
-    autoeatlab->setGeometry(width() - pad - Px(84), Px(10), Px(84), Px(18));
-    autotenlab->setGeometry(width() - pad - Px(84 + 98), Px(10), Px(94), Px(18));
+    const int right = width() - pad - WhyWidth();
+    whyb->setGeometry(right + Px(6), Px(8), Px(46), Px(22));
+    autoeatlab->setGeometry(right - Px(84), Px(10), Px(84), Px(18));
+    autotenlab->setGeometry(right - Px(84 + 98), Px(10), Px(94), Px(18));
     const bool room = height() > Px(115);  // more than a dialog leaves it
     const int foot = Px(room ? ButtonHeight + 12 : 6);
     const int inner = width() - 2 * pad;

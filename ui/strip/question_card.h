@@ -28,6 +28,7 @@ public:
     QLabel* autotenlab;
     QPushButton* yesb;
     QPushButton* nob;
+    QPushButton* whyb;  ///< tells why the computer clans did what they did last
 
     /// Replaces the message; the colours are those of the clan, 0: no clan's.
     void ShowMessage(const QString& text, int clan);
@@ -37,6 +38,8 @@ public:
     void AskYesNo(bool on);
     /// Something is asked just now, or nothing any more: a question that has been answered stands back.
     void ShowAsked(bool asked);
+    /// There is something to tell, or not.
+    void OfferWhy(bool on);
     /// A hint in place of the buttons, such as where to click.
     void ShowHint(const QString& hint);
     /// The same, told aloud: something was pressed in vain.
@@ -58,6 +61,7 @@ protected:
     void Redress() override;
 
 private:
+    int WhyWidth() const;
     void Recolour();
     void SetAnswered(bool answered);
     void Arrange();

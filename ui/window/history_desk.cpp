@@ -5,6 +5,9 @@
 #include <utility>
 
 #include "ui/dialogs/question_panel.h"
+#include "ui/look/palette.h"
+#include "ui/strip/log_view.h"
+#include "ui/strip/question_card.h"
 #include "ui/strip/side_strip.h"
 #include "ui/strip/start_card.h"
 #include "ui/strip/summary_panel.h"
@@ -15,6 +18,7 @@
 #include "ui/window/record_menus.h"
 #include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
+#include "ui/window/why_window.h"
 
 namespace plasmos {
 
@@ -40,6 +44,12 @@ HistoryDesk::HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& des
     connect(start->resumeb, &QPushButton::clicked, this, [this] { records_->Open(waiting_); });
     RefuseRepeats(start->resumeb);
     start->resumeb->setAutoDefault(true);
+    QPushButton* why = table.Strip->Question->whyb;
+    connect(why, &QPushButton::clicked, this, [this] { ShowReasons(*window_, *records_->Recorder()); });
+    RefuseRepeats(why);
+    table.Strip->Log->WhyOf = [this](int moment) {
+        return records_->HasGame() ? ToQt(records_->Recorder()->WhyAt(moment)) : QString();
+    };
     ConnectSummary(newGame);
 }
 
@@ -77,6 +87,7 @@ void HistoryDesk::Enable(bool guided) {
 void HistoryDesk::Follow() {
     menus_->ShowPossible();
     look_->Follow();
+    table_->Strip->Question->OfferWhy(records_->HasGame() && !records_->Recorder()->Reasons().empty());
 }
 
 void HistoryDesk::GameIsOver() {

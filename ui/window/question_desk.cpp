@@ -62,7 +62,7 @@ void QuestionDesk::Hold(bool on) {
 
 void QuestionDesk::Freeze(bool on) {
     if (std::exchange(frozen_, on) != on) {
-        ActivateTop(Qt::OtherFocusReason);
+        ShowTop(Qt::OtherFocusReason);
         wait_.Interrupt();
     }
 }
@@ -159,7 +159,7 @@ void QuestionDesk::Close(Question& question) {
 }
 
 // Only the topmost question answers; those below stay in sight where there is room.
-void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
+void QuestionDesk::ShowTop(Qt::FocusReason reason) {
     std::vector<QuestionPanel*> panels;
     for (std::size_t i = 0; i < asked_.size(); ++i) {
         if (asked_[i].Panel) {
@@ -180,6 +180,7 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     ShowAsked();
     ShowSafety();
     if (frozen_) {
+        strip_->Question->ShowHint(QStringLiteral("The game waits while you look back."));
         return;
     }
     if (square != nullptr) {
@@ -187,9 +188,15 @@ void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
     } else if (top != nullptr && asked_.back().Panel) {
         asked_.back().Panel->FirstControl()->setFocus(reason);
     }
-    Speak();
-    TellTop();
-    AnnounceTop();
+}
+
+void QuestionDesk::ActivateTop(Qt::FocusReason reason) {
+    ShowTop(reason);
+    if (!frozen_) {
+        Speak();
+        TellTop();
+        AnnounceTop();
+    }
 }
 
 void QuestionDesk::TellTop() {

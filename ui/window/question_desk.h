@@ -73,6 +73,8 @@ private:
 
     /// The topmost question takes the keyboard; one that has just opened brings its first control into sight.
     void ActivateTop(Qt::FocusReason reason);
+    /// The same without a word to anybody: it was on top before.
+    void ShowTop(Qt::FocusReason reason);
     /// Whether anything is asked, for the message line.
     void ShowAsked();
     /// Who listens is told of the topmost question.

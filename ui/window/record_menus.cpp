@@ -18,6 +18,7 @@
 #include "ui/window/kept_game_view.h"
 #include "ui/window/look_desk.h"
 #include "ui/window/record_desk.h"
+#include "ui/window/why_window.h"
 
 namespace plasmos {
 
@@ -105,6 +106,8 @@ void RecordMenus::AddLooks(QMenu* menu) {
     add("latermen", "&Later", "PgDown", [this] { look_->Move(1); });
     add("firstmen", "The &Beginning", "Home", [this] { look_->LookAtFirst(); });
     add("nowmen", "&Now", "End", [this] { look_->Return(); });
+    menu->addSeparator();
+    add("whymen", "&Why?", "F4", [this] { ShowReasons(*window_, *records_->Recorder()); });
 }
 
 void RecordMenus::ShowPossible() {

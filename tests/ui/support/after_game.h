@@ -3,12 +3,13 @@
 
 #include <QDir>
 
+#include "model/services.h"
+#include "record/input_list.h"
 #include "record/turn_figures.h"
 #include "tests/ui/support/scene.h"
 #include "ui/strip/summary_panel.h"
 #include "ui/strip/summary_table.h"
 #include "ui/strip/turn_chart.h"
-#include "ui/window/figure_listener.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
@@ -19,6 +20,25 @@ inline constexpr const char* Kinds[] = {"chart_score", "chart_amoebas", "chart_f
 inline QString Named(const char* name) {
     return QString::fromLatin1(name);
 }
+
+/// Has the figures of the current game noted while it lives; whoever listened before goes on to hear everything.
+class FigureListener : public PassingObserver {
+public:
+    explicit FigureListener(FigureKeeper& keeper)
+        : PassingObserver(services.Listener), keeper_(keeper), before_(services.Listener) {
+        services.Listener = this;
+    }
+    ~FigureListener() override { services.Listener = before_; }
+
+    void OnEnd(Step step, int clan, int amoeba) override {
+        PassingObserver::OnEnd(step, clan, amoeba);
+        keeper_.Note(step, game);
+    }
+
+private:
+    FigureKeeper& keeper_;
+    Observer* before_;
+};
 
 /// A window after a game that somebody has watched; its figures were noted beside it.
 class AfterGame : public Scene {

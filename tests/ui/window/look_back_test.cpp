@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Looking back at earlier boards while the game waits, and why the computer clans did what they did.
+
+#include <QAction>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QToolTip>
+
+#include "record/play_record.h"
+#include "tests/ui/support/scene.h"
+#include "ui/app/auto_person.h"
+#include "ui/board/puddle_view.h"
+#include "ui/strip/log_view.h"
+#include "ui/strip/summary_panel.h"
+#include "ui/window/history_desk.h"
+#include "ui/window/look_bar.h"
+#include "ui/window/look_desk.h"
+#include "ui/window/record_desk.h"
+#include "ui/window/uboard.h"
+
+namespace plasmos::testing {
+
+class LookBackTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void keysGoThroughTurnsAndPhases();
+    void theBarIsPressed();
+    void nothingCanBeChangedThere();
+    void onFromHere();
+    void linesOfTheLogLeadToTheirMoment();
+    void theSummaryLeadsToItsTurns();
+    void playAgainFromATurn();
+    void keysOfWhatPagesItself();
+    void whyIsTold();
+    void linesTellWhy();
+
+private:
+    /// Plays a game of three clans up to its nth question that is no box, and does something there.
+    static void At(Scene& scene, int number, const std::function<void(Question&)>& act) {
+        game.RequestedClans = 3;
+        game.HasRequestedReplay = true;
+        game.RequestedReplay = 5;
+        int seen = 0;
+        scene.AnswerBy([&scene, number, act, seen](Question& question) mutable {
+            if (question.Kind == QuestionKind::Box || seen + 1 < number) {
+                seen += question.Kind == QuestionKind::Box ? 0 : 1;
+                scene.Player().Answer(question);
+            } else {
+                act(question);
+            }
+        });
+    }
+    static bool LooksBack(Scene& scene) { return scene.Board().History().Looking().LooksBack(); }
+    static LogView* LogOf(Scene& scene) { return static_cast<LogView*>(scene.Find(QStringLiteral("txtLog"))); }
+    static SummaryPanel* SummaryOf(Scene& scene) {
+        return static_cast<SummaryPanel*>(scene.Find(QStringLiteral("summary")));
+    }
+    /// Whether a line is about a piece of the person.
+    static bool IsOwn(const QString& line) {
+        bool own = false;
+        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+            own = own || line.contains(ToQt(game.Amoeba[amoeba][3].Name.View()));
+        }
+        return own;
+    }
+    static void Press(Scene& scene, Qt::Key key) { QTest::keyClick(scene.Board().windowHandle(), key); }
+};
+
+void LookBackTest::keysGoThroughTurnsAndPhases() {
+    Scene scene;
+    At(scene, 24, [&](Question&) {
+        const auto& recorder = *scene.Board().History().Records().Recorder();
+        const auto& chapters = recorder.Chapters();
+        QVERIFY(chapters.size() > 8);
+        const GameState now = game;
+        for (std::size_t back = 1; back <= chapters.size(); ++back) {
+            Press(scene, Qt::Key_PageUp);
+            QVERIFY(LooksBack(scene));
+            const auto& chapter = chapters[chapters.size() - back];
+            const GameState& shown = scene.Puddle().State();
+            QCOMPARE(shown.Turn, chapter.Turn);
+            QVERIFY(shown.Phase == chapter.Phase);
+            QCOMPARE(shown.Signature, StateAt(recorder.Record(), chapter.Moment).Signature);
+            const QString name = chapter.Turn == 0
+                                     ? QStringLiteral("Before the first turn")
+                                     : QStringLiteral("Turn %1, %2").arg(chapter.Turn).arg(ToQt(chapter.Phase.View()));
+            QCOMPARE(scene.Text(QStringLiteral("pastlab")), name);
+        }
+        Press(scene, Qt::Key_PageUp);
+        QCOMPARE(scene.Puddle().State().Turn, 0);
+        Press(scene, Qt::Key_PageDown);
+        QCOMPARE(scene.Puddle().State().Turn, 1);
+        Press(scene, Qt::Key_End);
+        QVERIFY(!LooksBack(scene) && &scene.Puddle().State() == &game);
+        Press(scene, Qt::Key_Home);
+        QCOMPARE(scene.Puddle().State().Turn, 0);
+        scene.Click(QStringLiteral("nowb"));
+        QVERIFY(!LooksBack(scene) && !scene.Sees(QStringLiteral("nowb")));
+        QVERIFY2(now.Signature == game.Signature && now.Turn == game.Turn, "the game has stayed where it was");
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void LookBackTest::theBarIsPressed() {
+    Scene scene;
+    At(scene, 24, [&](Question&) {
+        auto* bar = scene.Board().findChild<QAbstractSlider*>(QStringLiteral("turnbar"));
+        scene.Press(bar, Qt::LeftButton, QPoint(bar->width() / 61, bar->height() / 2));
+        QVERIFY(LooksBack(scene));
+        QVERIFY(scene.Puddle().State().Turn <= 1);
+        scene.Press(bar, Qt::LeftButton, QPoint(bar->width() - 2, bar->height() / 2));
+        QVERIFY2(!LooksBack(scene), "what has not been played yet is now");
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void LookBackTest::nothingCanBeChangedThere() {
+    Scene scene;
+    // A field that loses the keyboard is left, which changes nothing.
+    const auto inputs = [&] {
+        const InputList& given = scene.Board().History().Records().Recorder()->Inputs;
+        return std::count_if(given.begin(), given.end(),
+                             [](const Input& input) { return input.Given.What != Answer::Kind::LeaveField; });
+    };
+    int tried = 0;
+    At(scene, 3, [&](Question& question) {
+        const auto before = inputs();
+        Press(scene, Qt::Key_PageUp);
+        QVERIFY(LooksBack(scene));
+        if (question.Kind == QuestionKind::YesNo) {
+            ++tried;
+            QVERIFY(!scene.Enabled(QStringLiteral("yesb")) || !scene.Sees(QStringLiteral("yesb")));
+            Press(scene, Qt::Key_Y);
+        }
+        if (question.Kind == QuestionKind::Square) {
+            ++tried;
+            scene.ClickSquare(1);
+            QVERIFY(scene.Puddle().Offered().empty());
+        }
+        if (question.Kind == QuestionKind::Food) {
+            ++tried;
+            QVERIFY(!scene.Find(QStringLiteral("eatb"))->isEnabled());
+        }
+        QTest::qWait(20);
+        QCOMPARE(inputs(), before);
+        Press(scene, Qt::Key_End);
+        tried < 12 ? scene.Player().Answer(question) : scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QCOMPARE(tried, 12);
+}
+
+void LookBackTest::onFromHere() {
+    Scene scene;
+    bool gone = false;
+    At(scene, 24, [&](Question&) {
+        if (gone) {
+            scene.LeaveGame();
+            return;
+        }
+        const auto turn = game.Turn;
+        scene.Menu(QStringLiteral("firstmen"));
+        scene.Menu(QStringLiteral("latermen"));
+        gone = true;
+        scene.Watch = [&scene, turn](Question&) {
+            QCOMPARE(game.Turn, 1);
+            QVERIFY(turn > 1 && !LooksBack(scene));
+            QVERIFY(scene.Board().History().Records().CanGoAgain());
+        };
+        scene.Click(QStringLiteral("goonb"));
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(gone);
+}
+
+void LookBackTest::linesOfTheLogLeadToTheirMoment() {
+    Scene scene;
+    At(scene, 24, [&](Question& question) {
+        if (question.Kind != QuestionKind::YesNo) {
+            scene.Player().Answer(question);
+            return;
+        }
+        auto* log = LogOf(scene);
+        log->verticalScrollBar()->setValue(0);
+        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
+            QVERIFY2(block.userState() > 0, qPrintable(block.text()));
+        }
+        const QTextBlock line = log->document()->findBlockByNumber(4);
+        const QPoint place = log->cursorRect(QTextCursor(line)).center() + QPoint(30, 0);
+        scene.Press(log->viewport(), Qt::LeftButton, place);
+        QVERIFY(LooksBack(scene));
+        const auto& recorder = *scene.Board().History().Records().Recorder();
+        QCOMPARE(scene.Puddle().State().Signature, StateAt(recorder.Record(), line.userState()).Signature);
+        QCOMPARE(log->extraSelections().size(), 1);
+        QCOMPARE(log->extraSelections().first().cursor.block().userState(), line.userState());
+        scene.Click(QStringLiteral("nowb"));
+        QVERIFY(log->extraSelections().isEmpty());
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void LookBackTest::theSummaryLeadsToItsTurns() {
+    Scene scene;
+    scene.Board().resize(1320, 860);
+    game.RequestedClans = 4;
+    PLAY(scene, scene.Click(QStringLiteral("watchb")));
+    auto* summary = SummaryOf(scene);
+    QVERIFY(summary->isVisible() && scene.Sees(QStringLiteral("savegameb")) &&
+            scene.Sees(QStringLiteral("playagainb")));
+    for (const int turn : {3, 7, 0}) {
+        summary->OnTurn(turn);
+        QVERIFY(LooksBack(scene));
+        QCOMPARE(scene.Puddle().State().Turn, turn);
+    }
+    Press(scene, Qt::Key_End);
+    QVERIFY(!LooksBack(scene));
+    QVERIFY(summary->isVisible());
+}
+
+void LookBackTest::playAgainFromATurn() {
+    Scene scene;
+    At(scene, 100000, [](Question&) {});
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(game.Turn > LastTurn || game.GameOver);
+    auto* summary = SummaryOf(scene);
+    bool asked = false;
+    scene.AnswerBy([&](Question&) {
+        asked = true;
+        QCOMPARE(game.Turn, 4);
+        scene.LeaveGame();
+    });
+    const auto again = [&] {
+        summary->OnPlayAgain(3);
+        QTRY_VERIFY(asked && !scene.Board().Playing());
+    };
+    PLAY(scene, again());
+    QVERIFY(!summary->isVisible());
+}
+
+void LookBackTest::keysOfWhatPagesItself() {
+    Scene scene;
+    At(scene, 24, [&](Question& question) {
+        if (question.Kind != QuestionKind::YesNo) {
+            scene.Player().Answer(question);
+            return;
+        }
+        auto* log = LogOf(scene);
+        log->setFocus();
+        const int before = log->verticalScrollBar()->value();
+        QVERIFY(before > 0);
+        Press(scene, Qt::Key_PageUp);
+        QVERIFY2(!LooksBack(scene) && log->verticalScrollBar()->value() < before,
+                 "the log pages when it has the keyboard");
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+// ---- why ----
+
+void LookBackTest::whyIsTold() {
+    Scene scene;
+    At(scene, 6, [&](Question&) {
+        QVERIFY(scene.Sees(QStringLiteral("whyb")));
+        scene.Click(QStringLiteral("whyb"));
+        auto* text = scene.Board().findChild<QTextEdit*>(QStringLiteral("reasons"));
+        QVERIFY(text != nullptr && text->isVisible());
+        const auto& latest = scene.Board().History().Records().Recorder()->Reasons().back();
+        QVERIFY(text->toPlainText().startsWith(QStringLiteral("Turn %1: ").arg(latest.Turn)));
+        for (const auto& [moment, sentence] : latest.Sentences) {
+            QVERIFY2(text->toPlainText().contains(ToQt(sentence)), sentence.c_str());
+        }
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void LookBackTest::linesTellWhy() {
+    Scene scene;
+    At(scene, 24, [&](Question&) {
+        const auto& recorder = *scene.Board().History().Records().Recorder();
+        auto* log = LogOf(scene);
+        int told = 0;
+        int lines = 0;
+        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
+            const QString why = log->WhyOf(block.userState());
+            const QString text = block.text();
+            if (!IsOwn(text) &&
+                (text.contains(QStringLiteral(" moves ")) || text.contains(QStringLiteral(" remains ")))) {
+                ++lines;
+                told += why.isEmpty() ? 0 : 1;
+            }
+        }
+        QVERIFY2(lines > 5 && told == lines, "every move of a computer clan has its reason");
+        QCOMPARE(recorder.WhyAt(1), std::string());
+        const QTextBlock line = log->document()->lastBlock();
+        QHelpEvent hover(QEvent::ToolTip, log->cursorRect(QTextCursor(line)).center(), QCursor::pos());
+        QCoreApplication::sendEvent(log->viewport(), &hover);
+        QCOMPARE(QToolTip::text().isEmpty(), log->WhyOf(line.userState()).isEmpty());
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::LookBackTest>(argc, argv);
+}
+
+#include "look_back_test.moc"
