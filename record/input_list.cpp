@@ -138,6 +138,7 @@ InputPlayer::InputPlayer(const InputList& inputs, Observer* next, std::size_t gi
     : PassingObserver(next),
       inputs_(inputs),
       next_(givenBefore),
+      end_(inputs.size()),
       windowBefore_(services.Window),
       listenerBefore_(services.Listener) {
     services.Window = this;
@@ -162,35 +163,42 @@ void InputPlayer::Exhausted(Question& /*question*/) {
     throw GameLeft{};
 }
 
-/// The next input, which the open question is to take.
-const Input& InputPlayer::Take(const Question& question) {
+void InputPlayer::Mismatch(const InputFault& fault) {
+    throw InputFault(fault);
+}
+
+void InputPlayer::Refuse(const InputFault& fault) {
+    Mismatch(fault);
+    end_ = next_;
+}
+
+/// Whether the next input is one for the open question.
+bool InputPlayer::NextFits(const Question& question) {
     const Input& input = inputs_[next_];
     if (input.StepsBegun >= 0) {
-        throw InputFault{next_, Concat("a question is open here, and \"", WordsOf(input),
-                                       "\" answers none; allowed: ", AllowedText(question))};
+        Refuse({next_, Concat("a question is open here, and \"", WordsOf(input),
+                              "\" answers none; allowed: ", AllowedText(question))});
+    } else if (input.Check >= 0 && input.Check != CheckOfNow()) {
+        Refuse({next_, Concat("the game stands otherwise here than when \"", WordsOf(input),
+                              "\" was put in: something above was changed")});
     }
-    if (input.Check >= 0 && input.Check != CheckOfNow()) {
-        throw InputFault{next_, Concat("the game stands otherwise here than when \"", WordsOf(input),
-                                       "\" was put in: something above was changed")};
-    }
-    answer_ = input.IsSwitch ? answer_ : next_;
-    ++next_;
-    return input;
+    return !AtEnd();
 }
 
 /// Answers until the rule has something to look at. A switch is taken over before the next answer.
 void InputPlayer::Wait() {
     Question& question = *TopQuestion();
     while (!question.Answered()) {
-        if (AtEnd()) {
+        if (AtEnd() || !NextFits(question)) {
             Exhausted(question);
             return;
         }
-        const Input& input = Take(question);
+        const Input& input = inputs_[next_++];
         if (input.IsSwitch) {
             services.Switches.Add(input.Turned);
             return;
         }
+        answer_ = next_ - 1;
         question.Put(input.Given);
     }
 }
@@ -203,10 +211,9 @@ void InputPlayer::OnAnswer(const Question& question, const Answer& answer, bool 
     }
     const Input& given = inputs_.at(answer_);
     if (accepted == given.Refused && !(AtEnd() && answer_ + 1 == inputs_.size() && !accepted)) {
-        throw InputFault{answer_,
-                         Concat("\"", WordsOf(given),
+        Refuse({answer_, Concat("\"", WordsOf(given),
                                 accepted ? "\" is taken here, and was refused" : "\" is refused here; allowed: ",
-                                accepted ? std::string() : AllowedText(question))};
+                                accepted ? std::string() : AllowedText(question))});
     }
     PassingObserver::OnAnswer(question, answer, accepted);
 }

@@ -63,7 +63,11 @@ public:
     void OnBegin(Step step, int clan, int amoeba) override { Pass(&Observer::OnBegin, step, clan, amoeba); }
     void OnEnd(Step step, int clan, int amoeba) override { Pass(&Observer::OnEnd, step, clan, amoeba); }
     void OnHappening(const Happening& happening) override { Pass(&Observer::OnHappening, happening); }
-    void OnReason(std::string_view sentence) override { Pass(&Observer::OnReason, sentence); }
+    void OnReason(std::string_view sentence) override {
+        if (next_ != nullptr && next_->WantsReasons()) {
+            next_->OnReason(sentence);
+        }
+    }
     void OnSay(std::string_view line) override { Pass(&Observer::OnSay, line); }
     void OnBox(std::string_view text) override { Pass(&Observer::OnBox, text); }
     void OnAsk(const Question& question) override { Pass(&Observer::OnAsk, question); }
@@ -126,7 +130,7 @@ public:
     /// What is asked may hang on whether words are wanted; the game was played before somebody who wanted them.
     bool WantsText() const override { return true; }
     /// Whether every input has been given.
-    bool AtEnd() const { return next_ == inputs_.size(); }
+    bool AtEnd() const { return next_ == end_; }
     /// How many have been given.
     std::size_t Given() const { return next_; }
 
@@ -140,15 +144,19 @@ public:
 protected:
     /// A question is open, and every input has been given.
     virtual void Exhausted(Question& question);
+    /// An input does not fit. Nothing of what comes behind it is given if this returns.
+    virtual void Mismatch(const InputFault& fault);
     /// Whoever was window and listener before is it again.
     void HandBack();
 
 private:
-    const Input& Take(const Question& question);
+    bool NextFits(const Question& question);
+    void Refuse(const InputFault& fault);
     void TurnSwitchesBeforeStep();
 
     const InputList& inputs_;
     std::size_t next_ = 0;
+    std::size_t end_ = 0;
     std::size_t answer_ = 0;  ///< the latest that is an answer
     int steps_ = 0;
     Presentation* windowBefore_;

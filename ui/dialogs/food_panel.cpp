@@ -164,7 +164,6 @@ void FoodPanel::MakeRow(int field) {
         line->addWidget(part, part == row.Name ? 1 : 0);
     }
     Body()->addWidget(row.Line);
-    LeaveUndoToGame(row.Entry);
     connect(row.Entry, &QLineEdit::textChanged, this, [this, field](const QString& text) {
         if (!rereading_) {
             Handle([this, field, &text] { form_.fdtxt_Change(field, text.toStdString()); });

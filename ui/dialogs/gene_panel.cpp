@@ -81,7 +81,6 @@ void GenePanel::Redress() {
 }
 
 void GenePanel::Connect() {
-    LeaveUndoToGame(EnvBP_);
     connect(EnvBP_, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!rereading_) {
             Handle([this, &text] { form_.EnvBP_Change(text.toStdString()); });

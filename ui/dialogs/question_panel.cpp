@@ -2,6 +2,7 @@
 #include "ui/dialogs/question_panel.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -63,10 +64,6 @@ public:
 };
 
 }  // namespace
-
-void LeaveUndoToGame(QWidget* field) {
-    field->installEventFilter(new UndoFilter(field));
-}
 
 void RefuseRepeats(QWidget* control) {
     control->installEventFilter(new RepeatFilter(control));
@@ -196,6 +193,11 @@ QPushButton* QuestionPanel::MakeButton(const QString& name, const QString& capti
 }
 
 void QuestionPanel::OrderTabs(const std::vector<QWidget*>& controls) {
+    for (QWidget* control : controls) {
+        if (qobject_cast<QLineEdit*>(control) != nullptr) {
+            control->installEventFilter(new UndoFilter(control));
+        }
+    }
     for (std::size_t i = 1; i < controls.size(); ++i) {
         setTabOrder(controls[i - 1], controls[i]);
     }

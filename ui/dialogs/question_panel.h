@@ -100,9 +100,6 @@ private:
     ArrowKeys* arrows_;
 };
 
-/// The keys that undo are left to the game by a field, which has them for its own text otherwise.
-void LeaveUndoToGame(QWidget* field);
-
 /// Keeps double clicks and repeated keys from an answering control.
 void RefuseRepeats(QWidget* control);
 

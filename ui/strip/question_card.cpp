@@ -62,12 +62,7 @@ QuestionCard::QuestionCard(QWidget* parent, const GameState& state)
     yesb->setObjectName(QStringLiteral("yesb"));
     nob->setObjectName(QStringLiteral("nob"));
     yesb->setProperty("main", true);
-    whyb->setObjectName(QStringLiteral("whyb"));
-    whyb->setToolTip(QStringLiteral("Why the other clans did what they did last (F4)"));
-    whyb->setFocusPolicy(Qt::TabFocus);  // the board or the dialog keeps the keyboard when it is pressed
-    whyb->setAutoDefault(true);
-    WearSheet(*whyb, QStringLiteral("padding:0 @6px;min-height:@18px;font-size:@11px"));
-    whyb->hide();
+    MakeWhy();
     hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
     autoeatlab->setToolTip(QString::fromLatin1(AutoEatingTip));
     autotenlab->setToolTip(QStringLiteral("This clan uses its tentacles without asking"));
@@ -128,6 +123,16 @@ void QuestionCard::AskYesNo(bool on) {
         yesb->setFocus();
     }
     Arrange();
+}
+
+// The board or the dialog keeps the keyboard when it is pressed.
+void QuestionCard::MakeWhy() {
+    whyb->setObjectName(QStringLiteral("whyb"));
+    whyb->setToolTip(QStringLiteral("Why the other clans did what they did last (F4)"));
+    whyb->setFocusPolicy(Qt::TabFocus);
+    whyb->setAutoDefault(true);
+    WearSheet(*whyb, QStringLiteral("padding:0 @6px;min-height:@18px;font-size:@11px"));
+    whyb->hide();
 }
 
 void QuestionCard::OfferWhy(bool on) {

@@ -61,6 +61,7 @@ protected:
     void Redress() override;
 
 private:
+    void MakeWhy();
     int WhyWidth() const;
     void Recolour();
     void SetAnswered(bool answered);

@@ -20,6 +20,8 @@ public:
 
     /// Called when the window has taken over, before it shows what is asked.
     std::function<void()> OnHandedOver;
+    /// What did not fit, where something did not: the window takes over there. Empty: everything did.
+    const std::string& Fault() const { return fault_; }
 
     bool WantsHints() const override { return true; }
     void ShowMessage(std::string_view text, int clan) override;
@@ -40,6 +42,7 @@ public:
     void Finish();
 
 protected:
+    void Mismatch(const InputFault& fault) override { fault_ = fault.Text; }
     void Exhausted(Question& question) override;
 
 private:
@@ -50,6 +53,7 @@ private:
     BoardPresentation* window_;
     int until_;
     bool handedOver_ = false;
+    std::string fault_;
     std::string message_;
     int messageClan_ = 0;
     int outlinedClan_ = 0;

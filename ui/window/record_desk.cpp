@@ -159,6 +159,10 @@ void RecordDesk::Replay(Next next) {
         window_->setUpdatesEnabled(true);
         deeds_.CaughtUp();
         Keep(next);
+        if (!catchUp.Fault().empty()) {
+            deeds_.Tell(
+                ToQt(Concat("The game goes on from here: what came later cannot be played again.\n", catchUp.Fault())));
+        }
     };
     PlayAsSetUp();
     catchUp.Finish();

@@ -45,6 +45,9 @@ public:
         }
     }
     void AnswerTop() {
+        if (scene_.Sees(QStringLiteral("nowb"))) {
+            scene_.Click(QStringLiteral("nowb"));
+        }
         if (Question* top = scene_.Board().TopQuestion(); top != nullptr && !top->Answered()) {
             scene_.Player().Answer(*top);
         }
@@ -76,14 +79,17 @@ private:
         }
     }
     void PressAKey() {
-        constexpr Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Space,  Qt::Key_Escape, Qt::Key_Tab,  Qt::Key_Left,
-                                    Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Y,    Qt::Key_N,
-                                    Qt::Key_F1,     Qt::Key_Delete, Qt::Key_9,      Qt::Key_Minus};
+        constexpr Qt::Key keys[] = {Qt::Key_Return,   Qt::Key_Space,  Qt::Key_Escape, Qt::Key_Tab,   Qt::Key_Left,
+                                    Qt::Key_Right,    Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Y,     Qt::Key_N,
+                                    Qt::Key_F1,       Qt::Key_Delete, Qt::Key_9,      Qt::Key_Minus, Qt::Key_PageUp,
+                                    Qt::Key_PageDown, Qt::Key_Home,   Qt::Key_End};
         QTest::keyClick(scene_.Board().windowHandle(), keys[Below(static_cast<int>(std::size(keys)))]);
     }
     void ChooseAnItem() {
-        const char* items[] = {"autoeat_men", "autoten_men", "sqno_men", "lines_men", "fast_men",    "easymen",
-                               "normmen",     "victorymen",  "pref_men", "watchmen",  "twoplayermen"};
+        const char* items[] = {"autoeat_men",  "autoten_men", "sqno_men",   "lines_men", "fast_men",
+                               "easymen",      "normmen",     "victorymen", "pref_men",  "watchmen",
+                               "twoplayermen", "backmen",     "againmen",   "backmen",   "earliermen",
+                               "latermen",     "firstmen",    "nowmen",     "whymen"};
         QAction* item = scene_.Item(QString::fromLatin1(items[Below(static_cast<int>(std::size(items)))]));
         if (item->isEnabled()) {
             scene_.Menu(item->objectName());

@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Looking back at earlier boards while the game waits, and why the computer clans did what they did.
+// Looking back at earlier boards while the game waits.
 
 #include <QAction>
-#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTextEdit>
-#include <QToolTip>
 
 #include "record/play_record.h"
-#include "tests/ui/support/scene.h"
-#include "ui/app/auto_person.h"
+#include "tests/ui/support/stand.h"
 #include "ui/board/puddle_view.h"
 #include "ui/strip/log_view.h"
 #include "ui/strip/summary_panel.h"
-#include "ui/window/history_desk.h"
 #include "ui/window/look_bar.h"
 #include "ui/window/look_desk.h"
-#include "ui/window/record_desk.h"
-#include "ui/window/uboard.h"
 
 namespace plasmos::testing {
 
@@ -35,44 +28,19 @@ private slots:
     void theSummaryLeadsToItsTurns();
     void playAgainFromATurn();
     void keysOfWhatPagesItself();
-    void whyIsTold();
-    void linesTellWhy();
 
 private:
-    /// Plays a game of three clans up to its nth question that is no box, and does something there.
-    static void At(Scene& scene, int number, const std::function<void(Question&)>& act) {
-        game.RequestedClans = 3;
-        game.HasRequestedReplay = true;
-        game.RequestedReplay = 5;
-        int seen = 0;
-        scene.AnswerBy([&scene, number, act, seen](Question& question) mutable {
-            if (question.Kind == QuestionKind::Box || seen + 1 < number) {
-                seen += question.Kind == QuestionKind::Box ? 0 : 1;
-                scene.Player().Answer(question);
-            } else {
-                act(question);
-            }
-        });
-    }
     static bool LooksBack(Scene& scene) { return scene.Board().History().Looking().LooksBack(); }
     static LogView* LogOf(Scene& scene) { return static_cast<LogView*>(scene.Find(QStringLiteral("txtLog"))); }
     static SummaryPanel* SummaryOf(Scene& scene) {
         return static_cast<SummaryPanel*>(scene.Find(QStringLiteral("summary")));
-    }
-    /// Whether a line is about a piece of the person.
-    static bool IsOwn(const QString& line) {
-        bool own = false;
-        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
-            own = own || line.contains(ToQt(game.Amoeba[amoeba][3].Name.View()));
-        }
-        return own;
     }
     static void Press(Scene& scene, Qt::Key key) { QTest::keyClick(scene.Board().windowHandle(), key); }
 };
 
 void LookBackTest::keysGoThroughTurnsAndPhases() {
     Scene scene;
-    At(scene, 24, [&](Question&) {
+    PlayTo(scene, 24, [&](Question&) {
         const auto& recorder = *scene.Board().History().Records().Recorder();
         const auto& chapters = recorder.Chapters();
         QVERIFY(chapters.size() > 8);
@@ -108,7 +76,7 @@ void LookBackTest::keysGoThroughTurnsAndPhases() {
 
 void LookBackTest::theBarIsPressed() {
     Scene scene;
-    At(scene, 24, [&](Question&) {
+    PlayTo(scene, 24, [&](Question&) {
         auto* bar = scene.Board().findChild<QAbstractSlider*>(QStringLiteral("turnbar"));
         scene.Press(bar, Qt::LeftButton, QPoint(bar->width() / 61, bar->height() / 2));
         QVERIFY(LooksBack(scene));
@@ -129,7 +97,7 @@ void LookBackTest::nothingCanBeChangedThere() {
                              [](const Input& input) { return input.Given.What != Answer::Kind::LeaveField; });
     };
     int tried = 0;
-    At(scene, 3, [&](Question& question) {
+    PlayTo(scene, 3, [&](Question& question) {
         const auto before = inputs();
         Press(scene, Qt::Key_PageUp);
         QVERIFY(LooksBack(scene));
@@ -159,7 +127,7 @@ void LookBackTest::nothingCanBeChangedThere() {
 void LookBackTest::onFromHere() {
     Scene scene;
     bool gone = false;
-    At(scene, 24, [&](Question&) {
+    PlayTo(scene, 24, [&](Question&) {
         if (gone) {
             scene.LeaveGame();
             return;
@@ -181,7 +149,7 @@ void LookBackTest::onFromHere() {
 
 void LookBackTest::linesOfTheLogLeadToTheirMoment() {
     Scene scene;
-    At(scene, 24, [&](Question& question) {
+    PlayTo(scene, 24, [&](Question& question) {
         if (question.Kind != QuestionKind::YesNo) {
             scene.Player().Answer(question);
             return;
@@ -226,7 +194,7 @@ void LookBackTest::theSummaryLeadsToItsTurns() {
 
 void LookBackTest::playAgainFromATurn() {
     Scene scene;
-    At(scene, 100000, [](Question&) {});
+    PlayTo(scene, 100000, [](Question&) {});
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QVERIFY(game.Turn > LastTurn || game.GameOver);
     auto* summary = SummaryOf(scene);
@@ -246,7 +214,7 @@ void LookBackTest::playAgainFromATurn() {
 
 void LookBackTest::keysOfWhatPagesItself() {
     Scene scene;
-    At(scene, 24, [&](Question& question) {
+    PlayTo(scene, 24, [&](Question& question) {
         if (question.Kind != QuestionKind::YesNo) {
             scene.Player().Answer(question);
             return;
@@ -258,52 +226,6 @@ void LookBackTest::keysOfWhatPagesItself() {
         Press(scene, Qt::Key_PageUp);
         QVERIFY2(!LooksBack(scene) && log->verticalScrollBar()->value() < before,
                  "the log pages when it has the keyboard");
-        scene.LeaveGame();
-    });
-    PLAY(scene, scene.Click(QStringLiteral("gob")));
-}
-
-// ---- why ----
-
-void LookBackTest::whyIsTold() {
-    Scene scene;
-    At(scene, 6, [&](Question&) {
-        QVERIFY(scene.Sees(QStringLiteral("whyb")));
-        scene.Click(QStringLiteral("whyb"));
-        auto* text = scene.Board().findChild<QTextEdit*>(QStringLiteral("reasons"));
-        QVERIFY(text != nullptr && text->isVisible());
-        const auto& latest = scene.Board().History().Records().Recorder()->Reasons().back();
-        QVERIFY(text->toPlainText().startsWith(QStringLiteral("Turn %1: ").arg(latest.Turn)));
-        for (const auto& [moment, sentence] : latest.Sentences) {
-            QVERIFY2(text->toPlainText().contains(ToQt(sentence)), sentence.c_str());
-        }
-        scene.LeaveGame();
-    });
-    PLAY(scene, scene.Click(QStringLiteral("gob")));
-}
-
-void LookBackTest::linesTellWhy() {
-    Scene scene;
-    At(scene, 24, [&](Question&) {
-        const auto& recorder = *scene.Board().History().Records().Recorder();
-        auto* log = LogOf(scene);
-        int told = 0;
-        int lines = 0;
-        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
-            const QString why = log->WhyOf(block.userState());
-            const QString text = block.text();
-            if (!IsOwn(text) &&
-                (text.contains(QStringLiteral(" moves ")) || text.contains(QStringLiteral(" remains ")))) {
-                ++lines;
-                told += why.isEmpty() ? 0 : 1;
-            }
-        }
-        QVERIFY2(lines > 5 && told == lines, "every move of a computer clan has its reason");
-        QCOMPARE(recorder.WhyAt(1), std::string());
-        const QTextBlock line = log->document()->lastBlock();
-        QHelpEvent hover(QEvent::ToolTip, log->cursorRect(QTextCursor(line)).center(), QCursor::pos());
-        QCoreApplication::sendEvent(log->viewport(), &hover);
-        QCOMPARE(QToolTip::text().isEmpty(), log->WhyOf(line.userState()).isEmpty());
         scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Why the computer clans did what they did, as a player reads it.
+
+#include <QHelpEvent>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QToolTip>
+
+#include "tests/ui/support/stand.h"
+#include "ui/strip/log_view.h"
+
+namespace plasmos::testing {
+
+class WhyTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void whyIsTold();
+    void linesTellWhy();
+
+private:
+    /// Whether a line is about a piece of the person.
+    static bool IsOwn(const QString& line) {
+        bool own = false;
+        for (int amoeba = 1; amoeba <= game.MaxAmoeba; ++amoeba) {
+            own = own || line.contains(ToQt(game.Amoeba[amoeba][3].Name.View()));
+        }
+        return own;
+    }
+};
+
+void WhyTest::whyIsTold() {
+    Scene scene;
+    PlayTo(scene, 6, [&](Question&) {
+        QVERIFY(scene.Sees(QStringLiteral("whyb")));
+        scene.Click(QStringLiteral("whyb"));
+        auto* text = scene.Board().findChild<QTextEdit*>(QStringLiteral("reasons"));
+        QVERIFY(text != nullptr && text->isVisible());
+        const auto& latest = scene.Board().History().Records().Recorder()->Reasons().back();
+        QVERIFY(text->toPlainText().startsWith(QStringLiteral("Turn %1: ").arg(latest.Turn)));
+        for (const auto& [moment, sentence] : latest.Sentences) {
+            QVERIFY2(text->toPlainText().contains(ToQt(sentence)), sentence.c_str());
+        }
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+void WhyTest::linesTellWhy() {
+    Scene scene;
+    PlayTo(scene, 24, [&](Question&) {
+        const auto& recorder = *scene.Board().History().Records().Recorder();
+        auto* log = static_cast<LogView*>(scene.Find(QStringLiteral("txtLog")));
+        int told = 0;
+        int lines = 0;
+        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
+            const QString why = log->WhyOf(block.userState());
+            const QString text = block.text();
+            if (!IsOwn(text) &&
+                (text.contains(QStringLiteral(" moves ")) || text.contains(QStringLiteral(" remains ")))) {
+                ++lines;
+                told += why.isEmpty() ? 0 : 1;
+            }
+        }
+        QVERIFY2(lines > 5 && told == lines, "every move of a computer clan has its reason");
+        QCOMPARE(recorder.WhyAt(1), std::string());
+        const QTextBlock line = log->document()->lastBlock();
+        QHelpEvent hover(QEvent::ToolTip, log->cursorRect(QTextCursor(line)).center(), QCursor::pos());
+        QCoreApplication::sendEvent(log->viewport(), &hover);
+        QCOMPARE(QToolTip::text().isEmpty(), log->WhyOf(line.userState()).isEmpty());
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+}  // namespace plasmos::testing
+
+int main(int argc, char** argv) {
+    return plasmos::testing::RunWindowTests<plasmos::testing::WhyTest>(argc, argv);
+}
+
+#include "why_test.moc"
