@@ -33,5 +33,11 @@ take attack-contrast-1320x860 --at attack --replay 13 --clans 4 --colours contra
 take birth-light-1320x860 --at birth --replay 5
 take turn-six-clans-940x640 --clans 6 --size 940x640
 take turn-six-clans-2560x1440 --clans 6 --size 2560x1440
+take look-back-light-1320x860 --at look --replay 5
+take look-back-light-940x640 --at look --replay 5 --size 940x640
+take why-light-1320x860 --at why --replay 5
+take resume-light-1320x860 --at resume --replay 5
+take resume-light-940x640 --at resume --replay 5 --size 940x640
+take end-light-940x640 --at end --replay 13 --clans 6 --size 940x640
 take end-light-1320x860 --at end --replay 13 --clans 4
 cp "$pictures/turn-light-1320x860.png" "$root/docs/picture.png"

@@ -8,14 +8,6 @@
 
 namespace plasmos {
 
-namespace {
-
-bool Leaves(const Input& input) {
-    return input.IsSwitch && input.Turned.What == Switch::Kind::Leave;
-}
-
-}  // namespace
-
 void GameRecorder::CountMoment() {
     ++moment_;
     if (chapters_.empty() || chapters_.back().Turn != game.Turn || !(chapters_.back().Phase == game.Phase)) {
@@ -101,23 +93,26 @@ void GameRecorder::OnAsk(const Question& question) {
 
 // Written down before anything comes of it.
 void GameRecorder::OnInput(const Question& question, const Answer& answer) {
-    if (left_) {
-        PassingObserver::OnInput(question, answer);
-        return;
-    }
     LookWhetherDealt();
-    momentOf_.push_back(moment_);
+    const auto before = Inputs.size();
     InputRecorder::OnInput(question, answer);
-    Tell(InputText(Inputs.back()));
+    Note(before);
 }
 
 void GameRecorder::OnSwitch(const Switch& turned, TakenAt place) {
     LookWhetherDealt();
-    momentOf_.push_back(moment_);
+    const auto before = Inputs.size();
     InputRecorder::OnSwitch(turned, place);
-    left_ = Leaves(Inputs.back());
-    if (!left_) {
-        Tell(InputText(Inputs.back()));
+    Note(before);
+}
+
+/// What has come to the inputs since there were so many.
+void GameRecorder::Note(std::size_t before) {
+    for (; before < Inputs.size(); ++before) {
+        momentOf_.push_back(moment_);
+        if (!LeavesGame(Inputs[before])) {
+            Tell(InputText(Inputs[before]));
+        }
     }
 }
 
@@ -140,7 +135,7 @@ std::size_t GameRecorder::InputsBefore(int moment) const {
 }
 
 void DropLeaving(InputList& inputs) {
-    while (!inputs.empty() && Leaves(inputs.back())) {
+    while (!inputs.empty() && LeavesGame(inputs.back())) {
         inputs.pop_back();
     }
 }

@@ -80,11 +80,11 @@ public:
 private:
     void CountMoment();
     void LookWhetherDealt();
+    void Note(std::size_t before);
     void Tell(std::string_view lines) const;
 
     RecordHead head_;
     bool dealt_ = false;
-    bool left_ = false;  ///< what a control that is put away gives then is no input of the game
     int moment_ = 0;
     std::vector<int> momentOf_;  ///< of every input
     std::vector<Place> places_;

@@ -30,13 +30,11 @@ InputList Meant(InputList inputs) {
 
 std::optional<std::size_t> PlaceToTakeBackTo(const GameRecorder& played, int clan) {
     const auto& places = played.Places();
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        const bool own = clan == 0 || place->Clan == 0 || place->Clan == clan;
-        if (own && place->Inputs < played.Inputs.size() && HasAnswer(played.Inputs, place->Inputs)) {
-            return place->Inputs;
-        }
-    }
-    return std::nullopt;
+    const auto found = std::find_if(places.rbegin(), places.rend(), [&](const GameRecorder::Place& place) {
+        const bool own = clan == 0 || place.Clan == 0 || place.Clan == clan;
+        return own && place.Inputs < played.Inputs.size() && HasAnswer(played.Inputs, place.Inputs);
+    });
+    return found != places.rend() ? std::optional(found->Inputs) : std::nullopt;
 }
 
 void TakenBack::Keep(const GameRecorder& played) {

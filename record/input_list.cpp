@@ -103,14 +103,18 @@ void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
 }
 
 void InputRecorder::OnInput(const Question& question, const Answer& answer) {
-    Inputs.push_back(InputOf(answer));
-    Inputs.back().Check = CheckOfNow();
+    if (!IsLeft()) {
+        Inputs.push_back(InputOf(answer));
+        Inputs.back().Check = CheckOfNow();
+    }
     PassingObserver::OnInput(question, answer);
 }
 
 void InputRecorder::OnSwitch(const Switch& turned, TakenAt place) {
-    Inputs.push_back(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
-    Inputs.back().Check = CheckOfNow();
+    if (!IsLeft()) {
+        Inputs.push_back(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
+        Inputs.back().Check = CheckOfNow();
+    }
     PassingObserver::OnSwitch(turned, place);
 }
 

@@ -39,6 +39,10 @@ inline Input InputOf(const Answer& answer) {
     input.Given = answer;
     return input;
 }
+/// Whether it is that the person left.
+inline bool LeavesGame(const Input& input) {
+    return input.IsSwitch && input.Turned.What == Switch::Kind::Leave;
+}
 /// A switch while a question waits, or before a step.
 inline Input InputOf(const Switch& turned, int stepsBegun = -1) {
     Input input;
@@ -89,7 +93,8 @@ private:
     Observer* next_;
 };
 
-/// Writes a game's inputs down as they come.
+/// Writes a game's inputs down as they come. When it has been left nothing more is one, such as what a control gives
+/// that is put away.
 class InputRecorder : public PassingObserver {
 public:
     explicit InputRecorder(Observer* next = nullptr) : PassingObserver(next) {}
@@ -106,6 +111,8 @@ protected:
     Input* LatestAnswer();
 
 private:
+    bool IsLeft() const { return !Inputs.empty() && LeavesGame(Inputs.back()); }
+
     int steps_ = 0;
 };
 

@@ -115,7 +115,7 @@ private:
     }
 
     bool ReadReplay() {
-        constexpr std::string_view expected = "\"replay\" with the replay number";
+        constexpr std::string_view expected = R"("replay" with the replay number)";
         if (!NextOfHead(expected)) {
             return false;
         }
@@ -150,8 +150,7 @@ private:
     }
 
     bool ReadClans() {
-        constexpr std::string_view expected =
-            "\"clans\" with a number from 3 to 6 and \"given\", \"rolled\" or \"asked\"";
+        constexpr std::string_view expected = R"("clans" with a number from 3 to 6 and "given", "rolled" or "asked")";
         if (!NextOfHead(expected)) {
             return false;
         }
@@ -193,7 +192,7 @@ private:
     bool ReadNames() {
         for (int clan = 1; clan <= Head().Clans; ++clan) {
             const auto expected = Concat(
-                "\"names ", clan, " of\", how many there were to choose from, the clan's name in quotes, \":\" and ",
+                "\"names ", clan, R"( of", how many there were to choose from, the clan's name in quotes, ":" and )",
                 Head().Clans >= 5 ? MaxPieces - 1 : MaxPieces, " names in quotes");
             if (!NextOfHead(expected) || !(TakeNames(line_, clan) || FailExpecting(expected))) {
                 return false;
@@ -218,7 +217,7 @@ private:
         const auto answer =
             std::find_if(inputs.rbegin(), inputs.rend(), [](const Input& each) { return !each.IsSwitch; });
         if (answer == inputs.rend() || answer->Refused) {
-            return Fail("\"refused\" stands below an answer, once");
+            return Fail(R"("refused" stands below an answer, once)");
         }
         answer->Refused = true;
         return true;

@@ -70,7 +70,8 @@ const ReasonRow ShopRows[] = {
     {"a_gene_by_die", [] { Is("Miser", Miser, 2, 6); Give(1, {"mv1", "fru", "par"}); game.EnvDeck[1].UV = 30; }, {20, 7},
      {"Player 1 (Miser) has all its favourites.", "The die over all genes threw 7: Substitution, which costs 4 of its 6 BP.",
       "It has 2 BP and draws for more genes only with 5 to spare."}},
-    {"the_reserve_for_divisions", [] { Is("Miser", Miser, 2, 16); Give(1, {"mv1", "fru", "par"}); game.AmoebaCount[1] = 5; },
+    {"the_reserve_for_divisions", [] { Is("Miser", Miser, 2, 16); Give(1, {"mv1", "fru", "par"});
+                                     LiftPiece(1, 6); LiftPiece(1, 7); game.AmoebaCount[1] = 5; },
      {}, {"Player 1 (Miser) has all its favourites.",
           "It has 16 BP, keeps 6 for each of the amoebas it could still divide (2) and draws for more genes only with 5 to "
           "spare."}},
@@ -160,7 +161,7 @@ const ReasonRow DivideRows[] = {
      {"In turn 1 a coin decides whether Player 1 divides once: it threw 1, so it does.",
       "The die over squares 1 to 24 found 2, where it may divide and can eat, on draw 2 of up to 23."}},
     {"too_little_BP", [] { InTurn(5, 5); }, {}, {"Player 1 has 5 BP, too few for an amoeba at 6."}},
-    {"all_on_the_board", [] { InTurn(5, 60); game.AmoebaCount[1] = 7; }, {},
+    {"all_on_the_board", [] { InTurn(5, 60); for (int piece = 3; piece <= 7; ++piece) { Put(1, piece, piece); } }, {},
      {"Player 1 has all its 7 amoebas on the board."}},
     {"one_less_until_turn_4", [] { InTurn(4, 13); Meals({2}); }, {2, Spot},
      {"Player 1 has BP for 2 amoebas at 6 and room for 5, and until turn 4 it makes one less than it could.",
@@ -171,9 +172,6 @@ const ReasonRow DivideRows[] = {
     {"spores_fall_anywhere", [] { InTurn(5, 6); Give(1, "spo"); }, AfterDraws({1, 13, 20, Spot}),
      {"Player 1 has BP for 1 amoeba at 6 and room for 5.",
       "23 draws found no meal where it may divide; the next square without an amoeba of its own was 20."}},
-    {"no_square_is_left", [] { InTurn(5, 6); SetBoard(3, 4); LiftPiece(1, 1); LiftPiece(1, 2);
-                               for (int square = 1; square <= 12; ++square) { PutPiece(1, square % 2 + 1, square, 0); } }, {},
-     {"Player 1 has BP for 1 amoeba at 6 and room for 5.", "There is no square without an amoeba of Player 1 for another one."}},
 };
 // clang-format on
 

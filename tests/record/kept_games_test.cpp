@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,6 +14,7 @@
 #include "files/platform.h"
 #include "record/play_record.h"
 #include "record/record_file.h"
+#include "tests/files/disk_trouble.h"
 #include "tests/record/restless_robot.h"
 #include "tests/support/game_fixture.h"
 #include "tests/support/test_scale.h"
@@ -129,6 +131,53 @@ TEST_F(Kept, AFolderThatIsTakenAwayIsMadeAgain) {
     EXPECT_EQ(TextOf(keeper.Path()), "head\none\n");
     fs::remove(keeper.Path());
     keeper.Add("two\n");
+    EXPECT_EQ(TextOf(keeper.Path()), "head\none\ntwo\n");
+}
+
+TEST_F(Kept, AFullDiskLeavesWholeLinesAndIsCaughtUpWith) {
+    GameKeeper keeper(Folder());
+    int told = 0;
+    keeper.OnFault = [&told](const std::string&) { ++told; };
+    keeper.Begin("head\n");
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const rlimit full{20, usual.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    keeper.Add("one\n");
+    const std::string path = keeper.Path();
+    for (int input = 0; input < 5; ++input) {
+        keeper.Add("an input that is too long\n");
+        EXPECT_EQ(TextOf(path), "head\none\n") << "no half a line, and nothing is lost";
+    }
+    EXPECT_EQ(told, 1);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &usual), 0);
+    std::signal(SIGXFSZ, before);
+    keeper.Add("two\n");
+    EXPECT_TRUE(keeper.IsKept());
+    EXPECT_EQ(TextOf(keeper.Path()).size(), 5 + 4 + 5 * 26 + 4U);
+}
+
+TEST_F(Kept, AFolderThatMayNotBeWrittenToIsCaughtUpWith) {
+    fs::create_directories(Folder());
+    fs::permissions(fs::path(Folder()).parent_path(), fs::perms(0755));
+    fs::permissions(Folder(), fs::perms(0555));
+    GameKeeper keeper(Folder());
+    std::vector<std::string> told;
+    keeper.OnFault = [&told](const std::string& fault) { told.push_back(fault); };
+    {
+        const AsNobody nobody;
+        keeper.Begin("head\n");
+        keeper.Add("one\n");
+    }
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_THAT(told.front(), HasSubstr("Permission denied"));
+    fs::permissions(Folder(), fs::perms(0777));
+    {
+        const AsNobody nobody;
+        keeper.Add("two\n");
+    }
+    EXPECT_TRUE(keeper.IsKept());
     EXPECT_EQ(TextOf(keeper.Path()), "head\none\ntwo\n");
 }
 

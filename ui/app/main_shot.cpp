@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
@@ -97,7 +100,7 @@ int Refuse(const char* why) {
     std::fprintf(stderr,
                  "plasmos-shot: %s; "
                  "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] "
-                 "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|end] | "
+                 "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|look|why|resume|end] | "
                  "--demo FOLDER\n",
                  why);
     return 2;
@@ -163,9 +166,27 @@ std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
     return why == nullptr ? std::optional(wish) : std::nullopt;
 }
 
+/// What a person sees: the window, and what is open above it.
+QPixmap Seen(UBoard& board) {
+    QPixmap picture = board.grab();
+    for (QWidget* dialog : board.findChildren<QDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const QPixmap above = dialog->grab();
+        QPainter(&picture).drawPixmap(QPoint(40, board.height() - dialog->height() - 60), above);
+    }
+    return picture;
+}
+
+/// Chooses the moment's item of the menus; false: the picture is taken later.
+bool ChooseItem(UBoard& board, const ShotMoment& moment) {
+    for (int time = 0; moment.Item != nullptr && time < moment.Times; ++time) {
+        board.findChild<QAction*>(QString::fromLatin1(moment.Item))->trigger();
+    }
+    return !moment.Ends;
+}
+
 bool Save(UBoard& board, const QString& file) {
     constexpr int small = 0;
-    return board.grab().toImage().convertToFormat(QImage::Format_RGB888).save(file, nullptr, small);
+    return Seen(board).toImage().convertToFormat(QImage::Format_RGB888).save(file, nullptr, small);
 }
 
 /// A game with a person who answers at once, until the moment of the picture, or to its end.
@@ -179,6 +200,9 @@ int TakeShot(const Wish& wish) {
     bool taken = false;
     board.OnQuestion = [&](Question& question) {
         if (!taken && wish.At->Is(question)) {
+            if (!ChooseItem(board, *wish.At)) {
+                return;
+            }
             taken = true;
             saved = Save(board, wish.File);
             board.EndProgram();

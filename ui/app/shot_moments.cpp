@@ -18,11 +18,17 @@ bool AsksIn(const Question& question, QuestionKind kind, std::string_view phase)
     return question.Kind == kind && game.Phase.View() == phase;
 }
 
+bool IsTurnOfPicture(const Question& question) {
+    return game.Turn > TurnOfPicture || (game.Turn == TurnOfPicture && question.Kind == QuestionKind::YesNo);
+}
+
+constexpr int PhasesBack = 8;
+
 constexpr ShotMoment Moments[] = {
-    {"turn",
-     [](const Question& question) {
-         return game.Turn > TurnOfPicture || (game.Turn == TurnOfPicture && question.Kind == QuestionKind::YesNo);
-     }},
+    {"turn", IsTurnOfPicture},
+    {"look", IsTurnOfPicture, "earliermen", PhasesBack},
+    {"why", IsTurnOfPicture, "whymen"},
+    {"resume", IsTurnOfPicture, "leavemen", 1, true},
     {"meal", [](const Question& question) { return game.Turn > 1 && question.Kind == QuestionKind::Food; }},
     {"genes", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "New genes"); }},
     {"adapt", [](const Question& question) { return AsksIn(question, QuestionKind::Genes, "Environment"); }},

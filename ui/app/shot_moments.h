@@ -11,10 +11,13 @@ class Question;
 struct ShotMoment {
     const char* Name;
     bool (*Is)(const Question&);
+    const char* Item = nullptr;  ///< of the menus, to be chosen then; none: nullptr
+    int Times = 1;
+    bool Ends = false;  ///< the game ends with that, and the picture is taken afterwards
 };
 
-/// The moment of a name: turn, meal, genes, adapt, birth, attack, victim, or end, which no question is; another name:
-/// nullptr.
+/// The moment of a name: turn, meal, genes, adapt, birth, attack, victim, look, why, resume, or end, which no question
+/// is; another name: nullptr.
 const ShotMoment* ShotMomentNamed(const QString& name);
 
 }  // namespace plasmos

@@ -5,6 +5,8 @@
 #include <algorithm>
 
 #include "record/play_record.h"
+#include "ui/board/puddle_view.h"
+#include "ui/board/score_track.h"
 #include "ui/dialogs/question_panel.h"
 #include "ui/strip/log_view.h"
 #include "ui/strip/side_strip.h"
@@ -77,6 +79,10 @@ void LookDesk::LookAtTurn(int turn) {
 void LookDesk::Show(int moment, const QString& what) {
     auto then = std::make_unique<GameState>(StateAt(records_->Recorder()->Record(), moment));
     deeds_.Freeze(true);
+    if (!LooksBack()) {
+        outlined_ = table_->Track->Puddle()->Outlined();
+        table_->Track->Puddle()->OutlinePiece(outlined_.Clan, outlined_.Amoeba, false);
+    }
     deeds_.ShowState(*then);
     then_ = std::move(then);
     moment_ = moment;
@@ -90,6 +96,7 @@ void LookDesk::Return() {
         return;
     }
     deeds_.ShowState(game);
+    table_->Track->Puddle()->OutlinePiece(outlined_.Clan, outlined_.Amoeba, outlined_.Clan > 0);
     then_.reset();
     bar_->ShowPast({});
     table_->Strip->Log->MarkMoment(0);

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "model/game_state.h"
+#include "ui/board/puddle_motions.h"
 
 namespace plasmos {
 
@@ -51,6 +52,7 @@ private:
     Deeds deeds_;
     std::unique_ptr<GameState> then_;
     int moment_ = 0;
+    PieceId outlined_;  ///< in the present, where a piece acts
     bool moving_ = false;
 };
 

@@ -173,7 +173,7 @@ void QuestionDesk::ShowTop(Qt::FocusReason reason) {
     track_->Puddle()->SetAsked(square != nullptr ? ToQt(square->Text).trimmed() : QString());
     track_->Puddle()->SetOffered(square != nullptr ? square->Offered : std::vector<int>());
     const auto* yesNo = As<YesNoQuestion>(top);
-    track_->Puddle()->SetSpokenOf(yesNo != nullptr ? yesNo->About : 0);
+    track_->Puddle()->SetSpokenOf(yesNo != nullptr && !frozen_ ? yesNo->About : 0);
     strip_->Question->ShowAbout(top != nullptr && !asked_.back().Panel ? ToQt(top->Hint) : QString());
     strip_->SetPanels(panels);
     strip_->Question->AskYesNo(yesNo != nullptr && !frozen_);

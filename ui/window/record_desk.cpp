@@ -4,7 +4,6 @@
 #include <QScopeGuard>
 #include <QWidget>
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 #include "files/game_files.h"
@@ -14,8 +13,6 @@
 #include "model/services.h"
 #include "questions/ask.h"
 #include "record/held_files.h"
-#include "record/play_record.h"
-#include "record/record_file.h"
 #include "ui/look/palette.h"
 #include "ui/window/catch_up.h"
 
@@ -37,13 +34,6 @@ void ForgetRequests(const GameSetup& before) {
     game.HasRequestedReplay = before.HasRequestedReplay;
     game.RequestedReplay = before.RequestedReplay;
     services.Dealt = nullptr;
-}
-
-QString HowFar(const PlayedRecord& played, std::size_t inputs) {
-    return QStringLiteral("\n\nThe game is opened as far as it is sound: %1 of %2 inputs, to turn %3.")
-        .arg(played.Sound)
-        .arg(inputs)
-        .arg(std::min(played.State.Turn, LastTurn));
 }
 
 }  // namespace
@@ -205,38 +195,6 @@ void RecordDesk::Keep(const Next& next) {
 void RecordDesk::EndKeeping() {
     IsOver() ? keeper_.Remove() : keeper_.LetGo();
     kept_.clear();
-}
-
-// ---- saving and opening ----
-
-bool RecordDesk::Save(const std::string& path) {
-    GameRecord record = recorder_->Record();
-    DropLeaving(record.Inputs);
-    const auto fault = WriteRecordFile(path, RecordText(record));
-    if (!fault.empty()) {
-        deeds_.Tell(ToQt(fault));
-    }
-    return fault.empty();
-}
-
-bool RecordDesk::Open(const std::string& path) {
-    ReadRecord read = ReadRecordFile(path);
-    DropLeaving(read.Record.Inputs);
-    const PlayedRecord played = read.HasHead ? PlayRecordApart(read.Record) : PlayedRecord();
-    const RecordFault fault = FaultOf(read, played);
-    const std::size_t inputs = read.Record.Inputs.size();
-    const bool opens = read.HasHead && played.HeadFits;
-    if (!fault.Text.empty()) {
-        const auto told = fault.Line > 0 || opens ? Concat(path, "\n", fault.Told()) : fault.Told();
-        deeds_.Tell(ToQt(told) + (opens ? HowFar(played, inputs) : QString()));
-    }
-    if (opens) {
-        read.Record.Inputs.resize(std::min(inputs, played.Sound));
-        const bool kept =
-            !folder_.empty() && std::filesystem::path(path).parent_path() == std::filesystem::path(folder_);
-        Go({std::move(read.Record), 0, true, kept ? path : std::string()});
-    }
-    return opens;
 }
 
 // ---- going back and on ----
