@@ -74,7 +74,9 @@ private:
                           table->mapTo(&scene_.Board(), point));
     }
     void ClickAButton() {
-        if (auto* button = AnyVisible<QAbstractButton>(); button != nullptr) {
+        // A dialog that waits behind an earlier board is not scrolled.
+        if (auto* button = AnyVisible<QAbstractButton>();
+            button != nullptr && (button->isEnabled() || !scene_.Sees(QStringLiteral("nowb")))) {
             Below(4) == 0 ? scene_.DoubleClick(button) : scene_.Press(button);
         }
     }

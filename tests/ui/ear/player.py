@@ -16,7 +16,9 @@ class Question:
         everything = list(window.all())
         self.squares = [part for part in everything
                         if part.role == "cell" and part.pressable() and part.name.endswith("can be chosen")]
-        self.controls = [part for part in everything if part.role in CONTROLS and part.pressable()]
+        # Why the others did something can be asked at any time, and answers nothing.
+        self.controls = [part for part in everything
+                         if part.role in CONTROLS and part.pressable() and part.name != "Why?"]
         self.entries = [part for part in everything
                         if part.role in {"text", "entry"} and part.pressable() and "editable" in part.states]
         self.name = self._asked()
