@@ -22,7 +22,7 @@
 
 namespace plasmos {
 
-HistoryDesk::HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& desk, Deeds deeds)
+HistoryDesk::HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& desk, const Deeds& deeds)
     : window_(&window), table_(&table) {
     QuestionDesk* const asks = &desk;
     const auto newGame = deeds.NewGame;

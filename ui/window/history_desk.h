@@ -32,7 +32,7 @@ public:
         std::function<void(const QString& text)> Tell;  ///< a box for the person
     };
 
-    HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& desk, Deeds deeds);
+    HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& desk, const Deeds& deeds);
     ~HistoryDesk() override;
 
     /// Who shows the game; before any game is played.
