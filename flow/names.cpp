@@ -123,7 +123,7 @@ void WriteDefaultNames() {
 }
 
 void LoadAmoebaNames() {
-    if (services.Dealt != nullptr) {
+    if (services.Dealt != nullptr && services.Dealt->AreFor(game.NumPlayers)) {
         NameAsDealt();
     } else if (services.Files != nullptr) {
         NameFromFile();

@@ -5,8 +5,8 @@
 
 namespace plasmos {
 
-/// Names every piece of every clan in play by die, no name twice in a clan; a game that is played again has the names
-/// that were dealt then. The names come from the
+/// Names every piece of every clan in play by die, no name twice in a clan; a game that is played again, by
+/// as many clans, has the names that were dealt then. The names come from the
 /// names file, which is written with its 70 default names when it is missing; a game without files
 /// uses the defaults. A file with fewer names for a clan than it has pieces raises error 5.
 void LoadAmoebaNames();

@@ -66,7 +66,7 @@ int GetPlayerCount() {
 }
 
 std::string ClanName(int clan) {
-    if (services.Dealt != nullptr) {
+    if (services.Dealt != nullptr && services.Dealt->AreFor(game.NumPlayers)) {
         return services.Dealt->Of(clan).Name;
     }
     return services.Settings != nullptr ? SavedClanName(*services.Settings, clan) : DefaultClanName(clan);

@@ -20,6 +20,9 @@ struct DealtNames {
     /// Of a clan, 1..Clans.size().
     const OfClan& Of(int clan) const { return Clans.at(static_cast<std::size_t>(clan - 1)); }
 
+    /// Another number of clans is another deal.
+    bool AreFor(int clans) const { return static_cast<int>(Clans.size()) == clans; }
+
     std::vector<OfClan> Clans;
 
     friend bool operator==(const DealtNames&, const DealtNames&) = default;

@@ -175,6 +175,14 @@ void SetBoard(int rows, int cols, std::string_view blocks = {});
 
 // What is asked of a state can be asked of any; without one it is the current game's.
 
+/// Whether a game has been played to its end.
+inline bool IsOver(const GameState& state) {
+    return state.NumPlayers > 0 && (state.Turn > LastTurn || state.GameOver);
+}
+inline bool IsOver() {
+    return IsOver(game);
+}
+
 /// Whether a square is one of the board's and not covered by a block.
 inline bool IsValidSquare(const GameState& state, int square) {
     return square >= 1 && square <= state.NumSquares && !state.Blocked[square];

@@ -61,7 +61,7 @@ GuidedGame::GuidedGame()
 GuidedGame::~GuidedGame() {
     services.Listener = listenerBefore_;
     services.Files = filesBefore_;
-    const bool over = game.Turn > LastTurn || game.GameOver;
+    const bool over = IsOver();
     const bool sameBoard = game.NumRows == setupBefore_.NumRows && game.NumCols == setupBefore_.NumCols &&
                            game.Blocked == setupBefore_.Blocked;
     setupBefore_.FastMode = game.FastMode;

@@ -124,6 +124,9 @@ void BoardMenus::Turn(const Switch& turned) {
 
 void BoardMenus::Enable(bool playing, bool free, bool guided) {
     playing_ = playing;
+    if (!playing) {
+        ShowMarks();
+    }
     watchmen_->setEnabled(free);
     leavemen_->setEnabled(playing);
     for (QAction* item : {easymen_, normmen_, victorymen_}) {
@@ -147,7 +150,6 @@ void BoardMenus::ShowMarks() {
     victorymen_->setChecked(game.Menu.victorymen);
     twoplayermen_->setChecked(game.Menu.twoplayermen);
     fast_men_->setChecked(game.FastMode);
-    autoeat_men_->setEnabled(true);
 }
 
 bool BoardMenus::ShowNumbers(bool on) {
@@ -155,6 +157,10 @@ bool BoardMenus::ShowNumbers(bool on) {
     sqno_men_->setChecked(on);
     puddle_->ShowNumbers(on);
     return before;
+}
+
+void BoardMenus::EnableAutoEating() {
+    autoeat_men_->setEnabled(true);
 }
 
 void BoardMenus::DisableAutoEating() {

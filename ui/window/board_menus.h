@@ -34,8 +34,10 @@ public:
     void Enable(bool playing, bool free, bool guided);
     /// The marks of what a person has made automatic; whether the tentacle can be.
     void ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle);
-    /// The marks of the current game, which is played on: what can be made automatic can be switched on.
+    /// The marks of the setup: difficulty, victory, persons, fast mode.
     void ShowMarks();
+    /// What can be made automatic can be switched on.
+    void EnableAutoEating();
     /// Squares show their numbers, or not; what the menu said before.
     bool ShowNumbers(bool on);
     /// Nothing automatic can be switched on until the next game.

@@ -116,6 +116,7 @@ void BoardPresentation::ShowEverything(std::string_view message, int clan) {
         ShowClan(each);
     }
     menus_->ShowMarks();
+    IsOver() ? menus_->DisableAutoEating() : menus_->EnableAutoEating();
     ShowCurrentClan(game.CurPlayer);
     ShowOrder();
     DrawBoard();

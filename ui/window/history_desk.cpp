@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <utility>
 
+#include "model/game_state.h"
 #include "ui/dialogs/question_panel.h"
 #include "ui/look/palette.h"
 #include "ui/strip/log_view.h"
@@ -16,7 +17,6 @@
 #include "ui/window/question_desk.h"
 #include "ui/window/record_desk.h"
 #include "ui/window/record_menus.h"
-#include "ui/window/result_desk.h"
 #include "ui/window/table_top.h"
 #include "ui/window/why_window.h"
 
@@ -90,10 +90,16 @@ void HistoryDesk::Follow() {
     table_->Strip->Question->OfferWhy(records_->HasGame() && !records_->Recorder()->Reasons().empty());
 }
 
+void HistoryDesk::Forget() {
+    look_->Return();
+    records_->Forget();
+    Follow();
+}
+
 void HistoryDesk::GameIsOver() {
     look_->Return();
     look_->Follow();
-    const bool over = ResultDesk::IsOver() && records_->HasGame();
+    const bool over = IsOver() && records_->HasGame();
     table_->Strip->ShowSummary(over ? records_->Recorder()->Figures() : std::vector<TurnFigures>());
     OfferResume();
 }

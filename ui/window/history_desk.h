@@ -45,6 +45,8 @@ public:
     void Enable(bool guided);
     /// The same, as the game goes on.
     void Follow();
+    /// A game begins that is not written down, or the board is another one: the last game is past.
+    void Forget();
     /// The game that was played is over, or was left.
     void GameIsOver();
     /// Whether leaving the game loses nothing.

@@ -10,7 +10,7 @@
 namespace plasmos {
 
 bool LeaveGuard::IsNeeded() {
-    if (game.Turn > LastTurn || game.GameOver) {
+    if (IsOver()) {
         return false;
     }
     for (int clan = 1; clan <= game.NumPlayers; ++clan) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "files/game_files.h"
+#include "files/settings_store.h"
 #include "flow/play_game.h"
 #include "flow/start.h"
 #include "model/game_state.h"
@@ -24,8 +25,8 @@ std::string FolderOfGames() {
     return services.Files != nullptr ? services.Files->GamesFolder() : std::string();
 }
 
-bool IsOver() {
-    return game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
+bool WantsFastGames() {
+    return services.Settings != nullptr ? services.Settings->Get("play", "fastmode", "0") == "1" : game.FastMode;
 }
 
 /// What the setup of the current game says of the next one only.
@@ -46,6 +47,11 @@ RecordDesk::RecordDesk(QWidget& window, Deeds deeds)
 }
 
 RecordDesk::~RecordDesk() = default;
+
+void RecordDesk::Forget() {
+    recorder_.reset();
+    takenBack_.Forget();
+}
 
 bool RecordDesk::HasGame() const {
     return recorder_ != nullptr && recorder_->CanBePlayed();
@@ -72,8 +78,10 @@ void RecordDesk::KeepNew(std::string_view lines) {
     }
     if (std::exchange(begun_, true)) {
         keeper_.Add(lines);
-    } else {
+    } else if (keeper_.Path().empty()) {
         keeper_.Begin(std::string(lines));
+    } else {
+        keeper_.GoOn(keeper_.Path(), std::string(lines));
     }
 }
 
@@ -87,14 +95,12 @@ void RecordDesk::Run(const std::function<void()>& first) {
         next_.reset();
         running_ = false;
         EndKeeping();
-        if (setupBefore_ != nullptr) {
-            game.Menu = setupBefore_->Menu;
-            game.FastMode = setupBefore_->FastMode;
-            setupBefore_.reset();
-        }
+        TakeOwnMarks();
     });
     if (first) {
         first();
+    } else {
+        marksBefore_ = game.Menu;
     }
     while (next_) {
         Stop();
@@ -124,9 +130,7 @@ void RecordDesk::Replay(Next next) {
         EndKeeping();
         takenBack_.Forget();
         counted_ = next.Path.empty();
-        if (setupBefore_ == nullptr) {
-            setupBefore_ = std::make_unique<GameSetup>(game);
-        }
+        marksBefore_ = marksBefore_.value_or(game.Menu);
     }
     record_ = std::move(next.Record);
     window_->setUpdatesEnabled(false);
@@ -158,6 +162,14 @@ void RecordDesk::Replay(Next next) {
     catchUp.Finish();
 }
 
+/// The marks are the person's again, and not those of a game that was opened or gone back to.
+void RecordDesk::TakeOwnMarks() {
+    if (marksBefore_) {
+        game.Menu = *std::exchange(marksBefore_, std::nullopt);
+        game.FastMode = WantsFastGames();
+    }
+}
+
 void RecordDesk::TakeOwnBoard() {
     if (std::exchange(otherBoard_, false)) {
         LoadBoard();
@@ -171,9 +183,15 @@ bool RecordDesk::CountsNow() {
 
 // ---- keeping ----
 
-/// The game goes on from here: its file has what it has come to, and takes what comes.
+/// The game goes on from here: its file has what it has come to, and takes what comes. Before clans and names are dealt
+/// it may become another game.
 void RecordDesk::Keep(const Next& next) {
     if (record_.Head.Persons == 0) {
+        return;
+    }
+    if (!recorder_->CanBePlayed()) {
+        begun_ = false;
+        recorder_->OnText = [this](std::string_view lines) { KeepNew(lines); };
         return;
     }
     const InputList& inputs = recorder_->Inputs;
@@ -200,22 +218,24 @@ void RecordDesk::EndKeeping() {
 // ---- going back and on ----
 
 bool RecordDesk::CanTakeBack() const {
-    return HasGame() && !next_ && PlaceToTakeBackTo(*recorder_, 0).has_value();
+    return HasGame() && !next_ && PlaceToTakeBackTo(*recorder_, WhoTakesBack()).has_value();
 }
 
 bool RecordDesk::CanGoAgain() const {
-    return HasGame() && !next_ && takenBack_.PlaceToGoOnTo(recorder_->Inputs).has_value();
+    return recorder_ != nullptr && !next_ && takenBack_.PlaceToGoOnTo(recorder_->Inputs).has_value();
+}
+
+/// The asked clan; 0: nobody is asked, or to read a message only.
+int RecordDesk::WhoTakesBack() const {
+    const Question* asked = TopQuestion();
+    return running_ && asked != nullptr && asked->Kind != QuestionKind::Box ? asked->Clan : 0;
 }
 
 void RecordDesk::TakeBack() {
-    if (!CanTakeBack()) {
-        return;
-    }
-    const Question* asked = TopQuestion();
-    const int clan = running_ && asked != nullptr && asked->Kind != QuestionKind::Box ? asked->Clan : 0;
-    if (const auto place = PlaceToTakeBackTo(*recorder_, clan)) {
+    if (CanTakeBack()) {
+        const auto place = static_cast<std::ptrdiff_t>(*PlaceToTakeBackTo(*recorder_, WhoTakesBack()));
         takenBack_.Keep(*recorder_);
-        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + static_cast<std::ptrdiff_t>(*place)}, 0);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + place}, 0);
     }
 }
 
@@ -233,9 +253,9 @@ void RecordDesk::GoOnFrom(int moment) {
     }
 }
 
-/// The same game, with other inputs.
+/// The same game, with other inputs. One that is back before its deal has the head of the game it was.
 void RecordDesk::GoTo(InputList inputs, int until) {
-    GameRecord record = recorder_->Record();
+    GameRecord record = HasGame() ? recorder_->Record() : record_;
     record.Inputs = std::move(inputs);
     Go({std::move(record), until, false, {}});
 }

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "model/game_state.h"
 #include "record/going_back.h"
 #include "record/kept_games.h"
 
@@ -15,7 +16,6 @@ class QWidget;
 namespace plasmos {
 
 class BoardPresentation;
-struct GameSetup;
 
 /// The record of the game in a window: it is written down while it is played and kept in the data folder, saved and
 /// opened, and taken back. Going anywhere in a game is playing it again: the rules leave the game they play, and its
@@ -45,6 +45,8 @@ public:
     /// Writes the record of the game so far. False: the person has been told what went wrong.
     bool Save(const std::string& path);
 
+    /// There is no game any more that could be looked back at: another one is played that is not written down.
+    void Forget();
     bool HasGame() const;
     bool CanTakeBack() const;
     bool CanGoAgain() const;
@@ -71,6 +73,7 @@ private:
         std::string Path;  ///< of a kept game
     };
 
+    bool IsKeptGame(const std::string& path) const;
     void GoTo(InputList inputs, int until);
     void Go(Next next);
     void KeepNew(std::string_view lines);
@@ -81,6 +84,8 @@ private:
     void Keep(const Next& next);
     void EndKeeping();
     void TakeOwnBoard();
+    void TakeOwnMarks();
+    int WhoTakesBack() const;
 
     QWidget* window_;
     Deeds deeds_;
@@ -93,7 +98,7 @@ private:
     InputList kept_;     ///< as the kept file has them
     TakenBack takenBack_;
     Observer* listenerBefore_ = nullptr;
-    std::unique_ptr<GameSetup> setupBefore_;  ///< of the person, while an opened game is played
+    std::optional<MenuMarks> marksBefore_;  ///< of the person, while a game is played that was opened or gone back to
     bool running_ = false;
     bool begun_ = false;       ///< the new game is kept
     bool counted_ = false;     ///< the game has come to its end once

@@ -34,7 +34,15 @@ bool RecordDesk::Save(const std::string& path) {
     return fault.empty();
 }
 
+bool RecordDesk::IsKeptGame(const std::string& path) const {
+    return !folder_.empty() && std::filesystem::path(path).parent_path() == std::filesystem::path(folder_);
+}
+
 bool RecordDesk::Open(const std::string& path) {
+    if (IsKeptGame(path) && IsPlayedElsewhere(path)) {
+        deeds_.Tell(QStringLiteral("This game is being played already.\n%1").arg(ToQt(path)));
+        return false;
+    }
     ReadRecord read = ReadRecordFile(path);
     DropLeaving(read.Record.Inputs);
     const PlayedRecord played = read.HasHead ? PlayRecordApart(read.Record) : PlayedRecord();
@@ -47,9 +55,7 @@ bool RecordDesk::Open(const std::string& path) {
     }
     if (opens) {
         read.Record.Inputs.resize(std::min(inputs, played.Sound));
-        const bool kept =
-            !folder_.empty() && std::filesystem::path(path).parent_path() == std::filesystem::path(folder_);
-        Go({std::move(read.Record), 0, true, kept ? path : std::string()});
+        Go({std::move(read.Record), 0, true, IsKeptGame(path) ? path : std::string()});
     }
     return opens;
 }

@@ -15,10 +15,6 @@ namespace plasmos {
 ResultDesk::ResultDesk(StartCard& card, std::function<void(const QString& text)> tell)
     : card_(&card), tell_(std::move(tell)) {}
 
-bool ResultDesk::IsOver() {
-    return game.NumPlayers > 0 && (game.Turn > LastTurn || game.GameOver);
-}
-
 void ResultDesk::Show(bool played) {
     if (!IsOver()) {
         ShowUnfinished();

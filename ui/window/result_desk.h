@@ -14,8 +14,6 @@ public:
     /// `tell` is a box for the person.
     ResultDesk(StartCard& card, std::function<void(const QString& text)> tell);
 
-    /// Whether the current game has come to its end.
-    static bool IsOver();
     /// Shows the current game's result, that it was left before its end, or the welcome where there is no game. A game
     /// that has just been played to its end is taken into the record.
     void Show(bool played);

@@ -100,6 +100,7 @@ void UBoard::BuildDesks(TableTop& table) {
     preferences_ = std::make_unique<PreferencesDesk>(*this, [this](bool otherBoard) {
         EnableStart();
         if (otherBoard) {
+            history_->Forget();
             ClearBoard();
         }
     });
@@ -154,6 +155,7 @@ void UBoard::gob_Click() {
 void UBoard::guide_Click() {
     NoteBegun();
     guided_ = true;
+    history_->Forget();
     const bool numbers = menus_->ShowNumbers(true);  // the notes tell squares by their numbers
     Play([this] { guide_->Play([this] { ClearBoard(); }, PlayGame); });
     guided_ = false;

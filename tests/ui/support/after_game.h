@@ -3,13 +3,13 @@
 
 #include <QDir>
 
-#include "model/services.h"
-#include "record/input_list.h"
 #include "record/turn_figures.h"
 #include "tests/ui/support/scene.h"
 #include "ui/strip/summary_panel.h"
 #include "ui/strip/summary_table.h"
 #include "ui/strip/turn_chart.h"
+#include "ui/window/history_desk.h"
+#include "ui/window/record_desk.h"
 #include "ui/window/uboard.h"
 
 namespace plasmos::testing {
@@ -21,26 +21,7 @@ inline QString Named(const char* name) {
     return QString::fromLatin1(name);
 }
 
-/// Has the figures of the current game noted while it lives; whoever listened before goes on to hear everything.
-class FigureListener : public PassingObserver {
-public:
-    explicit FigureListener(FigureKeeper& keeper)
-        : PassingObserver(services.Listener), keeper_(keeper), before_(services.Listener) {
-        services.Listener = this;
-    }
-    ~FigureListener() override { services.Listener = before_; }
-
-    void OnEnd(Step step, int clan, int amoeba) override {
-        PassingObserver::OnEnd(step, clan, amoeba);
-        keeper_.Note(step, game);
-    }
-
-private:
-    FigureKeeper& keeper_;
-    Observer* before_;
-};
-
-/// A window after a game that somebody has watched; its figures were noted beside it.
+/// A window after a game that somebody has watched.
 class AfterGame : public Scene {
 public:
     explicit AfterGame(int clans, QSize size = QSize(1320, 860)) {
@@ -51,20 +32,18 @@ public:
         game.RequestedClans = clans;
         game.HasRequestedReplay = true;
         game.RequestedReplay = 4711;
-        const FigureListener listener(Keeper);
         Click(Named("watchb"));
     }
 
     SummaryPanel& Summary() { return *Board().findChild<SummaryPanel*>(Named("summary")); }
     TurnChart& Picture() { return *Summary().findChild<TurnChart*>(Named("turnchart")); }
     SummaryTable& Places() { return *Summary().findChild<SummaryTable*>(Named("summarytab")); }
-    const std::vector<TurnFigures>& Kept() const { return Keeper.Kept(); }
+    const std::vector<TurnFigures>& Kept() { return Board().History().Records().Recorder()->Figures(); }
     QString Words() { return Text(Named("chartlab")).replace(QChar::Nbsp, QLatin1Char(' ')); }
 
     QList<int> Turns;
     QList<int> Again;
     int Saved = 0;
-    FigureKeeper Keeper;
 };
 
 /// The figures in words, worked out anew.

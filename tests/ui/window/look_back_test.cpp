@@ -28,6 +28,7 @@ private slots:
     void theSummaryLeadsToItsTurns();
     void playAgainFromATurn();
     void keysOfWhatPagesItself();
+    void nothingOfTheLastGameInAGuidedOne();
 
 private:
     static bool LooksBack(Scene& scene) { return scene.Board().History().Looking().LooksBack(); }
@@ -196,7 +197,7 @@ void LookBackTest::playAgainFromATurn() {
     Scene scene;
     PlayTo(scene, 100000, [](Question&) {});
     PLAY(scene, scene.Click(QStringLiteral("gob")));
-    QVERIFY(game.Turn > LastTurn || game.GameOver);
+    QVERIFY(IsOver());
     auto* summary = SummaryOf(scene);
     bool asked = false;
     scene.AnswerBy([&](Question&) {
@@ -229,6 +230,33 @@ void LookBackTest::keysOfWhatPagesItself() {
         scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+// It is not written down; what was is past.
+void LookBackTest::nothingOfTheLastGameInAGuidedOne() {
+    Scene scene;
+    game.RequestedClans = 3;
+    PLAY(scene, scene.Click(QStringLiteral("watchb")));
+    QVERIFY(scene.Board().History().Records().HasGame());
+    game.RequestedClans = 0;
+    int seen = 0;
+    scene.AnswerBy([&](Question& question) {
+        if (++seen < 6) {
+            scene.Player().Answer(question);
+            return;
+        }
+        QVERIFY(!scene.Sees(QStringLiteral("whyb")) && !scene.Sees(QStringLiteral("turnbar")));
+        QVERIFY(!scene.Item(QStringLiteral("savemen"))->isEnabled());
+        LogView* log = LogOf(scene);
+        for (QTextBlock block = log->document()->begin(); block.isValid(); block = block.next()) {
+            QVERIFY(block.userState() <= 0);
+        }
+        Press(scene, Qt::Key_PageUp);
+        QVERIFY(!LooksBack(scene));
+        scene.Click(QStringLiteral("endguideb"));
+    });
+    PLAY(scene, scene.Menu(QStringLiteral("guidemen")));
+    QVERIFY(!scene.Sees(QStringLiteral("summary")));
 }
 
 }  // namespace plasmos::testing

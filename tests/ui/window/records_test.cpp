@@ -35,6 +35,7 @@ private slots:
     void aClosedWindowOffersTheGame();
     void theLastTenAreKept();
     void aGameThatIsOverIsNotKept();
+    void aGameThatAnotherWindowPlays();
     void savedAndOpened();
     void openedInTheMiddleOfAnother();
     void ofAnotherBoard();
@@ -257,6 +258,21 @@ void RecordsTest::aGameThatCannotBeKeptGoesOn() {
     const PlayedRecord played = PlayRecordApart(read.Record);
     QCOMPARE(played.Fault, std::string());
     QCOMPARE(played.State.Signature, game.Signature);
+}
+
+void RecordsTest::aGameThatAnotherWindowPlays() {
+    Scene scene;
+    Deal(5);
+    scene.Then(QuestionKind::Square, [&] { scene.LeaveGame(); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    const QString path = QDir(GamesOf(scene)).filePath(Kept(scene).first());
+    GameKeeper other(GamesOf(scene).toStdString());
+    other.GoOn(path.toStdString(), RecordText(ReadRecordFile(path.toStdString()).Record));
+    scene.Click(QStringLiteral("resumeb"));
+    const auto* box = scene.Board().findChild<QMessageBox*>();
+    QVERIFY(box != nullptr && box->text().contains(QStringLiteral("is being played already")));
+    QVERIFY(!scene.Board().Playing());
+    QVERIFY(other.IsKept());
 }
 
 }  // namespace plasmos::testing

@@ -3,6 +3,10 @@
 // Answers are taken back and given again.
 
 #include <QAction>
+#include <QDir>
+
+#include "record/play_record.h"
+#include "record/record_file.h"
 
 #include "tests/ui/support/stand.h"
 
@@ -26,6 +30,8 @@ private slots:
     void afterTheWinnersBox();
     void twoPersonsTakeBackTheirOwn();
     void aFastModeIsTakenBackToo();
+    void theNumberOfClansIsTakenBack();
+    void theMarksAreThePersonsAgain();
 };
 
 /// Plays on; after so many questions goes back as far as it goes, and on again to where it was.
@@ -149,7 +155,7 @@ void TakingBackTest::afterTheWinnersBox() {
     Deal(5);
     scene.AnswerBy([&](Question& question) { scene.Player().Answer(question); });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
-    QVERIFY(game.Turn > LastTurn || game.GameOver);
+    QVERIFY(IsOver());
     QCOMPARE(scene.Settings().Get("results", "games3", "none"), std::string("1"));
     bool back = false;
     scene.AnswerBy([&](Question& question) {
@@ -160,7 +166,7 @@ void TakingBackTest::afterTheWinnersBox() {
     PLAY(scene, scene.Menu(Back));
     QTRY_VERIFY(back);
     QTRY_VERIFY(!scene.Board().Playing());
-    QVERIFY(game.Turn > LastTurn || game.GameOver);
+    QVERIFY(IsOver());
     QCOMPARE(scene.Settings().Get("results", "games3", "none"), std::string("1"));
 }
 
@@ -215,6 +221,61 @@ void TakingBackTest::aFastModeIsTakenBackToo() {
         scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
+}
+
+/// Before the deal there is no record yet; another number of clans is another game, in the same file.
+void TakingBackTest::theNumberOfClansIsTakenBack() {
+    Scene scene;
+    game.HasRequestedReplay = true;
+    game.RequestedReplay = 5;
+    const auto choose = [&](int clans) { scene.Click(QStringLiteral("amopt%1").arg(clans)); };
+    const auto kept = [&] {
+        const QDir games(ToQt(scene.Files().GamesFolder()));
+        const QStringList files = games.entryList({QStringLiteral("*.plasmos")}, QDir::Files);
+        return files.size() == 1 ? ReadRecordFile(games.filePath(files.first()).toStdString()) : ReadRecord();
+    };
+    scene.Then(QuestionKind::Number, [&] { choose(3); });
+    scene.Then(QuestionKind::Square, [&] { scene.Menu(Back); });
+    scene.Then(QuestionKind::Number, [&] { scene.Menu(Again); });
+    scene.Then(QuestionKind::Square, [&] {
+        QCOMPARE(game.NumPlayers, 3);
+        scene.Menu(Back);
+    });
+    scene.Then(QuestionKind::Number, [&] { choose(6); });
+    scene.Then(QuestionKind::Square, [&] {
+        QCOMPARE(game.NumPlayers, 6);
+        QVERIFY(!game.Amoeba[1][6].Name.Empty());
+        QVERIFY(!scene.Board().History().Records().CanGoAgain());
+        QCOMPARE(kept().Fault.Told(), std::string());
+        QCOMPARE(kept().Record.Head.Clans, 6);
+        scene.ClickSquare(1);
+    });
+    scene.Then(QuestionKind::Square, [&] { scene.LeaveGame(); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QCOMPARE(kept().Fault.Told(), std::string());
+    QCOMPARE(kept().Record.Inputs.size(), 2U);
+    QCOMPARE(PlayRecordApart(kept().Record).Fault, std::string());
+}
+
+void TakingBackTest::theMarksAreThePersonsAgain() {
+    Scene scene;
+    scene.Menu(QStringLiteral("easymen"));
+    Deal(5);
+    scene.Then(QuestionKind::Square, [&] { scene.LeaveGame(); });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    scene.Menu(QStringLiteral("normmen"));
+    bool resumed = false;
+    scene.AnswerBy([&](Question&) {
+        resumed = true;
+        QVERIFY(!game.Menu.normmen && !scene.Item(QStringLiteral("normmen"))->isChecked());
+        scene.LeaveGame();
+    });
+    const auto resume = [&] {
+        scene.Click(QStringLiteral("resumeb"));
+        QTRY_VERIFY(resumed && !scene.Board().Playing());
+    };
+    PLAY(scene, resume());
+    QVERIFY(game.Menu.normmen && scene.Item(QStringLiteral("normmen"))->isChecked());
 }
 
 }  // namespace plasmos::testing
