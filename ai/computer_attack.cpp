@@ -67,8 +67,9 @@ bool MeetsAVictim(int clan) {
 
 [[gnu::cold]] void TellNoTarget(int clan) {
     if (MeetsAVictim(clan)) {
-        Because("No attack: whoever shares a square with ", TheClan{clan},
-                " is undamaged there and has Defence or Armor, or Escape with Streamlining or Movement 2.");
+        Because("No attack: whoever ", TheClan{clan},
+                " may attack where it stands is undamaged there and has Defence or Armor, or Escape with Streamlining "
+                "or Movement 2.");
     } else {
         Because("No attack: no amoeba of ", TheClan{clan}, " shares a square with somebody it may attack.");
     }

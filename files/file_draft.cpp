@@ -135,6 +135,17 @@ int FileDraft::Commit() {
     return reason;
 }
 
+int FileDraft::CommitForGood() {
+    int reason = file_.Flush();
+    if (reason == 0) {
+        reason = Commit();
+    }
+    if (reason == 0) {
+        FlushFolder(fs::path(target_).parent_path().string());
+    }
+    return reason;
+}
+
 void RemoveAbandonedDrafts(const std::string& path) {
     const fs::path target(WithoutLinks(path));
     const std::string begin = DraftBegin(target);

@@ -23,6 +23,8 @@ public:
     bool IsOpen() const { return file_.IsOpen(); }
     int Write(std::string_view bytes) const { return file_.Write(bytes); }
     int Commit();
+    /// The same, and a power cut right after it finds the file as it was written.
+    int CommitForGood();
 
     /// The file that is replaced; links are followed.
     const std::string& Target() const { return target_; }

@@ -2,6 +2,7 @@
 #include "files/file_place.h"
 
 #ifndef _WIN32
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -26,6 +27,15 @@ std::string WithoutLinks(const std::string& path) {
     }
     const fs::path folder = fs::canonical(place.parent_path(), error);
     return error ? place.string() : (folder / place.filename()).string();
+}
+
+void FlushFolder([[maybe_unused]] const std::string& folder) {
+#ifndef _WIN32  // whose system keeps its folders by itself
+    const DiskFile file(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (file.IsOpen()) {
+        static_cast<void>(file.Flush());
+    }
+#endif
 }
 
 #ifdef _WIN32

@@ -12,6 +12,9 @@ namespace plasmos {
 /// known without links where it is there.
 std::string WithoutLinks(const std::string& path);
 
+/// What was renamed or made in a folder is on the disk itself when this returns, where the system can do that.
+void FlushFolder(const std::string& folder);
+
 /// What a file is known by, whatever its names.
 struct FileIdentity {
     bool Known = false;         ///< false: there is none

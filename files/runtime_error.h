@@ -16,6 +16,9 @@ struct RuntimeError : std::runtime_error {
     int Number;
 };
 
+/// Whether an error number is one of files, disks and folders: 53, 57, 61, 70, 75 or 76.
+bool IsFileError(int number);
+
 /// The end of the program asked for in the middle of a game: the window was closed, or an error
 /// record was written. It unwinds every rule up to whoever started the game and is never an error.
 struct ProgramEnd {

@@ -186,6 +186,7 @@ void PlaceStartPieces() {
 
 void NewGame() {
     ResetTables();
+    services.MoveLines = 0;
     RunStep(Step::NewGame, 0, 0, [] { SetUpGame(); });
 }
 

@@ -8,6 +8,7 @@ namespace plasmos {
 class Question;
 struct Answer;
 struct Happening;
+struct LostLine;
 struct Switch;
 enum class TakenAt;
 
@@ -44,6 +45,8 @@ public:
     virtual void OnInput(const Question& /*question*/, const Answer& /*answer*/) {}
     /// A switch is taken over: before a step begins, or while a question waits.
     virtual void OnSwitch(const Switch& /*turned*/, TakenAt /*place*/) {}
+    /// A line of a move could not be written, and the piece stays where it is.
+    virtual void OnLost(const LostLine& /*lost*/) {}
     /// What came back; refused answers are told too.
     virtual void OnAnswer(const Question& question, const Answer& answer, bool accepted) = 0;
     virtual void OnOver() = 0;

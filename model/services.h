@@ -11,6 +11,7 @@ class GameFiles;
 class SettingsStore;
 class DiceTape;
 struct DealtNames;
+struct LostLine;
 class Question;
 
 /// Whom the games of a thread talk to. It stands beside the state, which points nowhere outside itself and
@@ -23,6 +24,8 @@ struct Services {
     SettingsStore* Settings = nullptr;  ///< nobody: every setting has its default
     DiceTape* Tape = nullptr;           ///< recorded rolls instead of the generator's; may be none
     const DealtNames* Dealt = nullptr;  ///< the names of a game that is played again; nobody: they are dealt anew
+    int MoveLines = 0;                  ///< lines of moves in this game so far, whether or not files keep them
+    const LostLine* ToLose = nullptr;   ///< the next of them that a game played again has lost; none
     SwitchQueue Switches;               ///< what a person has switched and the rules have not taken over yet
     Question* Asked = nullptr;          ///< the question that is open on top; none: nobody is asked
 };

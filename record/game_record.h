@@ -53,6 +53,8 @@ struct ReadRecord {
     GameRecord Record;
     std::vector<int> Lines;  ///< of the inputs, in the file
     bool HasHead = false;    ///< without one there is no game to open
+    bool CutOff = false;     ///< its last line has no end, and that is all that is wrong with it
+    bool Counted = false;    ///< its end has been taken into the person's results before, and the game taken back since
     RecordFault Fault;
 };
 
@@ -70,6 +72,8 @@ std::string HeadText(const RecordHead& head);
 /// An input as a line, or two where it was refused.
 std::string InputText(const Input& input);
 std::string RecordText(const GameRecord& record);
+/// Tells in the record of a kept game that it counts in no results any more.
+inline constexpr std::string_view CountedLine = "counted\n";
 /// Reads a record. Lines may end with CR LF; blank ones and those that begin with "#" count for nothing.
 ReadRecord ParseRecord(std::string_view text);
 

@@ -60,7 +60,7 @@ std::string GameRecorder::WhyAt(int moment) const {
     }
     const Why& why = *std::prev(next);
     const auto end = std::upper_bound(ends_.begin(), ends_.end(), why.Begin);
-    const bool after = end != ends_.end() && *end < moment;
+    const bool after = end != ends_.end() && *end <= moment;
     for (const auto& [told, sentence] : why.Sentences) {
         if (!after && told <= moment) {
             text += (text.empty() ? "" : "\n") + sentence;
@@ -103,6 +103,13 @@ void GameRecorder::OnSwitch(const Switch& turned, TakenAt place) {
     LookWhetherDealt();
     const auto before = Inputs.size();
     InputRecorder::OnSwitch(turned, place);
+    Note(before);
+}
+
+void GameRecorder::OnLost(const LostLine& lost) {
+    LookWhetherDealt();
+    const auto before = Inputs.size();
+    InputRecorder::OnLost(lost);
     Note(before);
 }
 

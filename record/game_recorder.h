@@ -74,6 +74,7 @@ public:
     void OnAsk(const Question& question) override;
     void OnInput(const Question& question, const Answer& answer) override;
     void OnSwitch(const Switch& turned, TakenAt place) override;
+    void OnLost(const LostLine& lost) override;
     void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
     void OnReason(std::string_view sentence) override;
 

@@ -9,13 +9,13 @@ namespace {
 
 /// What a window gives by itself when something else has the keyboard, such as a menu.
 bool GivesItself(const Input& input) {
-    return !input.IsSwitch &&
+    return input.IsAnswer() &&
            (input.Given.What == Answer::Kind::LeaveField || input.Given.What == Answer::Kind::LookAway);
 }
 
 bool HasAnswer(const InputList& inputs, std::size_t from) {
     return std::any_of(inputs.begin() + static_cast<std::ptrdiff_t>(from), inputs.end(),
-                       [](const Input& input) { return !input.IsSwitch && !GivesItself(input); });
+                       [](const Input& input) { return input.IsAnswer() && !GivesItself(input); });
 }
 
 /// The inputs up to the latest that somebody meant.

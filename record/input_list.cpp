@@ -48,7 +48,8 @@ void TakeCheck(std::string_view& line, int& check) {
     int number = 0;
     const auto digits = line.substr(0, CheckDigits);
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, 16);
-    if (error == std::errc() && end == digits.data() + CheckDigits && line.substr(CheckDigits, 1) == " ") {
+    const bool whole = error == std::errc() && end == digits.data() + CheckDigits && digits.front() != '-';
+    if (whole && line.substr(CheckDigits, 1) == " ") {
         check = number;
         line.remove_prefix(CheckDigits + 1);
     }
@@ -56,6 +57,9 @@ void TakeCheck(std::string_view& line, int& check) {
 
 /// What is put in, without when and how the game stood then.
 std::string WordsOf(const Input& input) {
+    if (input.IsLostLine()) {
+        return input.Lost.Text();
+    }
     return input.IsSwitch ? input.Turned.Text() : input.Given.Text();
 }
 
@@ -67,6 +71,11 @@ std::string AllowedText(const Question& question) {
         text += (i == 0 ? "" : ", ") + allowed[i].Text();
     }
     return text + (allowed.size() > most ? " and more" : "");
+}
+
+std::string OtherwiseText(const Input& input) {
+    return Concat("the game stands otherwise here than when \"", WordsOf(input),
+                  "\" was put in: something above was changed");
 }
 
 bool IsSwitchText(std::string_view line) {
@@ -94,6 +103,9 @@ std::string Input::Parse(std::string_view line, Input& input) {
     if (input.StepsBegun >= 0) {
         return Concat("\"", line, "\" is no switch, and nothing else comes between two steps");
     }
+    if (line.substr(0, 5) == "lost ") {
+        return LostLine::Parse(line, input.Lost);
+    }
     return Answer::Parse(line, input.Given);
 }
 
@@ -103,19 +115,25 @@ void InputRecorder::OnBegin(Step step, int clan, int amoeba) {
 }
 
 void InputRecorder::OnInput(const Question& question, const Answer& answer) {
-    if (!IsLeft()) {
-        Inputs.push_back(InputOf(answer));
-        Inputs.back().Check = CheckOfNow();
-    }
+    Add(InputOf(answer));
     PassingObserver::OnInput(question, answer);
 }
 
 void InputRecorder::OnSwitch(const Switch& turned, TakenAt place) {
+    Add(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
+    PassingObserver::OnSwitch(turned, place);
+}
+
+void InputRecorder::OnLost(const LostLine& lost) {
+    Add(InputOf(lost));
+    PassingObserver::OnLost(lost);
+}
+
+void InputRecorder::Add(const Input& input) {
     if (!IsLeft()) {
-        Inputs.push_back(InputOf(turned, place == TakenAt::Step ? steps_ : -1));
+        Inputs.push_back(input);
         Inputs.back().Check = CheckOfNow();
     }
-    PassingObserver::OnSwitch(turned, place);
 }
 
 // A switch may have been turned since.
@@ -127,7 +145,8 @@ void InputRecorder::OnAnswer(const Question& question, const Answer& answer, boo
 }
 
 Input* InputRecorder::LatestAnswer() {
-    const auto given = std::find_if(Inputs.rbegin(), Inputs.rend(), [](const Input& input) { return !input.IsSwitch; });
+    const auto given =
+        std::find_if(Inputs.rbegin(), Inputs.rend(), [](const Input& input) { return input.IsAnswer(); });
     return given != Inputs.rend() ? &*given : nullptr;
 }
 
@@ -157,6 +176,7 @@ InputPlayer::~InputPlayer() {
 void InputPlayer::HandBack() {
     services.Window = windowBefore_;
     services.Listener = listenerBefore_;
+    services.ToLose = nullptr;
 }
 
 void InputPlayer::Open(Question& /*question*/) {}
@@ -174,17 +194,17 @@ void InputPlayer::Mismatch(const InputFault& fault) {
 void InputPlayer::Refuse(const InputFault& fault) {
     Mismatch(fault);
     end_ = next_;
+    services.ToLose = nullptr;
 }
 
 /// Whether the next input is one for the open question.
 bool InputPlayer::NextFits(const Question& question) {
     const Input& input = inputs_[next_];
-    if (input.StepsBegun >= 0) {
+    if (input.StepsBegun >= 0 || input.IsLostLine()) {
         Refuse({next_, Concat("a question is open here, and \"", WordsOf(input),
                               "\" answers none; allowed: ", AllowedText(question))});
     } else if (input.Check >= 0 && input.Check != CheckOfNow()) {
-        Refuse({next_, Concat("the game stands otherwise here than when \"", WordsOf(input),
-                              "\" was put in: something above was changed")});
+        Refuse({next_, OtherwiseText(input)});
     }
     return !AtEnd();
 }
@@ -197,7 +217,8 @@ void InputPlayer::Wait() {
             Exhausted(question);
             return;
         }
-        const Input& input = inputs_[next_++];
+        const Input& input = inputs_[next_];
+        Advance();
         if (input.IsSwitch) {
             services.Switches.Add(input.Turned);
             return;
@@ -223,9 +244,36 @@ void InputPlayer::OnAnswer(const Question& question, const Answer& answer, bool 
 }
 
 void InputPlayer::TurnSwitchesBeforeStep() {
-    for (; !AtEnd() && inputs_[next_].StepsBegun == steps_; ++next_) {
+    while (!AtEnd() && inputs_[next_].StepsBegun == steps_) {
         services.Switches.Add(inputs_[next_].Turned);
+        Advance();
     }
+    LookForLostLine();
+}
+
+void InputPlayer::Advance() {
+    ++next_;
+    LookForLostLine();
+}
+
+/// The rules lose the line by themselves as soon as they come to it.
+void InputPlayer::LookForLostLine() {
+    if (services.Window == this) {
+        services.ToLose = !AtEnd() && inputs_[next_].IsLostLine() ? &inputs_[next_].Lost : nullptr;
+    }
+}
+
+void InputPlayer::OnLost(const LostLine& lost) {
+    if (services.Window == this) {
+        if (!IsLostAgain()) {
+            Refuse({next_, Concat("a line is lost here that was not lost before: ", std::string_view(lost.Why))});
+        } else if (inputs_[next_].Check >= 0 && inputs_[next_].Check != CheckOfNow()) {
+            Refuse({next_, OtherwiseText(inputs_[next_])});
+        } else {
+            Advance();
+        }
+    }
+    PassingObserver::OnLost(lost);
 }
 
 void InputPlayer::OnBegin(Step step, int clan, int amoeba) {

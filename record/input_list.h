@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "model/lost_line.h"
 #include "model/observer.h"
 #include "model/presentation.h"
 #include "model/switches.h"
@@ -11,11 +12,13 @@
 
 namespace plasmos {
 
-/// One thing that came from a person: an answer to the question that was open on top, or a switch.
+/// One thing that came from outside: a person's answer to the question that was open on top, a person's switch, or a
+/// line that the disk did not take.
 struct Input {
     Answer Given;
     Switch Turned;
-    bool IsSwitch = false;  ///< Turned counts, else Given
+    LostLine Lost;
+    bool IsSwitch = false;  ///< Turned counts
     /// A switch that was taken over before a step: the number of steps begun until then. -1: it came while a
     /// question waited, as every answer does.
     int StepsBegun = -1;
@@ -25,8 +28,13 @@ struct Input {
     /// An answer that came to nothing. Its text does not tell.
     bool Refused = false;
 
-    /// One line: "square 7", "set victory on", "after 12 steps: set victory on", with its check before it as four
-    /// hexadecimal digits: "03fa square 7".
+    /// Lost counts.
+    bool IsLostLine() const { return Lost.Line > 0; }
+    /// Given counts.
+    bool IsAnswer() const { return !IsSwitch && !IsLostLine(); }
+
+    /// One line: "square 7", "set victory on", "after 12 steps: set victory on", "lost 57: 61 Disk full", with its
+    /// check before it as four hexadecimal digits: "03fa square 7".
     std::string Text() const;
     /// Reads what Text() writes; what comes back is what is wrong with the line, or an empty text.
     static std::string Parse(std::string_view line, Input& input);
@@ -51,8 +59,13 @@ inline Input InputOf(const Switch& turned, int stepsBegun = -1) {
     input.StepsBegun = stepsBegun;
     return input;
 }
+inline Input InputOf(const LostLine& lost) {
+    Input input;
+    input.Lost = lost;
+    return input;
+}
 
-/// Everything that came from the persons of a game, in order. With the game's setup and its replay number it is the
+/// Everything that came to a game from outside, in order. With the game's setup and its replay number it is the
 /// whole game.
 using InputList = std::vector<Input>;
 
@@ -77,6 +90,7 @@ public:
     void OnAsk(const Question& question) override { Pass(&Observer::OnAsk, question); }
     void OnInput(const Question& question, const Answer& put) override { Pass(&Observer::OnInput, question, put); }
     void OnSwitch(const Switch& turned, TakenAt place) override { Pass(&Observer::OnSwitch, turned, place); }
+    void OnLost(const LostLine& lost) override { Pass(&Observer::OnLost, lost); }
     void OnAnswer(const Question& question, const Answer& answer, bool accepted) override {
         Pass(&Observer::OnAnswer, question, answer, accepted);
     }
@@ -102,6 +116,7 @@ public:
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnInput(const Question& question, const Answer& answer) override;
     void OnSwitch(const Switch& turned, TakenAt place) override;
+    void OnLost(const LostLine& lost) override;
     void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
 
     InputList Inputs;
@@ -111,6 +126,7 @@ protected:
     Input* LatestAnswer();
 
 private:
+    void Add(const Input& input);
     bool IsLeft() const { return !Inputs.empty() && LeavesGame(Inputs.back()); }
 
     int steps_ = 0;
@@ -146,6 +162,7 @@ public:
     void Wait() override;
     void OnBegin(Step step, int clan, int amoeba) override;
     void OnEnd(Step step, int clan, int amoeba) override;
+    void OnLost(const LostLine& lost) override;
     void OnAnswer(const Question& question, const Answer& answer, bool accepted) override;
 
 protected:
@@ -160,6 +177,8 @@ private:
     bool NextFits(const Question& question);
     void Refuse(const InputFault& fault);
     void TurnSwitchesBeforeStep();
+    void Advance();
+    void LookForLostLine();
 
     const InputList& inputs_;
     std::size_t next_ = 0;

@@ -40,7 +40,7 @@ void GameKeeper::Begin(std::string text) {
 
 void GameKeeper::GoOn(const std::string& path, std::string text) {
     if (path != path_) {
-        LetGo();
+        LetGo(path);
     }
     file_.Close();
     text_ = std::move(text);
@@ -114,7 +114,7 @@ int GameKeeper::WriteOver() {
         reason = draft.Write(text_);
     }
     if (reason == 0) {
-        reason = draft.Commit();
+        reason = draft.CommitForGood();
     }
     return reason == 0 ? OpenWritten() : reason;
 }
@@ -138,7 +138,7 @@ void GameKeeper::Remove() {
     text_.clear();
 }
 
-void GameKeeper::LetGo() {
+void GameKeeper::LetGo(const std::string& goneOnWith) {
     file_.Close();
     path_.clear();
     text_.clear();
@@ -146,7 +146,9 @@ void GameKeeper::LetGo() {
     if (Keeps()) {
         const auto games = KeptGames(folder_);
         for (std::size_t old = MostKeptGames; old < games.size(); ++old) {
-            Forget(games[old].Path);
+            if (games[old].Path != goneOnWith) {
+                Forget(games[old].Path);
+            }
         }
     }
 }

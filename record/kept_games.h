@@ -40,8 +40,8 @@ public:
     void Add(std::string_view lines);
     /// The game is over: its file goes.
     void Remove();
-    /// The game is left: its file stays, among the latest ones.
-    void LetGo();
+    /// The game is left: its file stays, among the latest ones. One that is gone on with now stays, too.
+    void LetGo(const std::string& goneOnWith = {});
 
 private:
     void Write();

@@ -13,14 +13,7 @@ namespace plasmos {
 
 namespace {
 
-constexpr std::size_t ShownBytes = 60;
-constexpr std::size_t LongestLine = 1000;
-
-/// A line in a message: not more of it than helps to find it, and nothing that would not be shown.
-std::string Shown(std::string_view line) {
-    const auto text = OneLine(FromFileBytes(line.substr(0, ShownBytes)));
-    return line.size() > ShownBytes ? text + "..." : text;
-}
+constexpr std::size_t LongestLine = 8000;  // a lost line names a file
 
 class Reader {
 public:
@@ -100,7 +93,8 @@ private:
             return false;
         }
         if (line_ != FirstLine) {
-            return FailExpecting(Concat("\"", FirstLine, "\""));
+            return Fail(Concat("this is no game that was saved: it begins with \"", Shown(line_), "\" and not with \"",
+                               FirstLine, "\""));
         }
         if (!NextOfHead("\"rules\" with a number")) {
             return false;
@@ -215,7 +209,7 @@ private:
     bool Refuse() {
         auto& inputs = read_.Record.Inputs;
         const auto answer =
-            std::find_if(inputs.rbegin(), inputs.rend(), [](const Input& each) { return !each.IsSwitch; });
+            std::find_if(inputs.rbegin(), inputs.rend(), [](const Input& each) { return each.IsAnswer(); });
         if (answer == inputs.rend() || answer->Refused) {
             return Fail(R"("refused" stands below an answer, once)");
         }
@@ -248,23 +242,39 @@ private:
             const Found found = Next();
             if (found == Found::CutOff) {
                 Fail(Concat("the record is cut off in the middle of \"", Shown(line_), "\""));
+                read_.CutOff = true;
             }
             if (found != Found::Line) {
                 return;
             }
-            if (auto line = line_; line_ == "refused" || TakeWord(line, "back to")) {
-                if (!(line_ == "refused" ? Refuse() : TakeBack(line))) {
-                    return;
-                }
-                continue;
-            }
-            Input input;
-            if (!ReadInput(input)) {
+            if (!ReadLine()) {
                 return;
             }
-            read_.Record.Inputs.push_back(std::move(input));
-            read_.Lines.push_back(number_);
         }
+    }
+
+    bool ReadLine() {
+        auto& inputs = read_.Record.Inputs;
+        if (line_ == "refused") {
+            return Refuse();
+        }
+        if (line_ == CountedLine.substr(0, CountedLine.size() - 1)) {
+            read_.Counted = true;
+            return true;
+        }
+        if (auto line = line_; TakeWord(line, "back to")) {
+            return TakeBack(line);
+        }
+        if (!inputs.empty() && LeavesGame(inputs.back())) {
+            return Fail(Concat("the person has left the game above, and \"", Shown(line_), "\" comes later"));
+        }
+        Input input;
+        if (!ReadInput(input)) {
+            return false;
+        }
+        inputs.push_back(std::move(input));
+        read_.Lines.push_back(number_);
+        return true;
     }
 
     RecordHead& Head() { return read_.Record.Head; }

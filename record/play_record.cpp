@@ -2,8 +2,6 @@
 #include "record/play_record.h"
 
 #include <exception>
-#include <functional>
-#include <thread>
 
 #include "files/runtime_error.h"
 #include "flow/play_game.h"
@@ -57,10 +55,16 @@ private:
     Services before_;
 };
 
-void Play(const GameRecord& record, Observer* listener, PlayedRecord& played) {
-    RecordPlayer player(record.Inputs, listener, played);
-    ToldInWords told(&player);
-    services.Listener = &told;
+/// The rules broke down at what was put in last, which is not sound then.
+void NoteBroken(const InputPlayer& player, const std::string& fault, PlayedRecord& played) {
+    played.Broken = true;
+    played.HeadFits = player.Given() > 0;
+    played.Sound = player.Given() > 0 ? player.Given() - 1 : 0;
+    played.Fault = Concat("the game cannot go on behind this line: ", fault);
+    played.State = game;
+}
+
+void PlayInputs(RecordPlayer& player, PlayedRecord& played) {
     try {
         PlayOneGame();
         played.Over = true;
@@ -68,15 +72,27 @@ void Play(const GameRecord& record, Observer* listener, PlayedRecord& played) {
             played.Fault = "the game is over before this line";
         }
     } catch (const GameLeft&) {
-    } catch (const InputFault& fault) {
-        played.Sound = fault.Input;
-        played.Fault = fault.Text;
-        played.State = game;
-        return;
     }
     played.Sound = player.Given();
     if (!player.Asked()) {
         played.State = game;
+    }
+}
+
+void Play(const GameRecord& record, Observer* listener, PlayedRecord& played) {
+    RecordPlayer player(record.Inputs, listener, played);
+    ToldInWords told(&player);
+    services.Listener = &told;
+    try {
+        PlayInputs(player, played);
+    } catch (const InputFault& fault) {
+        played.Sound = fault.Input;
+        played.Fault = fault.Text;
+        played.State = game;
+    } catch (const ProgramEnd&) {
+        NoteBroken(player, "a run-time error ended it, as the error record tells", played);
+    } catch (const std::exception& error) {
+        NoteBroken(player, error.what(), played);
     }
 }
 
@@ -87,32 +103,28 @@ bool ClansFit(const RecordHead& head) {
 /// The moment that is looked for is there.
 struct Reached {};
 
-void RunApart(const std::function<void()>& what) {
-    std::exception_ptr fault;
-    std::thread apart([&] {
-        try {
-            what();
-        } catch (...) {
-            fault = std::current_exception();
-        }
-    });
-    apart.join();
-    if (fault) {
-        std::rethrow_exception(fault);
+/// The current game, and whom it talks to, stay aside while this lives.
+class GameAside {
+public:
+    GameAside() : game_(game), services_(services) { services = {}; }
+    ~GameAside() {
+        game = game_;
+        services = services_;
     }
-}
+    GameAside(const GameAside&) = delete;
+    GameAside& operator=(const GameAside&) = delete;
+
+private:
+    GameState game_;
+    Services services_;
+};
 
 }  // namespace
 
 PlayedRecord PlayRecord(const GameRecord& record, Observer* listener) {
     PlayedRecord played;
     const OwnServices own(record.Head);
-    try {
-        Play(record, listener, played);
-    } catch (const std::exception& error) {
-        played.Fault = Concat("the game cannot go on: ", std::string_view(error.what()));
-        played.State = game;
-    }
+    Play(record, listener, played);
     if (!ClansFit(record.Head)) {
         played.HeadFits = false;
         played.Fault = Concat("the head tells of ", record.Head.Clans, " clans, and ", game.NumPlayers, " play");
@@ -121,26 +133,24 @@ PlayedRecord PlayRecord(const GameRecord& record, Observer* listener) {
 }
 
 PlayedRecord PlayRecordApart(const GameRecord& record) {
-    PlayedRecord played;
-    RunApart([&] { played = PlayRecord(record); });
-    return played;
+    const GameAside aside;
+    return PlayRecord(record);
 }
 
 GameState StateAt(const GameRecord& record, int moment) {
+    const GameAside aside;
     GameState state;
-    RunApart([&] {
-        GameRecorder recorder;
-        recorder.OnMoment = [&](int reached) {
-            if (reached == moment) {
-                state = game;
-                throw Reached{};
-            }
-        };
-        try {
-            state = PlayRecord(record, &recorder).State;
-        } catch (const Reached&) {
+    GameRecorder recorder;
+    recorder.OnMoment = [&](int reached) {
+        if (reached == moment) {
+            state = game;
+            throw Reached{};
         }
-    });
+    };
+    try {
+        state = PlayRecord(record, &recorder).State;
+    } catch (const Reached&) {
+    }
     return state;
 }
 

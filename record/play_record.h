@@ -14,7 +14,8 @@ struct PlayedRecord {
     std::size_t Sound = 0;  ///< so many of its inputs fit the game
     std::string Fault;      ///< what is wrong with the next one, or with the head; empty: nothing
     bool HeadFits = true;
-    bool Over = false;  ///< the game came to its end
+    bool Broken = false;  ///< a run-time error ended it, which has been recorded where the rules found it
+    bool Over = false;    ///< the game came to its end
     /// As it stands at the question that the inputs do not answer, or at the end.
     GameState State;
 };

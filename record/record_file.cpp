@@ -43,7 +43,7 @@ std::string WriteRecordFile(const std::string& path, std::string_view text) {
         reason = draft.Write(text);
     }
     if (reason == 0) {
-        reason = draft.Commit();
+        reason = draft.CommitForGood();
     }
     return reason == 0 ? std::string() : Concat(path, " cannot be written: ", ReasonText(reason));
 }

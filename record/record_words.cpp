@@ -3,6 +3,8 @@
 
 #include <charconv>
 
+#include "files/encoding.h"
+
 namespace plasmos {
 
 std::string Quoted(std::string_view text) {
@@ -52,6 +54,12 @@ bool TakeWord(std::string_view& line, std::string_view word) {
     }
     line.remove_prefix(word.size());
     return true;
+}
+
+std::string Shown(std::string_view line) {
+    constexpr std::size_t most = 60;
+    const auto text = OneLine(FromFileBytes(line.substr(0, most)));
+    return line.size() > most ? text + "..." : text;
 }
 
 }  // namespace plasmos

@@ -21,4 +21,7 @@ bool TakeNumber(std::string_view& line, int& number);
 /// Takes an expected beginning off a line. False: it begins otherwise.
 bool TakeWord(std::string_view& line, std::string_view word);
 
+/// A line in a message: not more of it than helps to find it, and nothing that would not be shown.
+std::string Shown(std::string_view line);
+
 }  // namespace plasmos

@@ -69,11 +69,11 @@ bool IsEmptySquare(int square) {
 }
 
 /// A square of the board is drawn until it is a real one that holds no amoeba.
-int DrawStartSquare() {
+int DrawStartSquare(int clan) {
     for (int draw = 1; draw <= MaxDraws; ++draw) {
         const int square = RollDie(game.NumSquares);
         if (IsValidSquare(square) && IsEmptySquare(square)) {
-            Because("At the start a die over all squares decides: ", square,
+            Because("At the start a die over all squares decides for ", TheClan{clan}, ": ", square,
                     " is the first it threw without an amoeba.");
             return square;
         }
@@ -87,7 +87,7 @@ int ChooseSquareFor(int clan, const NewAmoeba& which) {
         return PlacingSquares(clan, inPlay).Empty() ? 0 : ChoosePlaceSquare(clan, inPlay, which);
     }
     if (!inPlay) {
-        return DrawStartSquare();
+        return DrawStartSquare(clan);
     }
     if (HasGene(clan, "spo") || game.AmoebaCount[clan] < 2) {
         return ComputerPlaceSquare(clan);

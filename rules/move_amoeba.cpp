@@ -7,6 +7,7 @@
 
 #include "model/bio_points.h"
 #include "model/genes.h"
+#include "model/lost_line.h"
 #include "model/narration.h"
 #include "model/reasons.h"
 #include "model/trace.h"
@@ -109,6 +110,7 @@ void ChooseRiders(int mover, int from, int to, const TentacleLoad& load, RiderLi
 }
 
 void TraceSpot(int clan, int slot, bool moved) {
+    CountMoveLine();
     if (TracesAreKept()) {
         const bool computer = moved && game.Players[clan].IsComputer;
         WriteTrace(Concat(computer ? "mposition " : "position ", slot, "\n"), "");
@@ -116,6 +118,7 @@ void TraceSpot(int clan, int slot, bool moved) {
 }
 
 void TraceMove(int clan, int amoeba, int destination) {
+    CountMoveLine();
     if (TracesAreKept()) {
         WriteTrace(Concat("Turn: ", game.Turn, "   Amoeba ", clan, ", ", amoeba, " moving to square ", destination),
                    "");
@@ -167,7 +170,10 @@ bool MoveGuarded(int clan, int amoeba, Move&& move) {
         return true;
     } catch (const std::exception&) {
         const RuntimeError error = CurrentError();
-        AppendErrorRecord(error, clan, amoeba);
+        if (!IsLostAgain()) {
+            AppendErrorRecord(error, clan, amoeba);
+        }
+        TellOfLostLine(error);
         if (piece.Square == from && SomebodyListens()) {
             LogText(Concat(piece.Name, " stays in ", from, ": ", std::string_view(error.what())), clan);
         }

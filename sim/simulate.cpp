@@ -157,10 +157,13 @@ GameResult SimulateRecord(const SimOptions& options, GameFiles* files) {
     CheckingJournal journal(options.Check, !options.Journal.empty(), options.Why);
     try {
         const PlayedRecord played = PlayRecord(read.Record, &journal);
-        if (!played.Fault.empty()) {
+        if (played.Broken) {
+            result.Fault = FaultOf(read, played).Told();
+        } else if (!played.Fault.empty()) {
             refuse(FaultOf(read, played));
+        } else {
+            ReadResult(result);
         }
-        ReadResult(result);
     } catch (const Finding& finding) {
         result.Fault = finding.Text;
     }

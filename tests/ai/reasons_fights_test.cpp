@@ -157,7 +157,7 @@ constexpr const char* FirstIs3 = "The die put Player 3 first among the clans to 
 const ReasonRow AttackRows[] = {
     {"nobody_there", [] {}, {2}, {"No attack: no amoeba of Player 1 shares a square with somebody it may attack."}},
     {"nobody_worth_it", [] { Meet(2, 13, "arm"); Meet(3, 7, "def"); }, {2},
-     {"No attack: whoever shares a square with Player 1 is undamaged there and has Defence or Armor, or Escape with "
+     {"No attack: whoever Player 1 may attack where it stands is undamaged there and has Defence or Armor, or Escape with "
       "Streamlining or Movement 2."}},
     {"the_defenceless", [] { Put(2, 1, 13); }, {3},
      {FirstIs3, "A1 attacks Player 2 in square 13 for 1 BP: that clan has neither Escape nor Defence nor Armor.",

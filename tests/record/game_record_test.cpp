@@ -38,7 +38,8 @@ const char* const Sound =
     "refused\n"
     "07af square 8\n"
     "07af set victory off\n"
-    "1b2c after 12 steps: set fast on\n";
+    "1b2c after 12 steps: set fast on\n"
+    "1b2d lost 57: 61 Disk full: movefil.txt\n";
 
 TEST(RecordText, IsReadAsItIsWritten) {
     const ReadRecord read = ParseRecord(Sound);
@@ -47,9 +48,11 @@ TEST(RecordText, IsReadAsItIsWritten) {
     EXPECT_EQ(read.Record.Head.Blocks, (std::vector<int>{3, 7}));
     EXPECT_EQ(read.Record.Head.Names.Of(2).Name, "The \"Others\"");
     EXPECT_EQ(read.Record.Head.Names.Of(2).Pieces[6], "B\\7");
-    ASSERT_EQ(read.Record.Inputs.size(), 5U);
+    ASSERT_EQ(read.Record.Inputs.size(), 6U);
     EXPECT_TRUE(read.Record.Inputs[1].Refused);
-    EXPECT_EQ(read.Lines, (std::vector<int>{16, 17, 19, 20, 21}));
+    EXPECT_EQ(read.Record.Inputs[5].Lost.Line, 57);
+    EXPECT_EQ(read.Record.Inputs[5].Lost.Error, 61);
+    EXPECT_EQ(read.Lines, (std::vector<int>{16, 17, 19, 20, 21, 22}));
 }
 
 TEST(RecordText, BearsOtherLineEndsBlankLinesAndRemarks) {
@@ -67,7 +70,15 @@ TEST(RecordText, LeavesOutWhatWasTakenBack) {
     EXPECT_EQ(read.Fault.Told(), "");
     ASSERT_EQ(read.Record.Inputs.size(), 2U);
     EXPECT_EQ(read.Record.Inputs[1].Text(), "square 2");
-    EXPECT_EQ(read.Lines, (std::vector<int>{16, 23}));
+    EXPECT_EQ(read.Lines, (std::vector<int>{16, 24}));
+}
+
+TEST(RecordText, TellsThatItsEndHasBeenCounted) {
+    const ReadRecord read = ParseRecord(std::string(Sound) + std::string(CountedLine) + "square 2\n");
+    EXPECT_EQ(read.Fault.Told(), "");
+    EXPECT_TRUE(read.Counted);
+    EXPECT_EQ(read.Record.Inputs.size(), 7U);
+    EXPECT_FALSE(ParseRecord(Sound).Counted);
 }
 
 struct FaultRow {
@@ -100,9 +111,11 @@ TEST_P(FaultyRecord, SaysTheLineAndWhatWasExpected) {
 
 const FaultRow FaultRows[] = {
     {"nothing", "", "", "line 1: the record ends where \"Plasmos game record 1\" was expected"},
-    {"another_file", "Plasmos game record 1", "GIF89a", "line 1: \"GIF89a\" stands where"},
+    {"another_file", "Plasmos game record 1", "GIF89a",
+     "line 1: this is no game that was saved: it begins with \"GIF89a\" and not with \"Plasmos game record 1\""},
     {"no_text", "Plasmos", "\xff\xfe\x01", "line 1: this is no text in UTF-8"},
-    {"another_form", "record 1", "record 2", "line 1: \"Plasmos game record 2\" stands where"},
+    {"another_form", "record 1", "record 2",
+     "line 1: this is no game that was saved: it begins with \"Plasmos game record 2\""},
     {"other_rules", "rules 1", "rules 7",
      "line 2: the game was played by version 7 of the rules; this program plays version 1"},
     {"no_replay_number", "4711.5", "many", "line 3: \"replay many\" stands where \"replay\" with the replay number"},
@@ -127,13 +140,19 @@ const FaultRow FaultRows[] = {
     {"no_inputs", "inputs\n", "input\n", "line 15: \"input\" stands where \"inputs\" was expected"},
     {"an_unknown_input", "square 8", "jump 8", "line 19: \"jump 8\" is no answer", true},
     {"an_unknown_switch", "set victory off", "set colour off", "line 20: \"set colour off\" is no switch", true},
+    {"a_check_with_a_sign", "07af square 8", "-7af square 8", "line 19: \"-7af square 8\" is no answer", true},
+    {"a_lost_line_without_a_number", "lost 57:", "lost many:",
+     "line 22: \"lost many: 61 Disk full: movefil.txt\" names no line that was lost, as in", true},
+    {"a_line_lost_for_no_file", ": 61 Disk", ": 51 Disk", "line 22: \"lost 57: 51 Disk", true},
+    {"an_answer_after_leaving", "set victory off\n", "leave game\nsquare 2\n",
+     "line 21: the person has left the game above, and \"square 2\" comes later", true},
     {"refused_twice", "refused\n", "refused\nrefused\n", "line 19: \"refused\" stands below an answer, once", true},
     {"nothing_to_refuse", "inputs\n", "inputs\nrefused\n", "line 16: \"refused\" stands below", true},
     {"back_beyond", "07af set victory off", "back to 9",
      "line 20: \"back to\" is followed by a number of inputs, here 0 to 3", true},
-    {"cut_off_in_an_input", "set fast on\n", "set fast", "line 21: the record is cut off in the middle of", true},
+    {"cut_off_in_an_input", "movefil.txt\n", "mov", "line 22: the record is cut off in the middle of", true},
     {"a_line_missing", "columns 5\n", "", "line 5: \"blocks 3:7:\" stands where \"columns\""},
-    {"an_endless_line", "square 8", std::string(2000, 'x'), "at most 1000 bytes", true},
+    {"an_endless_line", "square 8", std::string(9000, 'x'), "at most 8000 bytes", true},
     {"a_line_of_bytes", "square 8", "\xc3(", "an input is a text in UTF-8", true},
 };
 INSTANTIATE_TEST_SUITE_P(Records, FaultyRecord, ::testing::ValuesIn(FaultRows), RowName());

@@ -109,18 +109,34 @@ TEST_F(GoingBack, AThousandTimesBackAndForthInManyGames) {
     EXPECT_GT(again, Scaled(10000) / 20);
 }
 
-TEST_F(GoingBack, TwoPersonsHaveTheirOwnAnswers) {
-    services = {};
-    auto played = Play(2, {}, 5, 60);  // clans 2 and 3 are persons'
-    for (const int clan : {2, 3}) {
-        const auto place = PlaceToTakeBackTo(*played, clan);
-        ASSERT_TRUE(place.has_value());
-        bool own = false;
-        for (const auto& asked : played->Places()) {
-            own = own || (asked.Inputs == *place && (asked.Clan == clan || asked.Clan == 0));
+/// Whether a clan was asked when so many inputs had been given, and what came then was an answer it meant.
+bool AnsweredThere(const GameRecorder& played, int clan, std::size_t inputs) {
+    const auto& places = played.Places();
+    const bool asked = std::any_of(places.begin(), places.end(), [&](const GameRecorder::Place& place) {
+        return place.Inputs == inputs && (place.Clan == clan || place.Clan == 0);
+    });
+    const Input& next = played.Inputs.at(inputs);
+    return asked && next.IsAnswer() && next.Given.What != Answer::Kind::LeaveField &&
+           next.Given.What != Answer::Kind::LookAway;
+}
+
+TEST_F(GoingBack, TwoPersonsHaveTheirOwnLastAnswers) {
+    int apart = 0;
+    for (int number = 2; number <= 40; number += 2) {  // clans 2 and 3 are persons'
+        SCOPED_TRACE(number);
+        const auto played = Play(number, {}, 5, 40 + number);
+        std::size_t places[2] = {};
+        for (const int clan : {2, 3}) {
+            const auto place = PlaceToTakeBackTo(*played, clan);
+            ASSERT_TRUE(place.has_value());
+            for (std::size_t later = *place + 1; later < played->Inputs.size(); ++later) {
+                ASSERT_FALSE(AnsweredThere(*played, clan, later)) << clan << ": " << played->Inputs[later].Text();
+            }
+            places[clan - 2] = *place;
         }
-        EXPECT_TRUE(own) << clan;
+        apart += places[0] != places[1] ? 1 : 0;
     }
+    EXPECT_GT(apart, 10) << "each has its own";
 }
 
 TEST_F(GoingBack, NothingIsTakenBackBeforeTheFirstAnswer) {

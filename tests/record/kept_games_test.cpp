@@ -70,6 +70,22 @@ TEST_F(Kept, TheLatestTenAndNotTheOneThatIsPlayed) {
     EXPECT_TRUE(fs::exists(played.Path()));
 }
 
+// One that is gone on with is the oldest of eleven for a moment.
+TEST_F(Kept, TheOneThatIsGoneOnWithStays) {
+    GameKeeper keeper(Folder());
+    for (int number = 1; number <= 11; ++number) {
+        keeper.Begin(Concat("game ", number, "\n"));
+    }
+    const auto games = KeptGames(Folder());
+    ASSERT_EQ(games.size(), MostKeptGames);
+    const std::string oldest = games.back().Path;
+    ASSERT_EQ(TextOf(oldest), "game 1\n");
+    keeper.LetGo(oldest);
+    EXPECT_EQ(TextOf(oldest), "game 1\n");
+    keeper.GoOn(oldest, "game 1\n");
+    EXPECT_EQ(TextOf(oldest), "game 1\n");
+}
+
 TEST_F(Kept, GoesOnInItsFile) {
     GameKeeper keeper(Folder());
     keeper.Begin("head\none\ncut of");
@@ -209,6 +225,7 @@ struct Progress {
         services.Listener = &recorder;
         progress.Given = 0;
         PlayOrLeave();
+        progress.Given = 0;
         keeper.Remove();
     }
 }
@@ -230,7 +247,9 @@ TEST_F(Kept, KilledAtAnyMomentLosesTheInputInHandAtMost) {
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
         const int given = progress->Given;
-        for (const KeptGame& kept : KeptGames(Folder())) {
+        const auto games = KeptGames(Folder());
+        ASSERT_TRUE(given == 0 || games.size() == 1U) << given << ": what has been put in is in a file";
+        for (const KeptGame& kept : games) {
             ReadRecord read = ReadRecordFile(kept.Path);
             if (!read.HasHead) {
                 ASSERT_EQ(given, 0) << read.Fault.Told() << ": nothing had been put in yet";

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/play_record.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include "sim/journal.h"
-#include "tests/record/restless_robot.h"
-#include "tests/support/game_fixture.h"
+#include "tests/record/recorded_game.h"
 #include "tests/support/test_scale.h"
 
 namespace plasmos::testing {
 namespace {
-
-using ::testing::HasSubstr;
 
 /// Goes on with whoever was window and listener before, as soon as a question is left open.
 class PlayUpTo : public InputPlayer {
@@ -20,29 +16,6 @@ public:
 
 protected:
     void Exhausted(Question&) override { HandBack(); }
-};
-
-class Records : public GameTest {
-protected:
-    /// Plays a numbered game; the record is what it writes down.
-    GameRecord Play(int number, std::string& journal) {
-        SetUpRestlessGame(number);
-        Journal written;
-        written.Start();
-        RestlessRobot robot(static_cast<std::uint64_t>(number), &written);
-        GameRecorder recorder(&robot);
-        text_.clear();
-        recorder.OnText = [this](std::string_view lines) { text_ += lines; };
-        services.Window = &robot;
-        services.Listener = &recorder;
-        PlayOrLeave();
-        services = {};
-        journal = written.Text();
-        return recorder.Record();
-    }
-
-    /// What stands in the file, as it grew input by input.
-    std::string text_;
 };
 
 /// The rest of a game after its first inputs have been played from a file.
@@ -188,38 +161,6 @@ TEST_F(Records, KnowTheirChapters) {
         EXPECT_GT(chapters[i].Moment, chapters[i - 1].Moment);
     }
     services = {};
-}
-
-// ---- records that do not fit ----
-
-TEST_F(Records, SayWhereTheyDoNotFit) {
-    std::string journal;
-    const GameRecord record = Play(4, journal);
-    const auto signature = PlayRecordApart(record).State.Signature;
-    std::size_t found = 0;
-    std::size_t tried = 0;
-    for (std::size_t missing = 0; missing + 1 < record.Inputs.size(); ++missing, ++tried) {
-        GameRecord other = record;
-        other.Inputs.erase(other.Inputs.begin() + static_cast<std::ptrdiff_t>(missing));
-        const PlayedRecord played = PlayRecordApart(other);
-        EXPECT_LE(played.Sound, other.Inputs.size());
-        EXPECT_GE(played.Sound, missing) << "what stands above is sound";
-        found += played.Fault.empty() ? 0U : 1U;
-        EXPECT_TRUE(!played.Fault.empty() || played.State.Signature == signature)
-            << missing << ": what was missing changed nothing, such as a mark that was taken away again";
-    }
-    EXPECT_GT(found, tried / 2);
-}
-
-TEST_F(Records, OfOtherClansAreRefused) {
-    std::string journal;
-    GameRecord record = Play(4, journal);
-    record.Head.How = RecordHead::ClansAre::Asked;
-    record.Inputs.insert(record.Inputs.begin(),
-                         InputOf(Numbered(Answer::Kind::Number, record.Head.Clans == 4 ? 3 : 4)));
-    const PlayedRecord played = PlayRecordApart(record);
-    EXPECT_FALSE(played.HeadFits);
-    EXPECT_THAT(played.Fault, HasSubstr("clans, and"));
 }
 
 }  // namespace

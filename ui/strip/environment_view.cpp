@@ -97,7 +97,8 @@ void EnvironmentView::ShowState(const GameState& state) {
 }
 
 void EnvironmentView::ShowTurn() {
-    turnlab->setText(ToQt(Concat("Turn ", std::min(state_->Turn, LastTurn))));
+    const bool begun = state_->Turn > 0;
+    turnlab->setText(begun ? ToQt(Concat("Turn ", std::min(state_->Turn, LastTurn))) : QString());
     turnlab->setAccessibleName(QStringLiteral("%1 of %2").arg(turnlab->text()).arg(LastTurn));
     update();
 }

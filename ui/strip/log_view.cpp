@@ -49,6 +49,7 @@ LogView::LogView(QWidget* parent) : QTextEdit(parent) {
 void LogView::Clear() {
     clear();
     heading_.clear();
+    waiting_.clear();
     empty_ = following_ = true;
     marked_ = 0;
     setExtraSelections({});
@@ -203,26 +204,51 @@ void LogView::Recolour() {
     cursor.endEditBlock();
 }
 
+void LogView::Hold(bool on) {
+    held_ = on;
+    if (waiting_.empty()) {
+        return;
+    }
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the lines are laid out once, as wide as they will be
+    QTextCursor whole(document());
+    whole.beginEditBlock();
+    for (const Entry& entry : waiting_) {
+        Write(entry);
+    }
+    whole.endEditBlock();
+    waiting_.clear();
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
 void LogView::Append(const QString& sign, int clan, const QString& text, Manner manner) {
-    const bool heading = manner == Manner::Heading;
+    const Entry entry{sign, clan, text, manner, MomentOfNow ? MomentOfNow() : 0};
+    if (held_) {
+        waiting_.push_back(entry);
+    } else {
+        Write(entry);
+    }
+}
+
+void LogView::Write(const Entry& entry) {
+    const bool heading = entry.How == Manner::Heading;
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     QTextBlockFormat block;
     block.setTopMargin(heading && !empty_ ? 6 : 0);
     empty_ ? cursor.setBlockFormat(block) : cursor.insertBlock(block);
     empty_ = false;
-    cursor.block().setUserState(MomentOfNow ? MomentOfNow() : 0);
+    cursor.block().setUserState(entry.Moment);
     QTextCharFormat letters;
-    if (!sign.isEmpty()) {
-        letters.setForeground(ShadesOf(clan).Edge);
-        letters.setProperty(ClanOfSign, clan);
-        cursor.insertText(sign + QLatin1Char(' '), letters);
+    if (!entry.Sign.isEmpty()) {
+        letters.setForeground(ShadesOf(entry.Clan).Edge);
+        letters.setProperty(ClanOfSign, entry.Clan);
+        cursor.insertText(entry.Sign + QLatin1Char(' '), letters);
     }
-    letters.setForeground(ColourOf(manner));
+    letters.setForeground(ColourOf(entry.How));
     letters.setProperty(ClanOfSign, 0);
-    letters.setProperty(MannerOfText, static_cast<int>(manner));
+    letters.setProperty(MannerOfText, static_cast<int>(entry.How));
     letters.setFontWeight(heading ? QFont::Bold : QFont::Normal);
-    cursor.insertText(text, letters);
+    cursor.insertText(entry.Text, letters);
 }
 
 }  // namespace plasmos

@@ -3,6 +3,7 @@
 
 #include <QTextEdit>
 #include <functional>
+#include <vector>
 
 #include "ui/look/theme.h"
 
@@ -33,6 +34,9 @@ public:
     void Line(const QString& line, int clan);
     /// A line that stands back: what the rules do not tell in words.
     void QuietLine(const QString& line, int clan);
+    /// While lines are held they are not in sight; they are written at one stroke when that is over, which many lines
+    /// want: each would be laid out by itself.
+    void Hold(bool on);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -44,6 +48,13 @@ protected:
 
 private:
     enum class Manner { Heading, Told, Quiet };
+    struct Entry {
+        QString Sign;
+        int Clan;
+        QString Text;
+        Manner How;
+        int Moment;
+    };
 
     void WriteHeading();
     void Mark();
@@ -51,11 +62,14 @@ private:
     void Recolour();
     static QColor ColourOf(Manner manner);
     void Append(const QString& sign, int clan, const QString& text, Manner manner);
+    void Write(const Entry& entry);
 
     QString heading_;
     int marked_ = 0;  ///< the moment
     QPoint pressed_;
     Scheme scheme_ = CurrentScheme();
+    std::vector<Entry> waiting_;
+    bool held_ = false;
     bool empty_ = true;
     bool started_ = false;
     bool following_ = true;  ///< the newest line stays in sight

@@ -141,7 +141,7 @@ void QuestionCard::OfferWhy(bool on) {
 }
 
 int QuestionCard::WhyWidth() const {
-    return whyb->isVisibleTo(this) ? Px(52) : 0;
+    return whyb->isVisibleTo(this) ? Px(74) : 0;
 }
 
 void QuestionCard::ShowHint(const QString& hint) {

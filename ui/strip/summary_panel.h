@@ -31,7 +31,7 @@ public:
     // What the person wants. A button that has nothing behind it is hidden; set them before Show().
     std::function<void(int turn)> OnTurn;  ///< a turn, from 0, is to be looked back at
     std::function<void()> OnSave;
-    std::function<void(int turn)> OnPlayAgain;  ///< from the end of that turn; 0: from the start
+    std::function<void(int turn)> OnPlayAgain;  ///< from the beginning of that turn; 0: from the start
     std::function<void()> OnNewGame;
 
     /// Shows the game that the state has as it came to its end, whatever becomes of the state then. No figures: there

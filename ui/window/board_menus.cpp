@@ -136,6 +136,18 @@ void BoardMenus::Enable(bool playing, bool free, bool guided) {
     pref_men_->setEnabled(free && HasUpDownControls());
 }
 
+void BoardMenus::Hold(bool on) {
+    for (QAction* item : {autoeat_men_, autoten_men_, fast_men_, easymen_, normmen_, victorymen_}) {
+        if (on && item->isEnabled()) {
+            item->setEnabled(false);
+            held_.append(item);
+        }
+    }
+    for (QAction* item : on ? QList<QAction*>() : std::exchange(held_, {})) {
+        item->setEnabled(true);
+    }
+}
+
 void BoardMenus::ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle) {
     if (game.Turn == 0) {
         autoeat_men_->setEnabled(true);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <functional>
 
@@ -32,6 +33,8 @@ public:
     /// What can be chosen while a game is played or not, and while nothing else keeps a game from beginning.
     /// In a guided game the rules stay as they are.
     void Enable(bool playing, bool free, bool guided);
+    /// An earlier board is shown: nothing that the rules take over can be turned until that is over.
+    void Hold(bool on);
     /// The marks of what a person has made automatic; whether the tentacle can be.
     void ShowAutoFlags(bool eating, bool tentacle, bool hasTentacle);
     /// The marks of the setup: difficulty, victory, persons, fast mode.
@@ -64,6 +67,7 @@ private:
     PuddleView* puddle_;
     Deeds deeds_;
     bool playing_ = false;
+    QList<QAction*> held_;
     QAction* watchmen_ = nullptr;
     QAction* leavemen_ = nullptr;
     QAction* autoeat_men_ = nullptr;

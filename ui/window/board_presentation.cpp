@@ -104,6 +104,10 @@ void BoardPresentation::ShowPhase(std::string_view phase) {
     motions_.EndAttack();
 }
 
+void BoardPresentation::HoldLog(bool on) {
+    strip_->Log->Hold(on);
+}
+
 void BoardPresentation::LogPhase(std::string_view phase) {
     strip_->Log->Heading(QStringLiteral("Turn %1 · %2").arg(game.Turn).arg(ToQt(phase)));
 }

@@ -56,6 +56,8 @@ public:
     void LogHappening(const Happening& happening);
     /// The log's heading for what comes.
     void LogPhase(std::string_view phase);
+    /// The log's lines are held, and written at one stroke when that is over.
+    void HoldLog(bool on);
     /// Everything that the window shows of the current game, as it stands: `message` in the colours of a clan.
     void ShowEverything(std::string_view message, int clan);
 

@@ -9,7 +9,13 @@
 namespace plasmos {
 
 CatchUp::CatchUp(const InputList& inputs, GameRecorder& recorder, BoardPresentation& window, int until)
-    : InputPlayer(inputs, &recorder), recorder_(&recorder), window_(&window), until_(until) {}
+    : InputPlayer(inputs, &recorder), recorder_(&recorder), window_(&window), until_(until) {
+    window_->HoldLog(true);
+}
+
+CatchUp::~CatchUp() {
+    window_->HoldLog(false);
+}
 
 void CatchUp::ShowMessage(std::string_view text, int clan) {
     message_ = text;
@@ -83,6 +89,7 @@ void CatchUp::HandOver() {
         return;
     }
     handedOver_ = true;
+    window_->HoldLog(false);
     services.Window = window_;
     services.Listener = recorder_;
     if (OnHandedOver) {

@@ -17,6 +17,9 @@ class CatchUp : public InputPlayer {
 public:
     /// `recorder` hears the game; `until` is the moment at which the window takes over, 0: at the question.
     CatchUp(const InputList& inputs, GameRecorder& recorder, BoardPresentation& window, int until);
+    ~CatchUp() override;
+    CatchUp(const CatchUp&) = delete;
+    CatchUp& operator=(const CatchUp&) = delete;
 
     /// Called when the window has taken over, before it shows what is asked.
     std::function<void()> OnHandedOver;

@@ -26,7 +26,10 @@ HistoryDesk::HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& des
     : window_(&window), table_(&table) {
     QuestionDesk* const asks = &desk;
     const auto newGame = deeds.NewGame;
-    records_ = std::make_unique<RecordDesk>(window, RecordDesk::Deeds{deeds.Play,
+    records_ = std::make_unique<RecordDesk>(window, RecordDesk::Deeds{[this, play = deeds.Play](const auto& whole) {
+                                                                          look_->Return();
+                                                                          play(whole);
+                                                                      },
                                                                       [this, asks] {
                                                                           look_->Return();
                                                                           asks->LeaveGame();
@@ -34,11 +37,14 @@ HistoryDesk::HistoryDesk(QMainWindow& window, TableTop& table, QuestionDesk& des
                                                                       deeds.BeginAfresh,
                                                                       [this, enable = deeds.Enable] {
                                                                           enable();
-                                                                          look_->Follow();
+                                                                          Follow();
                                                                       },
-                                                                      deeds.Tell});
+                                                                      deeds.Count, deeds.Tell});
     look_ = std::make_unique<LookDesk>(table, *records_,
-                                       LookDesk::Deeds{deeds.ShowState, [asks](bool on) { asks->Freeze(on); }});
+                                       LookDesk::Deeds{deeds.ShowState, [asks, hold = deeds.HoldMenus](bool on) {
+                                                           asks->Freeze(on);
+                                                           hold(on);
+                                                       }});
     menus_ = std::make_unique<RecordMenus>(window, *records_, *look_);
     StartCard* start = table.Strip->Start;
     connect(start->resumeb, &QPushButton::clicked, this, [this] { records_->Open(waiting_); });
@@ -61,7 +67,7 @@ void HistoryDesk::ConnectSummary(const std::function<void()>& newGame) {
     summary->OnSave = [this] { menus_->AskWhereToSave(); };
     summary->OnTurn = [this](int turn) { look_->LookAtTurn(turn); };
     summary->OnPlayAgain = [this](int turn) {
-        const int moment = turn == 0 ? 1 : records_->Recorder()->EndOfTurn(turn);
+        const int moment = turn == 0 ? 1 : records_->Recorder()->EndOfTurn(turn - 1);
         look_->Return();
         records_->GoOnFrom(moment);
     };
@@ -87,6 +93,7 @@ void HistoryDesk::Enable(bool guided) {
 void HistoryDesk::Follow() {
     menus_->ShowPossible();
     look_->Follow();
+    RenewReasons(*window_, records_->Recorder());
     table_->Strip->Question->OfferWhy(records_->HasGame() && !records_->Recorder()->Reasons().empty());
 }
 

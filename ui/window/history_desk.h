@@ -29,6 +29,8 @@ public:
         std::function<void()> Enable;                                 ///< what can be chosen follows the game
         std::function<void()> NewGame;
         std::function<void(const GameState& state)> ShowState;
+        std::function<void(bool on)> HoldMenus;         ///< nothing that rules take over can be turned
+        std::function<void()> Count;                    ///< the game that is over is taken into the person's results
         std::function<void(const QString& text)> Tell;  ///< a box for the person
     };
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "model/dice.h"
 #include "record/play_record.h"
 #include "record/record_file.h"
 #include "ui/board/puddle_view.h"
@@ -50,7 +51,7 @@ QPixmap BoardOf(const GameState& state, int side, double ratio) {
 QString KeptGameLine(const KeptGame& kept) {
     const QString when = QLocale().toString(QFileInfo(ToQt(kept.Path)).lastModified(), QLocale::ShortFormat);
     const auto state = StateOf(kept.Path);
-    return state ? QStringLiteral("%1 (%2)").arg(LineOf(*state), when)
+    return state ? QStringLiteral("%1, replay %2 (%3)").arg(LineOf(*state), ToQt(ReplayText(state->ReplayNo)), when)
                  : QStringLiteral("A game that cannot be opened (%1)").arg(when);
 }
 

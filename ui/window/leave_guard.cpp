@@ -21,14 +21,14 @@ bool LeaveGuard::IsNeeded() {
     return false;
 }
 
-void LeaveGuard::Ask(const QString& question, const QString& yes, std::function<void()> deed) {
+void LeaveGuard::Ask(const QString& question, const QString& yes, const QString& no, std::function<void()> deed) {
     Drop();
     box_ = new QMessageBox(QMessageBox::Question, QStringLiteral("Plasmos"), question, QMessageBox::NoButton, window_);
     box_->setObjectName(QStringLiteral("leavebox"));
     box_->setTextFormat(Qt::PlainText);
     QPushButton* leave = box_->addButton(yes, QMessageBox::DestructiveRole);
     leave->setObjectName(QStringLiteral("leaveb"));
-    QPushButton* stay = box_->addButton(QStringLiteral("&Stay"), QMessageBox::RejectRole);
+    QPushButton* stay = box_->addButton(no, QMessageBox::RejectRole);
     stay->setObjectName(QStringLiteral("stayb"));
     box_->setDefaultButton(stay);
     box_->setEscapeButton(stay);

@@ -187,7 +187,7 @@ constexpr KeyRow Keys[] = {
     {"Enter, Space", "the square under the cursor; the button that has the focus"},
     {"Escape", "closes a dialog, which says what that does"},
     {"Page Up, Page Down", "looks back a phase of the game, and on; turns the pages of a long dialog"},
-    {"Home, End", "looks back at the beginning of the game, and at the present again"},
+    {"Home, End, Esc", "looks back at the beginning of the game, and at the present again"},
     {"Ctrl+Z, Ctrl+Shift+Z", "takes an answer back, and gives it again"},
     {"Ctrl+O, Ctrl+S", "opens a game, and saves this one"},
     {"F4", "why the other clans did what they did last"},

@@ -149,9 +149,13 @@ LookBar::LookBar(QWidget* parent)
       nowb(new QPushButton(QStringLiteral("Back to now"), this)),
       past_(MakeLabel(this, QStringLiteral("pastlab"), 13, true, Tone::Ink)) {
     goonb->setObjectName(QStringLiteral("goonb"));
-    goonb->setToolTip(QStringLiteral("Takes everything back that came after this"));
+    goonb->setToolTip(
+        QStringLiteral("Takes back all that came after this. Again (Ctrl+Shift+Z) brings it back until something else "
+                       "is answered, and "
+                       "the game as it is now stays among the recent games."));
     nowb->setObjectName(QStringLiteral("nowb"));
     nowb->setProperty("main", true);
+    nowb->setShortcut(Qt::Key_Escape);
     for (QPushButton* button : {goonb, nowb}) {
         button->setAutoDefault(true);
     }
@@ -182,8 +186,8 @@ void LookBar::changeEvent(QEvent* event) {
 }
 
 void LookBar::Arrange() {
-    Slider->setGeometry(0, 0, width(), Px(BarHeight));
-    const int top = Px(BarHeight) + 4;
+    Slider->setGeometry(0, height() - Px(BarHeight), width(), Px(BarHeight));  // it stays under the pointer
+    const int top = 4;
     const int high = Px(RowHeight) - 6;
     int right = width();
     for (QPushButton* button : {nowb, goonb}) {

@@ -25,10 +25,6 @@ std::string FolderOfGames() {
     return services.Files != nullptr ? services.Files->GamesFolder() : std::string();
 }
 
-bool WantsFastGames() {
-    return services.Settings != nullptr ? services.Settings->Get("play", "fastmode", "0") == "1" : game.FastMode;
-}
-
 /// What the setup of the current game says of the next one only.
 void ForgetRequests(const GameSetup& before) {
     game.RequestedClans = before.RequestedClans;
@@ -71,20 +67,6 @@ void RecordDesk::PlayNew(const std::function<void()>& play) {
     });
 }
 
-/// The record of a new game grows. Nothing of a person's is lost with a game of computer clans.
-void RecordDesk::KeepNew(std::string_view lines) {
-    if (game.AutoPlay) {
-        return;
-    }
-    if (std::exchange(begun_, true)) {
-        keeper_.Add(lines);
-    } else if (keeper_.Path().empty()) {
-        keeper_.Begin(std::string(lines));
-    } else {
-        keeper_.GoOn(keeper_.Path(), std::string(lines));
-    }
-}
-
 /// The games that follow from one another: each is left for the next.
 void RecordDesk::Run(const std::function<void()>& first) {
     running_ = true;
@@ -99,8 +81,6 @@ void RecordDesk::Run(const std::function<void()>& first) {
     });
     if (first) {
         first();
-    } else {
-        marksBefore_ = game.Menu;
     }
     while (next_) {
         Stop();
@@ -121,17 +101,28 @@ void RecordDesk::Stop() {
         services.Listener = listenerBefore_;
         recorder_->OnText = nullptr;
         DropLeaving(recorder_->Inputs);
-        kept_ = recorder_->Inputs;
+        if (recorder_->CanBePlayed()) {
+            kept_ = recorder_->Inputs;
+        }
     }
 }
 
-void RecordDesk::Replay(Next next) {
+/// Leaves the file of the game that was played, and its marks, for the next one.
+void RecordDesk::LeaveFor(const Next& next) {
     if (next.Opened) {
-        EndKeeping();
+        deeds_.Count();
+        EndKeeping(next.Path);
         takenBack_.Forget();
-        counted_ = next.Path.empty();
-        marksBefore_ = marksBefore_.value_or(game.Menu);
+        counted_ = next.Counted;
     }
+    if (next.Apart) {
+        keeper_.LetGo();
+    }
+    NoteOwnMarks();
+}
+
+void RecordDesk::Replay(Next next) {
+    LeaveFor(next);
     record_ = std::move(next.Record);
     window_->setUpdatesEnabled(false);
     const auto seen = qScopeGuard([this] { window_->setUpdatesEnabled(true); });
@@ -151,6 +142,7 @@ void RecordDesk::Replay(Next next) {
             held->LetGo();
         }
         window_->setUpdatesEnabled(true);
+        marksThen_ = game.Menu;
         deeds_.CaughtUp();
         Keep(next);
         if (!catchUp.Fault().empty()) {
@@ -162,14 +154,6 @@ void RecordDesk::Replay(Next next) {
     catchUp.Finish();
 }
 
-/// The marks are the person's again, and not those of a game that was opened or gone back to.
-void RecordDesk::TakeOwnMarks() {
-    if (marksBefore_) {
-        game.Menu = *std::exchange(marksBefore_, std::nullopt);
-        game.FastMode = WantsFastGames();
-    }
-}
-
 void RecordDesk::TakeOwnBoard() {
     if (std::exchange(otherBoard_, false)) {
         LoadBoard();
@@ -179,40 +163,6 @@ void RecordDesk::TakeOwnBoard() {
 
 bool RecordDesk::CountsNow() {
     return IsOver() && !std::exchange(counted_, true);
-}
-
-// ---- keeping ----
-
-/// The game goes on from here: its file has what it has come to, and takes what comes. Before clans and names are dealt
-/// it may become another game.
-void RecordDesk::Keep(const Next& next) {
-    if (record_.Head.Persons == 0) {
-        return;
-    }
-    if (!recorder_->CanBePlayed()) {
-        begun_ = false;
-        recorder_->OnText = [this](std::string_view lines) { KeepNew(lines); };
-        return;
-    }
-    const InputList& inputs = recorder_->Inputs;
-    if (!next.Path.empty()) {
-        keeper_.GoOn(next.Path, RecordText(recorder_->Record()));
-    } else if (keeper_.Path().empty()) {
-        keeper_.Begin(RecordText(recorder_->Record()));
-    } else {
-        const auto [one, other] = std::mismatch(inputs.begin(), inputs.end(), kept_.begin(), kept_.end());
-        std::string lines = other != kept_.end() ? Concat("back to ", one - inputs.begin(), "\n") : std::string();
-        for (auto more = one; more != inputs.end(); ++more) {
-            lines += InputText(*more);
-        }
-        keeper_.Add(lines);
-    }
-    recorder_->OnText = [this](std::string_view lines) { keeper_.Add(lines); };
-}
-
-void RecordDesk::EndKeeping() {
-    IsOver() ? keeper_.Remove() : keeper_.LetGo();
-    kept_.clear();
 }
 
 // ---- going back and on ----
@@ -235,13 +185,13 @@ void RecordDesk::TakeBack() {
     if (CanTakeBack()) {
         const auto place = static_cast<std::ptrdiff_t>(*PlaceToTakeBackTo(*recorder_, WhoTakesBack()));
         takenBack_.Keep(*recorder_);
-        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + place}, 0);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + place}, 0, false);
     }
 }
 
 void RecordDesk::GoAgain() {
     if (CanGoAgain()) {
-        GoTo(takenBack_.InputsTo(*takenBack_.PlaceToGoOnTo(recorder_->Inputs)), 0);
+        GoTo(takenBack_.InputsTo(*takenBack_.PlaceToGoOnTo(recorder_->Inputs)), 0, false);
     }
 }
 
@@ -249,15 +199,16 @@ void RecordDesk::GoOnFrom(int moment) {
     if (HasGame() && !next_) {
         takenBack_.Keep(*recorder_);
         const auto before = static_cast<std::ptrdiff_t>(recorder_->InputsBefore(moment));
-        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + before}, moment);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + before}, moment, true);
     }
 }
 
 /// The same game, with other inputs. One that is back before its deal has the head of the game it was.
-void RecordDesk::GoTo(InputList inputs, int until) {
+void RecordDesk::GoTo(InputList inputs, int until, bool apart) {
     GameRecord record = HasGame() ? recorder_->Record() : record_;
+    const bool shorter = inputs.size() < recorder_->Inputs.size();
     record.Inputs = std::move(inputs);
-    Go({std::move(record), until, false, {}});
+    Go({std::move(record), until, false, {}, false, apart && shorter});
 }
 
 void RecordDesk::Go(Next next) {

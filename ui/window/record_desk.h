@@ -28,7 +28,8 @@ public:
         std::function<void()> LeaveGame;                              ///< the rules are told to leave the game
         std::function<void()> BeginAfresh;                            ///< the window is as before a game
         std::function<void()> CaughtUp;                               ///< the window shows a game that was played again
-        std::function<void(const QString& text)> Tell;                ///< a box for the person
+        std::function<void()> Count;                    ///< the game that is over is taken into the person's results
+        std::function<void(const QString& text)> Tell;  ///< a box for the person
     };
 
     RecordDesk(QWidget& window, Deeds deeds);
@@ -52,7 +53,7 @@ public:
     bool CanGoAgain() const;
     void TakeBack();
     void GoAgain();
-    /// Takes back to a moment of the game, and goes on from there.
+    /// Takes back to a moment of the game, and goes on from there. What it had come to stays among the kept games.
     void GoOnFrom(int moment);
 
     /// The game as it is written down; the last one when it is over. None: nullptr.
@@ -60,6 +61,8 @@ public:
     /// Whether leaving the game loses nothing.
     bool IsKept() const { return keeper_.IsKept(); }
     const std::string& GamesFolder() const { return folder_; }
+    /// The path of a game that is kept there, whichever way leads to it; empty: it is another file.
+    std::string KeptPath(const std::string& path) const;
     /// Whether the game that is over counts in the person's results: each does once, and one from a saved file does
     /// not.
     bool CountsNow();
@@ -70,20 +73,25 @@ private:
         GameRecord Record;
         int Until = 0;
         bool Opened = false;
-        std::string Path;  ///< of a kept game
+        std::string Path;      ///< of a kept game
+        bool Counted = false;  ///< it does not count in the results
+        bool Apart = false;    ///< what it was before stays kept, too
     };
 
-    bool IsKeptGame(const std::string& path) const;
-    void GoTo(InputList inputs, int until);
+    std::string KeptText() const;
+    void GoTo(InputList inputs, int until, bool apart);
     void Go(Next next);
     void KeepNew(std::string_view lines);
     void Run(const std::function<void()>& first);
+    void LeaveFor(const Next& next);
     void Replay(Next next);
     void Record();
     void Stop();
     void Keep(const Next& next);
-    void EndKeeping();
+    void EndKeeping(const std::string& goneOnWith = {});
     void TakeOwnBoard();
+    MenuMarks OwnMarks() const;
+    void NoteOwnMarks();
     void TakeOwnMarks();
     int WhoTakesBack() const;
 
@@ -98,7 +106,8 @@ private:
     InputList kept_;     ///< as the kept file has them
     TakenBack takenBack_;
     Observer* listenerBefore_ = nullptr;
-    std::optional<MenuMarks> marksBefore_;  ///< of the person, while a game is played that was opened or gone back to
+    std::optional<MenuMarks> marksBefore_;  ///< of the person, before a game was played again
+    MenuMarks marksThen_;                   ///< of the game that was played again, where the person went on
     bool running_ = false;
     bool begun_ = false;       ///< the new game is kept
     bool counted_ = false;     ///< the game has come to its end once

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 
 #include "model/game_state.h"
 #include "record/play_record.h"
@@ -34,12 +35,17 @@ bool RecordDesk::Save(const std::string& path) {
     return fault.empty();
 }
 
-bool RecordDesk::IsKeptGame(const std::string& path) const {
-    return !folder_.empty() && std::filesystem::path(path).parent_path() == std::filesystem::path(folder_);
+std::string RecordDesk::KeptPath(const std::string& path) const {
+    namespace fs = std::filesystem;
+    std::error_code fault;
+    const fs::path file = fs::canonical(path, fault);
+    const bool kept = !folder_.empty() && !fault && fs::equivalent(file.parent_path(), folder_, fault);
+    return kept ? (fs::path(folder_) / file.filename()).string() : std::string();
 }
 
 bool RecordDesk::Open(const std::string& path) {
-    if (IsKeptGame(path) && IsPlayedElsewhere(path)) {
+    const std::string kept = KeptPath(path);
+    if (!kept.empty() && IsPlayedElsewhere(kept)) {
         deeds_.Tell(QStringLiteral("This game is being played already.\n%1").arg(ToQt(path)));
         return false;
     }
@@ -54,8 +60,10 @@ bool RecordDesk::Open(const std::string& path) {
         deeds_.Tell(ToQt(told) + (opens ? HowFar(played, inputs) : QString()));
     }
     if (opens) {
+        // What was not sound stays as it is, for whoever wants to know why; half a line is only where the power went.
+        const bool goesOnThere = fault.Text.empty() || (played.Fault.empty() && read.CutOff);
         read.Record.Inputs.resize(std::min(inputs, played.Sound));
-        Go({std::move(read.Record), 0, true, IsKeptGame(path) ? path : std::string()});
+        Go({std::move(read.Record), 0, true, goesOnThere ? kept : std::string(), kept.empty() || read.Counted, false});
     }
     return opens;
 }

@@ -38,7 +38,7 @@ QStringList RecentFiles() {
     QStringList files;
     for (int file = 1; services.Settings != nullptr && file <= MostFiles; ++file) {
         const QString path = ToQt(services.Settings->Get("record", KeyOf(file), {}));
-        if (!path.isEmpty()) {
+        if (QFileInfo::exists(path)) {
             files.append(path);
         }
     }
@@ -138,21 +138,29 @@ void RecordMenus::AskForFile() {
     dialog->open();
 }
 
-void RecordMenus::AskWhereToSave() {
+/// Qt adds the ending to a name without a dot alone. A file that this name would replace is asked about once more.
+void RecordMenus::SaveAs(const QString& chosen) {
+    const QString ending = ToQt(RecordEnding);
+    const QString path = chosen.endsWith(ending, Qt::CaseInsensitive) ? chosen : chosen + ending;
+    if (path != chosen && QFileInfo::exists(path)) {
+        AskWhereToSave(path);
+    } else if (records_->Save(path.toStdString())) {
+        NoteFile(path);
+    }
+}
+
+void RecordMenus::AskWhereToSave(const QString& proposed) {
     auto* dialog = new QFileDialog(window_, QStringLiteral("Save this Game"), FolderOfFiles(), Filter());
     dialog->setObjectName(QStringLiteral("savedialog"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("plasmos"));
-    dialog->selectFile(ToQt(Concat("Game ", ReplayText(records_->Recorder()->Record().Head.ReplayNo), RecordEnding)));
+    dialog->selectFile(
+        proposed.isEmpty()
+            ? ToQt(Concat("Game ", ReplayText(records_->Recorder()->Record().Head.ReplayNo), RecordEnding))
+            : proposed);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(
-        dialog, &QFileDialog::fileSelected, this,
-        [this](const QString& path) {
-            if (records_->Save(path.toStdString())) {
-                NoteFile(path);
-            }
-        },
-        Qt::QueuedConnection);
+        dialog, &QFileDialog::fileSelected, this, [this](const QString& path) { SaveAs(path); }, Qt::QueuedConnection);
     dialog->open();
 }
 
@@ -165,7 +173,7 @@ void RecordMenus::Open(const QString& path) {
 /// The latest first; a setting that cannot be saved forgets it.
 void RecordMenus::NoteFile(const QString& path) {
     const QString whole = QFileInfo(path).absoluteFilePath();
-    if (services.Settings == nullptr || QFileInfo(whole).path() == ToQt(records_->GamesFolder())) {
+    if (services.Settings == nullptr || !records_->KeptPath(path.toStdString()).empty()) {
         return;
     }
     QStringList files = RecentFiles();

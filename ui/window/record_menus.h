@@ -27,7 +27,7 @@ public:
     /// A file that was given to the program.
     void Open(const QString& path);
     /// Asks where the game is to be saved, and saves it.
-    void AskWhereToSave();
+    void AskWhereToSave(const QString& proposed = {});
 
 private:
     QAction* AddItem(QMenu* menu, const char* name, const QString& caption, const QString& keys);
@@ -37,6 +37,7 @@ private:
     void AddRecent(const QString& path, const QString& caption);
     void AddLooks(QMenu* menu);
     void AskForFile();
+    void SaveAs(const QString& chosen);
     void NoteFile(const QString& path);
 
     QMainWindow* window_;

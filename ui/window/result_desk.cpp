@@ -15,9 +15,9 @@ namespace plasmos {
 ResultDesk::ResultDesk(StartCard& card, std::function<void(const QString& text)> tell)
     : card_(&card), tell_(std::move(tell)) {}
 
-void ResultDesk::Show(bool played) {
+void ResultDesk::Show(bool played, bool waits) {
     if (!IsOver()) {
-        ShowUnfinished();
+        ShowUnfinished(waits);
         return;
     }
     std::string story = TellResult(game);
@@ -36,7 +36,7 @@ void ResultDesk::Show(bool played) {
 }
 
 // The board still shows what was left.
-void ResultDesk::ShowUnfinished() {
+void ResultDesk::ShowUnfinished(bool waits) {
     if (game.NumPlayers == 0) {
         card_->ShowWelcome();
         return;
@@ -45,17 +45,19 @@ void ResultDesk::ShowUnfinished() {
                                         : QStringLiteral("in turn %1 of %2").arg(game.Turn).arg(LastTurn);
     card_->ShowResult(
         QStringLiteral("This game was left"),
-        QStringLiteral("It ended %1 without a winner. The board, the clans and the log show how it stood. "
-                       "Go begins a new game.")
+        (waits ? QStringLiteral("It waits %1. The board, the clans and the log show how it stands. Resume goes on with "
+                                "it, Go begins a new game.")
+               : QStringLiteral("It ended %1 without a winner. The board, the clans and the log show how it stood. "
+                                "Go begins a new game."))
             .arg(when),
         QString(), 0);
 }
 
-void ResultDesk::Clear() {
+void ResultDesk::Clear(bool waits) {
     if (services.Settings != nullptr && !ClearRecords(*services.Settings)) {
         TellUnsaved();
     }
-    Show(false);
+    Show(false, waits);
 }
 
 void ResultDesk::TellUnsaved() const {

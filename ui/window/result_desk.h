@@ -15,13 +15,13 @@ public:
     ResultDesk(StartCard& card, std::function<void(const QString& text)> tell);
 
     /// Shows the current game's result, that it was left before its end, or the welcome where there is no game. A game
-    /// that has just been played to its end is taken into the record.
-    void Show(bool played);
+    /// that has just been played to its end is taken into the record. `waits`: one that was left can be gone on with.
+    void Show(bool played, bool waits);
     /// Forgets the record. What the card shows follows.
-    void Clear();
+    void Clear(bool waits);
 
 private:
-    void ShowUnfinished();
+    void ShowUnfinished(bool waits);
     void TellUnsaved() const;
 
     StartCard* card_;

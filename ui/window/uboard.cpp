@@ -64,7 +64,7 @@ UBoard::UBoard(const PresentationMaker& make) {
     menus_ = std::make_unique<BoardMenus>(
         *this, *track_->Puddle(),
         BoardMenus::Deeds{[this] { watch_Click(); }, [this] { LeaveGame(); }, [this] { desk_->Wake(); },
-                          [this] { preferences_->Open(); }, [this] { results_->Clear(), strip_->Arrange(); },
+                          [this] { preferences_->Open(); }, [this] { ClearResults(); },
                           [this](const QString& text) { ShowNotice(*this, text); }});
     BuildDesks(*table);
     lent_ = new LentLabels(this, *strip_->Environment);
@@ -140,6 +140,8 @@ void UBoard::BuildHistory(TableTop& table) {
         *this, table, *desk_,
         HistoryDesk::Deeds{[this](const std::function<void()>& play) { Play(play); }, afresh, [this] { EnableStart(); },
                            [this] { gob_Click(); }, [this](const GameState& state) { ShowState(state); },
+                           [this](bool on) { menus_->Hold(on); },
+                           [this] { results_->Show(!guided_ && history_->CountsNow(), false); },
                            [this](const QString& text) { ShowNotice(*this, text); }});
 }
 
@@ -214,8 +216,8 @@ void UBoard::SetPlaying(bool playing) {
         strip_->Start->txtReplay->show();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        results_->Show(played && !guided_ && history_->CountsNow());
         history_->GameIsOver();
+        results_->Show(played && !guided_ && history_->CountsNow(), IsWaiting());
     }
     strip_->SetPlaying(playing);
     view_->SetPlaying(playing);
@@ -224,6 +226,11 @@ void UBoard::SetPlaying(bool playing) {
     if (!playing) {
         strip_->Start->gob->setFocus();
     }
+}
+
+/// Whether the game that was left can be gone on with.
+bool UBoard::IsWaiting() const {
+    return !guided_ && LeaveGuard::IsNeeded() && strip_->Start->resumeb->isVisibleTo(strip_);
 }
 
 void UBoard::ClearTable() {

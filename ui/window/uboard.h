@@ -84,6 +84,8 @@ private:
     void BuildHistory(TableTop& table);
     void ClearTable();
     void LeaveGame();
+    void ClearResults();
+    bool IsWaiting() const;
 
     ScoreTrack* track_ = nullptr;
     SideStrip* strip_ = nullptr;

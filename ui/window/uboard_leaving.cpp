@@ -5,10 +5,12 @@
 #include <QCloseEvent>
 
 #include "ui/board/ttip.h"
+#include "ui/strip/side_strip.h"
 #include "ui/window/history_desk.h"
 #include "ui/window/leave_guard.h"
 #include "ui/window/lent_labels.h"
 #include "ui/window/question_desk.h"
+#include "ui/window/result_desk.h"
 #include "ui/window/uboard.h"
 #include "ui/window/window_place.h"
 
@@ -24,8 +26,16 @@ void UBoard::LeaveGame() {
         desk_->LeaveGame();
     } else if (playing_) {
         guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
-                    [this] { desk_->LeaveGame(); });
+                    QStringLiteral("&Stay"), [this] { desk_->LeaveGame(); });
     }
+}
+
+void UBoard::ClearResults() {
+    guard_->Ask(QStringLiteral("Forget the results of all your games so far?"), QStringLiteral("&Forget"),
+                QStringLiteral("&Keep"), [this] {
+                    results_->Clear(IsWaiting());
+                    strip_->Arrange();
+                });
 }
 
 void UBoard::EndProgram() {
@@ -43,7 +53,7 @@ void UBoard::closeEvent(QCloseEvent* event) {
     if (!sure_ && playing_ && !desk_->Ended() && AsksBeforeLeaving()) {
         event->ignore();
         guard_->Ask(QStringLiteral("Close the window in the middle of this game? It cannot be taken up again."),
-                    QStringLiteral("&Close"), [this] { CloseAtOnce(); });
+                    QStringLiteral("&Close"), QStringLiteral("&Stay"), [this] { CloseAtOnce(); });
         return;
     }
     place_->Save();

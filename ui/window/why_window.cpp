@@ -20,6 +20,7 @@ constexpr std::size_t MostSteps = 30;
 
 const char* DeedOf(Step step) {
     switch (step) {
+        case Step::NewGame: return "are placed";
         case Step::Move: return "moves";
         case Step::Feed: return "feeds";
         case Step::Adapt: return "adapts";
@@ -86,9 +87,17 @@ void ShowReasons(QWidget& window, const GameRecorder& recorder) {
         Dress(*dialog);
         dialog->resize(QSize(480, 420) * Letters());
     }
-    dialog->findChild<QTextEdit*>(QStringLiteral("reasons"))->setHtml(TextOf(recorder));
+    RenewReasons(window, &recorder);
     dialog->show();
     dialog->raise();
+}
+
+void RenewReasons(QWidget& window, const GameRecorder* recorder) {
+    const auto* dialog = window.findChild<QDialog*>(QStringLiteral("why"));
+    if (dialog != nullptr) {
+        dialog->findChild<QTextEdit*>(QStringLiteral("reasons"))
+            ->setHtml(recorder != nullptr ? TextOf(*recorder) : QStringLiteral("No game is being played."));
+    }
 }
 
 }  // namespace plasmos

@@ -67,6 +67,7 @@ void SummaryTest::aGameThatIsLeftHasNone() {
 void SummaryTest::aClearedRecordLeavesIt() {
     AfterGame scene(3);
     scene.Menu(Named("clearmen"));
+    scene.Click(QStringLiteral("leaveb"));
     QVERIFY(scene.Summary().isVisible());
 }
 

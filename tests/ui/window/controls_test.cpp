@@ -154,6 +154,9 @@ void ControlsTest::menus() {
                 for (auto* files : scene.Board().findChildren<QFileDialog*>()) {
                     files->reject();
                 }
+                if (scene.Sees(QStringLiteral("leavebox"))) {
+                    scene.Click(QStringLiteral("stayb"));
+                }
             }
         }
         if (auto* dialog = scene.Board().findChild<QDialog*>(QStringLiteral("frmOptions")); dialog != nullptr) {

@@ -129,6 +129,7 @@ void GameResultsTest::aGameThatIsLeftIsNoWelcome() {
     QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("This game was left"));
     QCOMPARE(LoadRecord(scene.Settings(), 3).Games, 0);
     scene.Menu(QStringLiteral("clearmen"));
+    scene.Click(QStringLiteral("leaveb"));
     QCOMPARE(scene.Text(QStringLiteral("titlelab")), QStringLiteral("This game was left"));
     game.RequestedClans = 0;
     scene.AnswerBy([&](Question&) { scene.LeaveGame(); });
@@ -140,6 +141,7 @@ void GameResultsTest::theRecordIsCleared() {
     Scene scene({{"results", "games5", "7"}, {"results", "wins5", "3"}, {"results", "best5", "40"}});
     QCOMPARE(LoadRecord(scene.Settings(), 5).Games, 7);
     scene.Menu(QStringLiteral("clearmen"));
+    scene.Click(QStringLiteral("leaveb"));
     QCOMPARE(LoadRecord(scene.Settings(), 5).Games, 0);
     QCOMPARE(LoadRecord(scene.Settings(), 5).Best, 0);
 }

@@ -3,6 +3,7 @@
 // Looking back at earlier boards while the game waits.
 
 #include <QAction>
+#include <QDir>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -10,7 +11,6 @@
 #include "tests/ui/support/stand.h"
 #include "ui/board/puddle_view.h"
 #include "ui/strip/log_view.h"
-#include "ui/strip/summary_panel.h"
 #include "ui/window/look_bar.h"
 #include "ui/window/look_desk.h"
 
@@ -25,17 +25,12 @@ private slots:
     void nothingCanBeChangedThere();
     void onFromHere();
     void linesOfTheLogLeadToTheirMoment();
-    void theSummaryLeadsToItsTurns();
-    void playAgainFromATurn();
     void keysOfWhatPagesItself();
     void nothingOfTheLastGameInAGuidedOne();
 
 private:
     static bool LooksBack(Scene& scene) { return scene.Board().History().Looking().LooksBack(); }
     static LogView* LogOf(Scene& scene) { return static_cast<LogView*>(scene.Find(QStringLiteral("txtLog"))); }
-    static SummaryPanel* SummaryOf(Scene& scene) {
-        return static_cast<SummaryPanel*>(scene.Find(QStringLiteral("summary")));
-    }
     static void Press(Scene& scene, Qt::Key key) { QTest::keyClick(scene.Board().windowHandle(), key); }
 };
 
@@ -65,6 +60,10 @@ void LookBackTest::keysGoThroughTurnsAndPhases() {
         QCOMPARE(scene.Puddle().State().Turn, 1);
         Press(scene, Qt::Key_End);
         QVERIFY(!LooksBack(scene) && &scene.Puddle().State() == &game);
+        Press(scene, Qt::Key_Home);
+        QVERIFY(LooksBack(scene));
+        Press(scene, Qt::Key_Escape);
+        QTRY_VERIFY(!LooksBack(scene));
         Press(scene, Qt::Key_Home);
         QCOMPARE(scene.Puddle().State().Turn, 0);
         scene.Click(QStringLiteral("nowb"));
@@ -116,6 +115,9 @@ void LookBackTest::nothingCanBeChangedThere() {
             ++tried;
             QVERIFY(!scene.Find(QStringLiteral("eatb"))->isEnabled());
         }
+        for (const char* item : {"fast_men", "easymen", "victorymen", "autoeat_men"}) {
+            scene.Menu(QString::fromLatin1(item));
+        }
         QTest::qWait(20);
         QCOMPARE(inputs(), before);
         Press(scene, Qt::Key_End);
@@ -141,6 +143,9 @@ void LookBackTest::onFromHere() {
             QCOMPARE(game.Turn, 1);
             QVERIFY(turn > 1 && !LooksBack(scene));
             QVERIFY(scene.Board().History().Records().CanGoAgain());
+            const QDir games(ToQt(scene.Files().GamesFolder()));
+            QVERIFY2(games.entryList({QStringLiteral("*.plasmos")}, QDir::Files).size() == 2,
+                     "the game as it was is kept, too");
         };
         scene.Click(QStringLiteral("goonb"));
     });
@@ -173,44 +178,6 @@ void LookBackTest::linesOfTheLogLeadToTheirMoment() {
         scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
-}
-
-void LookBackTest::theSummaryLeadsToItsTurns() {
-    Scene scene;
-    scene.Board().resize(1320, 860);
-    game.RequestedClans = 4;
-    PLAY(scene, scene.Click(QStringLiteral("watchb")));
-    auto* summary = SummaryOf(scene);
-    QVERIFY(summary->isVisible() && scene.Sees(QStringLiteral("savegameb")) &&
-            scene.Sees(QStringLiteral("playagainb")));
-    for (const int turn : {3, 7, 0}) {
-        summary->OnTurn(turn);
-        QVERIFY(LooksBack(scene));
-        QCOMPARE(scene.Puddle().State().Turn, turn);
-    }
-    Press(scene, Qt::Key_End);
-    QVERIFY(!LooksBack(scene));
-    QVERIFY(summary->isVisible());
-}
-
-void LookBackTest::playAgainFromATurn() {
-    Scene scene;
-    PlayTo(scene, 100000, [](Question&) {});
-    PLAY(scene, scene.Click(QStringLiteral("gob")));
-    QVERIFY(IsOver());
-    auto* summary = SummaryOf(scene);
-    bool asked = false;
-    scene.AnswerBy([&](Question&) {
-        asked = true;
-        QCOMPARE(game.Turn, 4);
-        scene.LeaveGame();
-    });
-    const auto again = [&] {
-        summary->OnPlayAgain(3);
-        QTRY_VERIFY(asked && !scene.Board().Playing());
-    };
-    PLAY(scene, again());
-    QVERIFY(!summary->isVisible());
 }
 
 void LookBackTest::keysOfWhatPagesItself() {

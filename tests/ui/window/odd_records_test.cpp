@@ -35,7 +35,9 @@ void OddRecordsTest::recordsThatDoNotFit_data() {
     QTest::newRow("other rules") << QStringLiteral("rules 1") << QStringLiteral("rules 9")
                                  << QStringLiteral("line 2: the game was played by version 9") << false;
     QTest::newRow("no record") << QStringLiteral("Plasmos game record 1") << QStringLiteral("Dear diary")
-                               << QStringLiteral("line 1: \"Dear diary\" stands where") << false;
+                               << QStringLiteral(
+                                      "line 1: this is no game that was saved: it begins with \"Dear diary\"")
+                               << false;
     QTest::newRow("an answer too many") << QStringLiteral("\nend") << QStringLiteral("\nnobody\nsquare 1\n")
                                         << QStringLiteral("is refused here") << true;
     QTest::newRow("a large board") << QStringLiteral("rows 5") << QStringLiteral("rows 9")

@@ -218,9 +218,12 @@ void TakingBackTest::aFastModeIsTakenBackToo() {
     scene.Then(QuestionKind::Square, [&] {
         QVERIFY(!game.FastMode);
         QVERIFY(!scene.Item(QStringLiteral("fast_men"))->isChecked());
+        scene.Menu(QStringLiteral("victorymen"));
         scene.LeaveGame();
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY2(scene.Item(QStringLiteral("fast_men"))->isChecked(), "the person wants fast games, and saved that");
+    QVERIFY2(scene.Item(QStringLiteral("victorymen"))->isChecked(), "what has been turned since stays");
 }
 
 /// Before the deal there is no record yet; another number of clans is another game, in the same file.
@@ -239,6 +242,8 @@ void TakingBackTest::theNumberOfClansIsTakenBack() {
     scene.Then(QuestionKind::Number, [&] { scene.Menu(Again); });
     scene.Then(QuestionKind::Square, [&] {
         QCOMPARE(game.NumPlayers, 3);
+        QCOMPARE(kept().Fault.Told(), std::string());
+        QCOMPARE(kept().Record.Inputs.size(), 1U);
         scene.Menu(Back);
     });
     scene.Then(QuestionKind::Number, [&] { choose(6); });
