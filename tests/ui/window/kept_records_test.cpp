@@ -233,17 +233,15 @@ void KeptRecordsTest::theMarksOfWhatIsAutomaticAreItsOwn() {
 void KeptRecordsTest::withoutADataFolderNoneIsOpened() {
     Scene scene;
     LeaveOne(scene, 5);
-    const QString record = scene.Folder() + QStringLiteral("/saved.plasmos");
-    QVERIFY(QFile::copy(KeptPath(scene), record));
-    QTemporaryDir away;
+    const QTemporaryDir away;
     QDir folder(ToQt(scene.Files().PathOf("")));
-    QVERIFY(QFile::rename(record, away.filePath(QStringLiteral("saved.plasmos"))));
+    QVERIFY(QFile::copy(KeptPath(scene), away.filePath(QStringLiteral("saved.plasmos"))));
     QVERIFY(folder.removeRecursively());
     QFile inTheWay(folder.absolutePath());
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
     scene.Board().OpenGame(away.filePath(QStringLiteral("saved.plasmos")));
-    const auto boxes = scene.Board().findChildren<QMessageBox*>();
-    QVERIFY(boxes.size() == 1 && boxes.first()->text().startsWith(QStringLiteral("The data folder cannot be made.")));
+    const auto* box = scene.Board().findChild<QMessageBox*>();
+    QVERIFY(box != nullptr && box->text().startsWith(QStringLiteral("The data folder cannot be made.")));
     QVERIFY(!scene.Board().Playing());
 }
 
