@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#genes-of-a-computer-clan
+
 namespace plasmos {
 
 /// Whether a gene is one of the clan's favourites.

@@ -25,6 +25,12 @@ function(plasmos_install_packed component folder file name)
     install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
+if(WIN32)  # an archive that is unpacked anywhere
+    install(TARGETS plasmos-sim DESTINATION . COMPONENT simulator)
+    install(FILES COPYING DESTINATION . RENAME COPYING.txt COMPONENT simulator)
+    return()
+endif()
+
 set(plasmos_documents)
 if(PLASMOS_SIMULATOR)
     install(TARGETS plasmos-sim DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#setting-up
+
 #include <string>
 
 namespace plasmos {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#the-turn
+
 namespace plasmos {
 
 /// The game driver, called when the person presses Go: plays one game to its winner. A run-time error

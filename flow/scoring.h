@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#scoring
+
 namespace plasmos {
 
 /// The last phase of a turn: scoring, re-ordering, victory test, food history.

@@ -3,7 +3,7 @@
 #
 # The long form for Windows: cross-compiles core and simulator (mingw-w64), runs them under Wine,
 # compares the signature with this system's, looks where the trace files lie, and packs the simulator
-# (build/windows/plasmos-*.zip). The window is built, too, where PLASMOS_QT_WINDOWS names the folder of a
+# (build/windows/plasmos-sim-*.zip). The window is built, too, where PLASMOS_QT_WINDOWS names the folder of a
 # Qt 6 for mingw-w64; neither Debian nor npm has one.
 set -euo pipefail
 
@@ -45,8 +45,9 @@ made=$(comm -13 "$folder/before.txt" "$folder/after.txt" | sed "s|^$disk/||" | t
 echo "made on the disk: $made"
 [ "$made" = 'QX QX/Plasmo6 QX/Plasmo6/movefil.txt QX/Plasmo6/zynames.txt ' ]
 
-(cd "$folder" && cpack -G ZIP)
-unzip -l "$folder"/plasmos-*.zip 2>/dev/null | grep -q 'plasmos-sim.exe'
+rm -f "$folder"/*.zip
+(cd "$folder" && cpack -G ZIP >/dev/null)
+ls "$folder"/plasmos-sim-*.zip
 
 if [ -z "${PLASMOS_QT_WINDOWS:-}" ]; then
     echo "The window is not built: PLASMOS_QT_WINDOWS names no Qt 6 for mingw-w64, and Debian and npm have none."

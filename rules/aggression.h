@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#aggression
+
 namespace plasmos {
 
 /// The aggression step: amoebas whose damage has reached its limit die and become food; then at most

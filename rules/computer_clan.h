@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#computer-clans
+
 namespace plasmos {
 
 // What a computer clan decides. The phases ask here, in the places where they would ask a person, and know

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#feeding
+
 #include "model/game_state.h"
 
 namespace plasmos {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#aggression
+
 namespace plasmos {
 
 /// An attack made in order to eat, by the current amoeba of clan `attacker`; it serves persons and

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#movement
+
 #include "model/game_state.h"
 #include "model/happening.h"
 

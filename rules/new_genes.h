@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#new-genes
+
 namespace plasmos {
 
 /// Each clan may buy genes with its BP: a person in the gene dialog, box by box, a computer clan by

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// The rules of it: docs/rules.md#the-board-and-its-pieces
+
 #include <bit>
 #include <cstdint>
 #include <vector>
