@@ -99,6 +99,7 @@ HandbookPage::HandbookPage(QWidget* parent) : QTextBrowser(parent) {
     setObjectName(QStringLiteral("bookpage"));
     setAccessibleName(QStringLiteral("The handbook"));
     setOpenLinks(false);
+    setWordWrapMode(QTextOption::WordWrap);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     WearLetters(*this, Pixels);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { Follow(link); });

@@ -5,6 +5,7 @@
 #include "ui/window/handbook.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QDialog>
 #include <QDir>
 #include <QListWidget>
@@ -109,15 +110,25 @@ class HandbookTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void cleanup() { WantScheme(std::nullopt); }
+    void initTestCase() { font_ = QApplication::font(); }
+    void cleanup() {
+        WantScheme(std::nullopt);
+        QApplication::setFont(font_);
+    }
     void opensByKeyAndByMenu();
     void everyPageIsShown_data();
     void everyPageIsShown();
     void followsTheColoursWhileItIsOpen();
+    void followsTheLettersWhileItIsOpen();
+    void isReadInASmallWindow();
+    void everyKeyOfTheMenusIsTold();
     void linksLeadOnAndBack();
     void linksAreFollowedByKeys();
     void nothingElseIsOpened();
     void theGameGoesOn();
+
+private:
+    QFont font_;
 };
 
 void HandbookTest::opensByKeyAndByMenu() {
@@ -173,6 +184,50 @@ void HandbookTest::followsTheColoursWhileItIsOpen() {
     QCOMPARE(FaultsOf(*book.Page), QStringList());
     QCOMPARE(book.Page->document()->begin().begin().fragment().charFormat().foreground().color(), Shade(Tone::Ink));
     QCOMPARE(book.Page->File(), QStringLiteral("genes.md"));
+}
+
+void HandbookTest::followsTheLettersWhileItIsOpen() {
+    Scene scene;
+    scene.Menu(QStringLiteral("bookmen"));
+    const Book book(scene);
+    const int usual = book.Page->fontMetrics().height();
+    QFont large = QApplication::font();
+    large.setPointSize(20);
+    QApplication::setFont(large);
+    QVERIFY(book.Page->fontMetrics().height() > usual * 3 / 2);
+    QVERIFY(QFontMetrics(book.Page->document()->defaultFont()).height() > usual * 3 / 2);
+    book.KeepPictures(QStringLiteral("large"));
+}
+
+void HandbookTest::isReadInASmallWindow() {
+    Scene scene;
+    scene.Menu(QStringLiteral("bookmen"));
+    const Book book(scene);
+    book.Window->resize(560, 400);
+    for (const HandbookEntry& entry : HandbookPages()) {
+        book.Page->Open(entry.File);
+        const int wider = book.Page->horizontalScrollBar()->maximum();
+        QVERIFY2(wider < book.Page->viewport()->width() / 2, qPrintable(entry.File));
+        QCOMPARE(FaultsOf(*book.Page), QStringList());
+        book.KeepPictures(QStringLiteral("small-") + entry.File.chopped(3));
+    }
+}
+
+void HandbookTest::everyKeyOfTheMenusIsTold() {
+    Scene scene;
+    scene.Menu(QStringLiteral("bookmen"));
+    const Book book(scene);
+    book.Page->Open(QStringLiteral("window.md"));
+    const QString told = book.Page->toPlainText().replace(QStringLiteral("Ctrl+1 to Ctrl+4"),
+                                                          QStringLiteral("Ctrl+1 Ctrl+2 Ctrl+3 Ctrl+4"));
+    int keys = 0;
+    for (const QAction* item : scene.Board().findChildren<QAction*>()) {
+        QString key = item->shortcut().toString(QKeySequence::PortableText);
+        key.replace(QStringLiteral("Pg"), QStringLiteral("Page "));
+        QVERIFY2(told.contains(key), qPrintable(item->objectName()));
+        keys += key.isEmpty() ? 0 : 1;
+    }
+    QVERIFY(keys > 15);
 }
 
 void HandbookTest::linksLeadOnAndBack() {
