@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flow/personalities.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <iterator>
 
 #include "model/dice.h"
@@ -81,6 +84,11 @@ void DealPersonalities() {
             game.Players[clan].Personality &= WithoutEater;
         }
     }
+}
+
+bool IsPersonality(std::string_view name) {
+    return std::any_of(std::begin(Cards), std::end(Cards),
+                       [name](const Personality& card) { return card.Name == name; });
 }
 
 }  // namespace plasmos

@@ -26,9 +26,15 @@ void MakeFolderAgain() {
 }
 
 void AppendWithPatience(std::string_view file, const std::string& text) {
+    WriteWithPatience([&] { services.Files->Append(file, text); });
+}
+
+}  // namespace
+
+void WriteWithPatience(const std::function<void()>& write) {
     for (int tried = 1;; ++tried) {
         try {
-            services.Files->Append(file, text);
+            write();
             return;
         } catch (const RuntimeError&) {
             if (tried == Tries) {
@@ -39,8 +45,6 @@ void AppendWithPatience(std::string_view file, const std::string& text) {
         MakeFolderAgain();
     }
 }
-
-}  // namespace
 
 void WriteTrace(std::string_view text, std::string_view kind) {
     if (!TracesAreKept() || kind == "crt") {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ inline bool TracesAreKept() {
 /// A line that fails is tried three times, 50 ms apart, before it is an error; a data folder that is gone
 /// is made again in between.
 void WriteTrace(std::string_view text, std::string_view kind);
+
+/// Writes to the game's files with the patience of a trace line.
+void WriteWithPatience(const std::function<void()>& write);
 
 /// Empties the move file.
 void EmptyMoveFile();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/held_files.h"
 
+#include <cstdio>
+
 #include "files/runtime_error.h"
 #include "model/trace.h"
 
@@ -22,19 +24,37 @@ void HeldFiles::Rewrite(std::string_view name, std::string_view text) {
     }
 }
 
-void HeldFiles::LetGo() {
+HeldFiles::~HeldFiles() {
+    const auto errors = held_.find(ErrorFile);
+    if (holds_ && errors != held_.end()) {
+        try {
+            Write(ErrorFile, errors->second);
+        } catch (const RuntimeError& error) {
+            std::fprintf(stderr, "%s\n%s", error.what(), errors->second.Text.c_str());
+        }
+    }
+}
+
+void HeldFiles::Write(std::string_view name, const Held& held) const {
+    WriteWithPatience([&] { held.Whole ? files_->Rewrite(name, held.Text) : files_->Append(name, held.Text); });
+}
+
+std::string HeldFiles::LetGo() {
+    std::string fault;
     if (!holds_) {
-        return;
+        return fault;
     }
     holds_ = false;
     for (const auto& [name, held] : held_) {
         try {
-            held.Whole ? files_->Rewrite(name, held.Text) : files_->Append(name, held.Text);
+            Write(name, held);
         } catch (const RuntimeError& error) {
             AppendErrorRecord(error, 0, 0);
+            fault = error.what();
         }
     }
     held_.clear();
+    return fault;
 }
 
 }  // namespace plasmos

@@ -14,8 +14,14 @@ class HeldFiles : public GameFiles {
 public:
     explicit HeldFiles(GameFiles& files) : files_(&files) {}
 
-    /// Writes what was held; from now on everything is written as it comes. What fails is recorded as an error.
-    void LetGo();
+    /// A game that broke down before has told its errors all the same.
+    ~HeldFiles() override;
+    HeldFiles(const HeldFiles&) = delete;
+    HeldFiles& operator=(const HeldFiles&) = delete;
+
+    /// Writes what was held; from now on everything is written as it comes. What fails is recorded as an error, and
+    /// comes back as one line; empty: nothing did.
+    std::string LetGo();
 
     std::string PathOf(std::string_view name) const override { return files_->PathOf(name); }
     std::string GamesFolder() const override { return files_->GamesFolder(); }
@@ -32,6 +38,8 @@ private:
         bool Whole = false;  ///< what stood there before is gone
         std::string Text;
     };
+
+    void Write(std::string_view name, const Held& held) const;
 
     GameFiles* files_;
     bool holds_ = true;

@@ -90,7 +90,7 @@ void Play(const GameRecord& record, Observer* listener, PlayedRecord& played) {
         played.Fault = fault.Text;
         played.State = game;
     } catch (const ProgramEnd&) {
-        NoteBroken(player, "a run-time error ended it, as the error record tells", played);
+        NoteBroken(player, "a run-time error ended it", played);
     } catch (const std::exception& error) {
         NoteBroken(player, error.what(), played);
     }

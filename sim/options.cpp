@@ -6,8 +6,10 @@
 #include <map>
 #include <thread>
 
+#include "files/version.h"
 #include "model/board_size.h"
 #include "model/dice.h"
+#include "model/rules_version.h"
 
 namespace plasmos {
 
@@ -16,6 +18,7 @@ namespace {
 constexpr std::int64_t MostGames = 16000000;
 constexpr std::int64_t BenchGames = 20000;
 constexpr int MostJobs = 256;
+constexpr int MostMerged = 10000;
 constexpr std::int64_t LargestSeed = 1000000000000000000;
 /// From here on singles skip whole numbers, and games would be played twice.
 constexpr double ReplayBound = 16777216;
@@ -89,6 +92,19 @@ void CheckRecord(const CLI::App& app) {
     }
 }
 
+/// Results tell all of their games.
+void CheckMerge(const CLI::App& app) {
+    if (app.count("--merge") == 0) {
+        return;
+    }
+    for (const CLI::Option* other : app.get_options()) {
+        const auto name = other->get_name();
+        if (other->count() != 0 && name != "--merge" && name != "--format" && name != "--output") {
+            throw UsageError(Concat(name, ": --merge plays no games; only --format and --output go with it"));
+        }
+    }
+}
+
 /// What is typed in words and read afterwards.
 struct TypedWords {
     std::string Replay = "1";
@@ -128,6 +144,8 @@ void AddRunOptions(CLI::App& app, SimOptions& options, TypedWords& words) {
     app.add_option("--data", options.Data, "data folder to keep trace files in (one job only)");
     app.add_option("--records", options.Records, "folder for the record of every game, REPLAY.plasmos");
     app.add_option("--record", options.Record, "plays this one record instead of games");
+    app.add_option("--merge", options.Merge, "adds up these json results of runs with the same settings")
+        ->expected(1, MostMerged);
     app.add_flag("--bench", options.Bench, "plays the fixed signature set and prints one line");
     app.add_flag("--check", options.Check, "looks through the whole state after every step");
     app.add_option("--progress", words.Progress, "auto, always or never (default auto)")
@@ -139,6 +157,8 @@ void ReadCommandLine(CLI::App& app, int argc, const char* const* argv) {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
         throw HelpWanted{app.help()};
+    } catch (const CLI::CallForVersion&) {
+        throw HelpWanted{app.version() + "\n"};
     } catch (const CLI::ParseError& error) {
         throw UsageError(OneLine(error.what()) + " (plasmos-sim --help tells what is allowed)");
     }
@@ -182,6 +202,8 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     SimOptions options;
     TypedWords words;
     CLI::App app("Plays games of Plasmos without a window.", "plasmos-sim");
+    app.set_version_flag("--version", Concat("plasmos-sim ", ProgramVersion, " (rules ", RulesVersion, ")"),
+                         "Print the versions of the program and of the rules and exit");
     AddGameOptions(app, options, words);
     AddRunOptions(app, options, words);
     ReadCommandLine(app, argc, argv);
@@ -193,6 +215,7 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     }
     CheckRecord(app);
     CheckBench(app);
+    CheckMerge(app);
     if (!options.Record.empty()) {
         options.Games = 1;
     }
@@ -200,6 +223,18 @@ SimOptions ParseOptions(int argc, const char* const* argv) {
     CheckReplay(options);
     CheckJobs(options, app.count("--jobs") != 0);
     return options;
+}
+
+std::string SettingsText(const SimOptions& options) {
+    if (!options.Record.empty()) {
+        return "the record of one game";
+    }
+    const auto clans =
+        options.Clans != 0 ? Concat(options.Clans) : std::string(options.Persons > 0 ? "asked" : "rolled");
+    const auto robot = options.Persons > 0 ? Concat(", robot ", options.Robot) : std::string();
+    const auto blocks = options.Blocks.empty() ? std::string() : Concat(" without ", options.Blocks);
+    return Concat("clans ", clans, ", persons ", options.Persons, robot, ", ", options.Normal ? "normal" : "easy",
+                  options.Victory ? ", victory at 42" : "", ", board ", options.Rows, " x ", options.Cols, blocks);
 }
 
 float ReplayOf(const SimOptions& options, std::int64_t index) {

@@ -29,11 +29,13 @@ std::string JsonRecord(const GameResult& result) {
     for (int clan = 1; clan <= result.Clans; ++clan) {
         const auto& entry = result.ByClan[clan];
         record["players"].push_back({{"personality", entry.Personality},
+                                     {"place", entry.StartPlace},
                                      {"score", entry.Score},
                                      {"amoebas", entry.Amoebas},
                                      {"genes", entry.Genes},
                                      {"bp", entry.BP}});
     }
+    record["settings"] = result.Settings;
     // The number is written as everywhere else: minus zero has its sign.
     return Concat(R"({"replay":)", ReplayText(result.Replay), ",", record.dump().substr(1), "\n");
 }

@@ -16,6 +16,7 @@
 #include "model/dice.h"
 #include "model/signature.h"
 #include "record/record_file.h"
+#include "sim/merge.h"
 #include "sim/options.h"
 #include "sim/output.h"
 #include "sim/progress_bar.h"
@@ -101,6 +102,15 @@ void CheckPlaces(const SimOptions& options) {
                            : IdentityOf(options.Journal).IsSameAs(IdentityOf(options.Output)));
     if (same) {
         RefuseOnePlaceForBoth(options);
+    }
+}
+
+/// What is read is not written to.
+void CheckMergedPlaces(const SimOptions& options) {
+    for (const std::string& path : options.Merge) {
+        if (!options.Output.empty() && IdentityOf(options.Output).IsSameAs(IdentityOf(path))) {
+            throw UsageError(Concat("--output: ", options.Output, " is one of the results that are added up"));
+        }
     }
 }
 
@@ -225,11 +235,33 @@ int RunRecord(const SimOptions& options) {
     return ExitCode(run.Play([&](const auto& take) { take(result); }));
 }
 
+/// Results that do not fit together leave the output as it was.
+int RunMerge(const SimOptions& options) {
+    CheckMergedPlaces(options);
+    Output output(options.Output, Interrupted);
+    ResultWriter writer(options.Format);
+    output.Write(writer.Begin());
+    MergeResults(options, [&](const GameResult& result) {
+        output.Write(writer.Add(result));
+        return !Interrupted();
+    });
+    if (Interrupted()) {
+        return ExitInterrupted;
+    }
+    output.Write(writer.End());
+    output.Finish();
+    output.Commit();
+    return 0;
+}
+
 int Run(int argc, const char* const* argv) {
     try {
         const SimOptions options = ParseOptions(argc, argv);
         if (!options.Record.empty()) {
             return RunRecord(options);
+        }
+        if (!options.Merge.empty()) {
+            return RunMerge(options);
         }
         return options.Bench ? RunBench(options) : RunGames(options);
     } catch (const HelpWanted& help) {

@@ -84,6 +84,12 @@ void ReadResult(GameResult& result) {
     ReadClans(result);
 }
 
+void NoteSettings(const SimOptions& options, GameResult& result) {
+    if (options.Format == ResultFormat::Json) {
+        result.Settings = SettingsText(options);
+    }
+}
+
 /// The errors of a game are collected instead of ending the program.
 void PlayCaught(const SimOptions& options, GameResult& result) {
     try {
@@ -136,6 +142,7 @@ GameResult SimulateGame(const SimOptions& options, std::int64_t index) {
     PlayCaught(options, result);
     services.Listener = nullptr;
     services.Window = nullptr;
+    NoteSettings(options, result);
     result.Journal = journal.Text();
     if (!options.Records.empty()) {
         result.Record = RecordText(recorder.Record());
@@ -167,6 +174,7 @@ GameResult SimulateRecord(const SimOptions& options, GameFiles* files) {
     } catch (const Finding& finding) {
         result.Fault = finding.Text;
     }
+    NoteSettings(options, result);
     result.Journal = journal.Text();
     return result;
 }

@@ -31,9 +31,10 @@ struct GameResult {
     std::int64_t Decisions = 0;
     std::uint64_t Signature = 0;
     Table<ClanResult, 0, MaxClans> ByClan;
-    std::string Journal;  ///< empty when none is wanted
-    std::string Record;   ///< likewise
-    std::string Fault;    ///< what ended the game or was found in it; empty: nothing
+    std::string Settings;  ///< what the run was played with, in words; empty where nobody asks
+    std::string Journal;   ///< empty when none is wanted
+    std::string Record;    ///< likewise
+    std::string Fault;     ///< what ended the game or was found in it; empty: nothing
 };
 
 /// Sets this thread's game up for a run: board, menu marks, clan count.

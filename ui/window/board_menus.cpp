@@ -138,7 +138,7 @@ void BoardMenus::Enable(bool playing, bool free, bool guided) {
 
 void BoardMenus::Hold(bool on) {
     for (QAction* item : {autoeat_men_, autoten_men_, fast_men_, easymen_, normmen_, victorymen_}) {
-        if (on && item->isEnabled()) {
+        if (on && playing_ && item->isEnabled()) {
             item->setEnabled(false);
             held_.append(item);
         }

@@ -120,8 +120,11 @@ void BoardPresentation::ShowEverything(std::string_view message, int clan) {
         ShowClan(each);
     }
     menus_->ShowMarks();
-    IsOver() ? menus_->DisableAutoEating() : menus_->EnableAutoEating();
+    menus_->EnableAutoEating();
     ShowCurrentClan(game.CurPlayer);
+    if (IsOver()) {
+        menus_->DisableAutoEating();
+    }
     ShowOrder();
     DrawBoard();
     ShowMessage(message, clan);

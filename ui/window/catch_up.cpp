@@ -42,6 +42,15 @@ void CatchUp::ShowCaption(std::string_view caption) {
     window_->ShowCaption(caption);
 }
 
+// The marks of the menu stay those of the last person who acted.
+void CatchUp::ShowCurrentClan(int clan) {
+    window_->ShowAutoFlags(clan);
+}
+
+void CatchUp::ShowAutoFlags(int clan) {
+    window_->ShowAutoFlags(clan);
+}
+
 void CatchUp::OutlinePiece(int clan, int amoeba, bool on) {
     outlinedClan_ = on ? clan : 0;
     outlined_ = on ? amoeba : 0;

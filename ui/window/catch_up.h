@@ -33,6 +33,8 @@ public:
     void ShowPhase(std::string_view phase) override;
     void ShowHappening(const Happening& happening) override;
     void ShowCaption(std::string_view caption) override;
+    void ShowCurrentClan(int clan) override;
+    void ShowAutoFlags(int clan) override;
     void OutlinePiece(int clan, int amoeba, bool on) override;
     void Open(Question& question) override;
     void Close(Question& question) override;

@@ -97,6 +97,10 @@ void HistoryDesk::Follow() {
     table_->Strip->Question->OfferWhy(records_->HasGame() && !records_->Recorder()->Reasons().empty());
 }
 
+void HistoryDesk::ShowNow() {
+    look_->Return();
+}
+
 void HistoryDesk::Forget() {
     look_->Return();
     records_->Forget();

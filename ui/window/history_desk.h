@@ -47,6 +47,8 @@ public:
     void Enable(bool guided);
     /// The same, as the game goes on.
     void Follow();
+    /// An earlier board is looked back at no longer.
+    void ShowNow();
     /// A game begins that is not written down, or the board is another one: the last game is past.
     void Forget();
     /// The game that was played is over, or was left.

@@ -138,13 +138,14 @@ void RecordDesk::Replay(Next next) {
     deeds_.BeginAfresh();
     CatchUp catchUp(record_.Inputs, *recorder_, *presentation_, next.Until);
     catchUp.OnHandedOver = [&] {
-        if (held) {
-            held->LetGo();
-        }
+        const std::string unwritten = held ? held->LetGo() : std::string();
         window_->setUpdatesEnabled(true);
         marksThen_ = game.Menu;
         deeds_.CaughtUp();
         Keep(next);
+        if (!unwritten.empty()) {
+            deeds_.Tell(ToQt(Concat("The traces of this game so far could not be written.\n", unwritten)));
+        }
         if (!catchUp.Fault().empty()) {
             deeds_.Tell(
                 ToQt(Concat("The game goes on from here: what came later cannot be played again.\n", catchUp.Fault())));

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "flow/start.h"
 #include "model/game_state.h"
 #include "record/play_record.h"
 #include "record/record_file.h"
@@ -47,6 +48,10 @@ bool RecordDesk::Open(const std::string& path) {
     const std::string kept = KeptPath(path);
     if (!kept.empty() && IsPlayedElsewhere(kept)) {
         deeds_.Tell(QStringLiteral("This game is being played already.\n%1").arg(ToQt(path)));
+        return false;
+    }
+    if (const auto refused = PrepareDataFolder(); !refused.empty()) {
+        deeds_.Tell(ToQt(refused));
         return false;
     }
     ReadRecord read = ReadRecordFile(path);

@@ -215,9 +215,9 @@ void UBoard::SetPlaying(bool playing) {
     } else {
         strip_->Start->txtReplay->clear();
         strip_->Start->txtReplay->show();
+        history_->GameIsOver();
         track_->Puddle()->OutlinePiece(0, 0, false);
         strip_->Clans->ShowCurrentClan(0);
-        history_->GameIsOver();
         results_->Show(played && !guided_ && history_->CountsNow(), IsWaiting());
     }
     strip_->SetPlaying(playing);
@@ -253,6 +253,7 @@ void UBoard::ShowState(const GameState& state) {
 void UBoard::ClearBoard() {
     ResetTables();
     track_->Puddle()->Settle();
+    track_->Puddle()->OutlinePiece(0, 0, false);
     track_->BoardChanged();
     strip_->Environment->Clear();
     strip_->Clans->ShowAll();

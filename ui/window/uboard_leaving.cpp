@@ -22,11 +22,15 @@ bool UBoard::AsksBeforeLeaving() const {
 }
 
 void UBoard::LeaveGame() {
-    if (playing_ && !AsksBeforeLeaving()) {
+    const auto leave = [this] {
+        history_->ShowNow();
         desk_->LeaveGame();
+    };
+    if (playing_ && !AsksBeforeLeaving()) {
+        leave();
     } else if (playing_) {
         guard_->Ask(QStringLiteral("Leave this game? It cannot be taken up again."), QStringLiteral("&Leave"),
-                    QStringLiteral("&Stay"), [this] { desk_->LeaveGame(); });
+                    QStringLiteral("&Stay"), leave);
     }
 }
 

@@ -44,6 +44,8 @@ private slots:
     void halfALineIsWhereThePowerWent();
     void aKeptGameByAnotherWay();
     void theOldestOfTenIsOpenedFromAnEleventh();
+    void theMarksOfWhatIsAutomaticAreItsOwn();
+    void withoutADataFolderNoneIsOpened();
     void aGameCountsOnce();
     void aGameCountsThatIsLeftAtItsWinnersBox();
 
@@ -171,8 +173,7 @@ void KeptRecordsTest::theOldestOfTenIsOpenedFromAnEleventh() {
     for (int number = 1; number <= 10; ++number) {
         LeaveOne(scene, static_cast<float>(number));
     }
-    QStringList names = Kept(scene);
-    QCOMPARE(names.size(), 10);
+    QCOMPARE(Kept(scene).size(), 10);
     const QString oldest = ToQt(KeptGames(scene.Files().GamesFolder()).back().Path);
     Deal(11);
     bool there = false;
@@ -189,6 +190,59 @@ void KeptRecordsTest::theOldestOfTenIsOpenedFromAnEleventh() {
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QVERIFY(opened && there);
+}
+
+/// One game is left in which the person's amoebas eat by themselves, and another in which they do not.
+void KeptRecordsTest::theMarksOfWhatIsAutomaticAreItsOwn() {
+    Scene scene;
+    const auto eating = [&] { return scene.Item(QStringLiteral("autoeat_men"))->isChecked(); };
+    const auto leaveInTheFirstTurn = [&](float replay, bool eats) {
+        Deal(replay);
+        scene.AnswerBy([&, eats](Question& question) {
+            if (game.Turn == 0 || question.Kind == QuestionKind::Box || game.CurPlayer != 3) {
+                scene.Player().Answer(question);
+                return;
+            }
+            if (eats) {
+                scene.Menu(QStringLiteral("autoeat_men"));
+            }
+            QCOMPARE(eating(), eats);
+            scene.LeaveGame();
+        });
+        PLAY(scene, scene.Click(QStringLiteral("gob")));
+    };
+    leaveInTheFirstTurn(5, true);
+    const QString eats = KeptPath(scene);
+    leaveInTheFirstTurn(6, false);
+    int opened = 0;
+    scene.AnswerBy([&](Question&) {
+        ++opened;
+        QCOMPARE(eating(), game.ReplayNo == 5);
+        QVERIFY(scene.Item(QStringLiteral("autoeat_men"))->isEnabled());
+        scene.LeaveGame();
+    });
+    const auto both = [&] {
+        scene.Board().OpenGame(eats);
+        QTRY_VERIFY(opened == 1 && !scene.Board().Playing());
+        scene.Board().OpenGame(GamesOf(scene).filePath(Kept(scene).last()));
+        QTRY_VERIFY(opened == 2 && !scene.Board().Playing());
+    };
+    PLAY(scene, both());
+}
+
+void KeptRecordsTest::withoutADataFolderNoneIsOpened() {
+    Scene scene;
+    LeaveOne(scene, 5);
+    const QTemporaryDir away;
+    QDir folder(ToQt(scene.Files().PathOf("")));
+    QVERIFY(QFile::copy(KeptPath(scene), away.filePath(QStringLiteral("saved.plasmos"))));
+    QVERIFY(folder.removeRecursively());
+    QFile inTheWay(folder.absolutePath());
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    scene.Board().OpenGame(away.filePath(QStringLiteral("saved.plasmos")));
+    const auto* box = scene.Board().findChild<QMessageBox*>();
+    QVERIFY(box != nullptr && box->text().startsWith(QStringLiteral("The data folder cannot be made.")));
+    QVERIFY(!scene.Board().Playing());
 }
 
 /// Played to its end, taken back, left, resumed and played to its end again.

@@ -24,6 +24,7 @@ private slots:
     void theBarIsPressed();
     void nothingCanBeChangedThere();
     void onFromHere();
+    void leftWhileLookingBack();
     void linesOfTheLogLeadToTheirMoment();
     void keysOfWhatPagesItself();
     void nothingOfTheLastGameInAGuidedOne();
@@ -151,6 +152,20 @@ void LookBackTest::onFromHere() {
     });
     PLAY(scene, scene.Click(QStringLiteral("gob")));
     QVERIFY(gone);
+}
+
+void LookBackTest::leftWhileLookingBack() {
+    Scene scene;
+    PlayTo(scene, 24, [&](Question&) {
+        Press(scene, Qt::Key_PageUp);
+        QVERIFY(LooksBack(scene));
+        scene.LeaveGame();
+    });
+    PLAY(scene, scene.Click(QStringLiteral("gob")));
+    QVERIFY(!LooksBack(scene));
+    QVERIFY2(scene.Puddle().Outlined().Clan == 0, "nobody acts any more");
+    QVERIFY2(!scene.Item(QStringLiteral("autoeat_men"))->isEnabled(), "there is no game to eat in");
+    QVERIFY(scene.Item(QStringLiteral("victorymen"))->isEnabled());
 }
 
 void LookBackTest::linesOfTheLogLeadToTheirMoment() {
