@@ -16,6 +16,7 @@
 #include "flow/scoring.h"
 #include "model/gene_texts.h"
 #include "rules/menus.h"
+#include "sim/options.h"
 #include "tests/support/game_fixture.h"
 
 namespace plasmos::testing {
@@ -220,6 +221,23 @@ TEST_F(Handbook, TheScoresAreThoseOfTheGame) {
     EXPECT_EQ(rows, (std::vector<Row>{cells(4, false), cells(6, false), cells(4, true)}));
     EXPECT_EQ(cells(3, false), cells(4, false));
     EXPECT_EQ(cells(5, false), cells(6, false));
+}
+
+TEST_F(Handbook, TheOptionsAreThoseOfTheSimulator) {
+    std::string help;
+    const char* const arguments[] = {"plasmos-sim", "--help"};
+    try {
+        ParseOptions(2, arguments);
+    } catch (const HelpWanted& wanted) {
+        help = wanted.Text;
+    }
+    const auto told = Matches(Page("simulator.md"), "(--[a-z]+)");
+    EXPECT_GT(told.size(), 15u);
+    for (const std::string& option : told) {
+        EXPECT_TRUE(help.find(option + " ") != std::string::npos || help.find(option + ":") != std::string::npos ||
+                    help.find(option + "\n") != std::string::npos)
+            << option;
+    }
 }
 
 TEST_F(Handbook, EveryPageIsInTheContents) {
