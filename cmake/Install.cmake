@@ -25,15 +25,16 @@ function(plasmos_install_packed component folder file name)
     install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-# The simulator.
-install(TARGETS plasmos-sim DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
-plasmos_install_packed(simulator ${CMAKE_INSTALL_MANDIR}/man6 ${PROJECT_SOURCE_DIR}/packaging/man/plasmos-sim.6
-    plasmos-sim.6)
-install(FILES packaging/completion/plasmos-sim DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-    COMPONENT simulator)
-set(plasmos_documents simulator:plasmos-sim)
+set(plasmos_documents)
+if(PLASMOS_SIMULATOR)
+    install(TARGETS plasmos-sim DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
+    plasmos_install_packed(simulator ${CMAKE_INSTALL_MANDIR}/man6 ${PROJECT_SOURCE_DIR}/packaging/man/plasmos-sim.6
+        plasmos-sim.6)
+    install(FILES packaging/completion/plasmos-sim DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+        COMPONENT simulator)
+    list(APPEND plasmos_documents simulator:plasmos-sim)
+endif()
 
-# The game.
 if(PLASMOS_WINDOW)
     install(TARGETS plasmos DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT game)
     plasmos_install_packed(game ${CMAKE_INSTALL_MANDIR}/man6 ${PROJECT_SOURCE_DIR}/packaging/man/plasmos.6 plasmos.6)

@@ -12,9 +12,12 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 
-set(CPACK_COMPONENTS_ALL simulator)
+set(CPACK_COMPONENTS_ALL)
 if(PLASMOS_WINDOW)
-    list(PREPEND CPACK_COMPONENTS_ALL game)
+    list(APPEND CPACK_COMPONENTS_ALL game)
+endif()
+if(PLASMOS_SIMULATOR)
+    list(APPEND CPACK_COMPONENTS_ALL simulator)
 endif()
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -26,16 +29,17 @@ set(CPACK_DEBIAN_GAME_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-qpa-plugins, qt
 set(CPACK_DEBIAN_GAME_PACKAGE_SUGGESTS plasmos-sim)
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_NAME plasmos-sim)
 set(CPACK_DEBIAN_GAME_DESCRIPTION "clans of amoebas live, divide and fight in a puddle
- Three to six clans of amoebas live in a puddle. They drift with the current,
- eat what the other clans leave, adapt to the UV light, buy genes, divide and
- fight. One or two clans are yours; the computer plays the others, each with a
- character of its own.
- .
- Answers can be taken back, earlier turns looked back at, and a game that was
- left is gone on with later. It can be played by the mouse, by keys and by ear.")
+Three to six clans of amoebas live in a puddle. They drift with the current,
+eat what the other clans leave, adapt to the UV light, buy genes, divide and
+fight. One or two clans are yours; the computer plays the others, each with a
+character of its own.
+
+Answers can be taken back, earlier turns looked back at, and a game that was
+left is gone on with later. It can be played by the mouse, by keys and by ear.")
 set(CPACK_DEBIAN_SIMULATOR_DESCRIPTION "games of Plasmos without a window
- Plays games of Plasmos, thousands in a second, and tells who wins and why. It
- writes what happens in them step by step, and plays a game again from its
- record.")
+Plays games of Plasmos, thousands in a second, and tells who wins and why. It
+writes what happens in them step by step, and plays a game again from its
+record.")
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/DebianGames.cmake)
 
 include(CPack)

@@ -37,6 +37,15 @@ ci       at-spi2-core        the accessibility bus, for the game by ear
 ci       python3-gi          talks over them
 ci       ccache              makes second builds quick
 ci       python3             draws the rooms
+ci       desktop-file-utils  looks at the desktop entry
+ci       appstream           looks at what software centres read
+ci       mandoc              looks at the manual pages
+ci       man-db              shows them
+ci       shared-mime-info    makes the type of records known
+ci       libglib2.0-bin      asks for the type of a file
+ci       dpkg-dev            finds what the packages depend on
+ci       lintian             looks at the packages
+ci       parallel            spreads games over workers
 wayland  qt6-wayland         a window where there is Wayland and no X server
 long     mingw-w64           builds the program for Windows
 long     wine64              runs it there

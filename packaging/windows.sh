@@ -2,7 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # The long form for Windows: cross-compiles core and simulator (mingw-w64), runs them under Wine,
-# compares the signature with this system's, and looks where the trace files lie.
+# compares the signature with this system's, looks where the trace files lie, and packs the simulator
+# (build/windows/plasmos-*.zip). The window is built, too, where PLASMOS_QT_WINDOWS names the folder of a
+# Qt 6 for mingw-w64; neither Debian nor npm has one.
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -42,3 +44,15 @@ find "$disk" | sort >"$folder/after.txt"
 made=$(comm -13 "$folder/before.txt" "$folder/after.txt" | sed "s|^$disk/||" | tr '\n' ' ')
 echo "made on the disk: $made"
 [ "$made" = 'QX QX/Plasmo6 QX/Plasmo6/movefil.txt QX/Plasmo6/zynames.txt ' ]
+
+(cd "$folder" && cpack -G ZIP)
+unzip -l "$folder"/plasmos-*.zip 2>/dev/null | grep -q 'plasmos-sim.exe'
+
+if [ -z "${PLASMOS_QT_WINDOWS:-}" ]; then
+    echo "The window is not built: PLASMOS_QT_WINDOWS names no Qt 6 for mingw-w64, and Debian and npm have none."
+    exit 0
+fi
+cmake -S "$root" -B "$folder-window" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_SYSTEM_NAME=Windows \
+    -DCMAKE_CXX_COMPILER=x86_64-w64-mingw32-g++-posix -DCMAKE_PREFIX_PATH="$PLASMOS_QT_WINDOWS" -DQT_HOST_PATH=/usr \
+    -DPLASMOS_TESTS=OFF -DPLASMOS_SIMULATOR=OFF >/dev/null
+cmake --build "$folder-window" --target plasmos

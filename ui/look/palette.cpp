@@ -151,6 +151,9 @@ QString LookSheet() {
 void PrepareApplication() {
     QApplication::setOrganizationName(QStringLiteral("QX"));
     QApplication::setApplicationName(QStringLiteral("Plasmos"));
+    const QString id = QStringLiteral("org.plasmos.Plasmos");  // as the desktop entry and the icons are called
+    QGuiApplication::setDesktopFileName(id);
+    QApplication::setWindowIcon(QIcon::fromTheme(id));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
