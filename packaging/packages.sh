@@ -50,6 +50,7 @@ wayland  qt6-wayland         a window where there is Wayland and no X server
 long     mingw-w64           builds the program for Windows
 long     wine64              runs it there
 long     wine                the command that finds it
+long     imagemagick         makes the handbook's pictures small
 long     valgrind            a slow look at every memory access
 LIST
 }

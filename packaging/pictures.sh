@@ -40,4 +40,25 @@ take resume-light-1320x860 --at resume --replay 5
 take resume-light-940x640 --at resume --replay 5 --size 940x640
 take end-light-940x640 --at end --replay 13 --clans 6 --size 940x640
 take end-light-1320x860 --at end --replay 13 --clans 4
+
+# The handbook's: as wide as its window shows them, and small, for the program has them with it.
+book=$root/docs/handbook/pictures
+command -v mogrify -strip +dither -colors 256 -define png:compression-level=9 "$book"/*.png
+take_for_book() {
+    local name=$1
+    shift
+    QT_QPA_PLATFORM=xcb xvfb-run -a -s '-screen 0 1600x1200x24' "$shot" "$book/$name.png" --size 900x640 "$@" 2>/dev/null
+    echo "$name"
+}
+mkdir -p "$book"
+take_for_book start --at start --replay 5 --clans 4
+take_for_book turn
+take_for_book meal --at meal --replay 5 --clans 4
+take_for_book genes --at genes --replay 5 --clans 4
+take_for_book adapt --at adapt --replay 12 --clans 4
+take_for_book attack --at attack --replay 13 --clans 4
+take_for_book look-back --at look --replay 5
+take_for_book end --at end --replay 13 --clans 4
+QT_QPA_PLATFORM=xcb xvfb-run -a "$shot" --boards "$book" 2>/dev/null
+mogrify -strip +dither -colors 256 -define png:compression-level=9 "$book"/*.png
 cp "$pictures/turn-light-1320x860.png" "$root/docs/picture.png"

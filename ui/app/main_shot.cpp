@@ -22,8 +22,10 @@
 #include "model/game_state.h"
 #include "model/services.h"
 #include "ui/app/auto_person.h"
+#include "ui/app/sample_boards.h"
 #include "ui/app/scale_factors.h"
 #include "ui/app/shot_moments.h"
+#include "ui/app/shot_wish.h"
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
@@ -33,17 +35,6 @@ namespace {
 using namespace plasmos;
 
 constexpr int LastDemoTurn = LastTurn;
-
-struct Wish {
-    QString File;
-    QString Folder;
-    float Replay = 4711;
-    QSize Size{1320, 860};
-    std::optional<Scheme> Colours;
-    int Points = 0;  ///< of the desktop's letters; 0: as they are
-    int Clans = 0;   ///< 0: as the person chooses
-    const ShotMoment* At = ShotMomentNamed(QStringLiteral("turn"));
-};
 
 /// A window that takes pictures of itself.
 class DemoBoard : public UBoard {
@@ -100,70 +91,10 @@ int Refuse(const char* why) {
     std::fprintf(stderr,
                  "plasmos-shot: %s; "
                  "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] "
-                 "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|look|why|resume|end] | "
-                 "--demo FOLDER\n",
+                 "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|look|why|resume|start|end] | "
+                 "--demo FOLDER | --boards FOLDER\n",
                  why);
     return 2;
-}
-
-bool ReadSize(const QString& text, QSize& size) {
-    const QStringList sides = text.split(QLatin1Char('x'));
-    bool width = false;
-    bool height = false;
-    if (sides.size() == 2) {
-        size = QSize(sides[0].toInt(&width), sides[1].toInt(&height));
-    }
-    return width && height && size.width() >= 300 && size.height() >= 200 && size.width() <= 8000 &&
-           size.height() <= 8000;
-}
-
-/// Takes the value of an option into a wish; what is wrong with it, or nullptr.
-const char* TakeOption(const QString& option, const QString& value, Wish& wish) {
-    if (option == QLatin1String("--replay")) {
-        return ParseReplayNumber(value.toStdString(), wish.Replay) ? nullptr : "the replay number is no number";
-    }
-    if (option == QLatin1String("--size")) {
-        return ReadSize(value, wish.Size) ? nullptr : "the size is no size";
-    }
-    if (option == QLatin1String("--colours")) {
-        wish.Colours = SchemeNamed(value);
-        return wish.Colours ? nullptr : "the colours are light, dark or contrast";
-    }
-    if (option == QLatin1String("--points")) {
-        wish.Points = value.toInt();
-        return wish.Points >= 6 && wish.Points <= 30 ? nullptr : "letters have 6 to 30 points";
-    }
-    if (option == QLatin1String("--clans")) {
-        wish.Clans = value.toInt();
-        return wish.Clans >= MinClans && wish.Clans <= MaxClans ? nullptr : "there are 3 to 6 clans";
-    }
-    if (option == QLatin1String("--at")) {
-        wish.At = ShotMomentNamed(value);
-        return wish.At != nullptr ? nullptr : "there is no such moment";
-    }
-    wish.Folder = value;
-    return option == QLatin1String("--demo") ? nullptr : "unknown argument";
-}
-
-/// What is wanted; nothing where the arguments make no sense, with the reason in `why`.
-std::optional<Wish> ReadWish(const QStringList& arguments, const char*& why) {
-    Wish wish;
-    why = nullptr;
-    for (qsizetype i = 0; i < arguments.size() && why == nullptr; ++i) {
-        const QString& argument = arguments[i];
-        if (argument.startsWith(QLatin1String("--"))) {
-            why = i + 1 < arguments.size() ? TakeOption(argument, arguments[i + 1], wish) : "a value is missing";
-            ++i;
-        } else if (!wish.File.isEmpty()) {
-            why = "unknown argument";
-        } else {
-            wish.File = argument;
-        }
-    }
-    if (why == nullptr && wish.File.isEmpty() == wish.Folder.isEmpty()) {
-        why = "one file or one folder is wanted";
-    }
-    return why == nullptr ? std::optional(wish) : std::nullopt;
 }
 
 /// What a person sees: the window, and what is open above it.
@@ -224,11 +155,15 @@ int TakeShot(const Wish& wish) {
     return saved ? 0 : 1;
 }
 
-int PlayDemo(const Wish& wish) {
-    if (!QDir().mkpath(wish.Folder)) {
-        std::fprintf(stderr, "plasmos-shot: the folder %s cannot be made\n", qPrintable(wish.Folder));
-        return 1;
+int PaintBoards(const Wish& wish) {
+    if (PaintSampleBoards(wish.Folder)) {
+        return 0;
     }
+    std::fprintf(stderr, "plasmos-shot: a picture in %s cannot be written\n", qPrintable(wish.Folder));
+    return 1;
+}
+
+int PlayDemo(const Wish& wish) {
     DemoBoard board(wish.Folder);
     board.SetSpeed(0);
     board.resize(wish.Size);
@@ -250,6 +185,14 @@ int PlayDemo(const Wish& wish) {
         std::fputs("plasmos-shot: standard output cannot be written\n", stderr);
     }
     return board.Failed() || !told ? 1 : 0;
+}
+
+int FillFolder(const Wish& wish) {
+    if (!QDir().mkpath(wish.Folder)) {
+        std::fprintf(stderr, "plasmos-shot: the folder %s cannot be made\n", qPrintable(wish.Folder));
+        return 1;
+    }
+    return wish.Boards ? PaintBoards(wish) : PlayDemo(wish);
 }
 
 }  // namespace
@@ -288,5 +231,5 @@ int main(int argc, char** argv) {
     game.HasRequestedReplay = true;
     game.RequestedReplay = wish->Replay;
     game.RequestedClans = wish->Clans;
-    return wish->Folder.isEmpty() ? TakeShot(*wish) : PlayDemo(*wish);
+    return wish->Folder.isEmpty() ? TakeShot(*wish) : FillFolder(*wish);
 }

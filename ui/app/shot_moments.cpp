@@ -26,6 +26,7 @@ constexpr int PhasesBack = 8;
 
 constexpr ShotMoment Moments[] = {
     {"turn", IsTurnOfPicture},
+    {"start", [](const Question&) { return true; }},
     {"look", IsTurnOfPicture, "earliermen", PhasesBack},
     {"why", IsTurnOfPicture, "whymen"},
     {"resume", IsTurnOfPicture, "leavemen", 1, true},

@@ -16,8 +16,8 @@ struct ShotMoment {
     bool Ends = false;  ///< the game ends with that, and the picture is taken afterwards
 };
 
-/// The moment of a name: turn, meal, genes, adapt, birth, attack, victim, look, why, resume, or end, which no question
-/// is; another name: nullptr.
+/// The moment of a name: start, turn, meal, genes, adapt, birth, attack, victim, look, why, resume, or end, which no
+/// question is; another name: nullptr.
 const ShotMoment* ShotMomentNamed(const QString& name);
 
 }  // namespace plasmos

@@ -195,6 +195,7 @@ constexpr KeyRow Keys[] = {
     {"Ctrl+1 to Ctrl+4", "the pace: slow, normal, fast, instant"},
     {"F8", "pause, and on again"},
     {"F9", "one step, while paused"},
+    {"F1", "the handbook"},
     {"F2", "the signs on the board"},
     {"F3", "these keys"},
     {"Ctrl+Q", "quit"},

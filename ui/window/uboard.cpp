@@ -29,6 +29,7 @@
 #include "ui/window/board_menus.h"
 #include "ui/window/guide_bar.h"
 #include "ui/window/guide_desk.h"
+#include "ui/window/handbook.h"
 #include "ui/window/history_desk.h"
 #include "ui/window/leave_guard.h"
 #include "ui/window/legend.h"
@@ -118,8 +119,8 @@ void UBoard::BuildView() {
         *this, ViewMenus::Deeds{[this](Pace pace) { desk_->SetPace(static_cast<int>(pace)); },
                                 [this](bool on) { desk_->Hold(on); }, [this] { desk_->Step(); },
                                 [this](bool on) { desk_->SetMotion(on); }, [this] { guide_Click(); },
-                                [this] { ShowSigns(*this); }, [this] { ShowKeys(*this); },
-                                [this](const QString& text) { ShowNotice(*this, text); }});
+                                [this] { ShowHandbook(*this); }, [this] { ShowSigns(*this); },
+                                [this] { ShowKeys(*this); }, [this](const QString& text) { ShowNotice(*this, text); }});
     view_->Load();
 }
 

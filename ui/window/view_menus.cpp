@@ -123,6 +123,8 @@ void ViewMenus::BuildPace(QMenu* view) {
 void ViewMenus::BuildHelp() {
     QMenu* help = window_->menuBar()->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("help_men"));
+    QAction* book = AddItem(help, "bookmen", QStringLiteral("Hand&book"), QStringLiteral("F1"));
+    connect(book, &QAction::triggered, this, [this] { deeds_.ShowHandbook(); });
     guidemen_ = AddItem(help, "guidemen", QStringLiteral("Show me &How"), {});
     connect(guidemen_, &QAction::triggered, this, [this] { deeds_.Guide(); });
     QAction* signs = AddItem(help, "signsmen", QStringLiteral("&Signs on the Board"), QStringLiteral("F2"));

@@ -24,6 +24,7 @@ public:
         std::function<void()> Step;         ///< what is held goes on to the next pause
         std::function<void(bool on)> SetMotion;
         std::function<void()> Guide;  ///< plays the guided game
+        std::function<void()> ShowHandbook;
         std::function<void()> ShowSigns;
         std::function<void()> ShowKeys;
         std::function<void(const QString& text)> Tell;  ///< a box for the person

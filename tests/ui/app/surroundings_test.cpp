@@ -4,7 +4,9 @@
 
 #include <sys/stat.h>
 
+#include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include "tests/ui/support/program.h"
@@ -26,6 +28,7 @@ private slots:
     void aTerminalThatMayGo();
     void closedStreams();
     void picturesOnAFullOutput();
+    void theSampleBoardsAreWritten();
 };
 
 namespace {
@@ -148,6 +151,23 @@ void SurroundingsTest::picturesOnAFullOutput() {
                    QStringLiteral(PLASMOS_SHOT), home.path()});
     program.Ends(1);
     QVERIFY(QFile::exists(home.path() + QStringLiteral("/pictures/last.png")));
+}
+
+void SurroundingsTest::theSampleBoardsAreWritten() {
+    const QTemporaryDir home;
+    Program program(home.path());
+    program.Start(QStringLiteral(PLASMOS_SHOT), {QStringLiteral("--boards"), home.path() + QStringLiteral("/boards")});
+    program.Ends(0);
+    const QDir boards(home.path() + QStringLiteral("/boards"));
+    const QDir book(QStringLiteral(PLASMOS_SOURCES "/docs/handbook/pictures"));
+    QVERIFY(boards.count() > 15);
+    for (const QString& file : boards.entryList(QDir::Files)) {
+        QVERIFY2(book.exists(file), qPrintable(file));
+        QCOMPARE(QImage(boards.filePath(file)).size(), QImage(book.filePath(file)).size());
+    }
+    Program failing(home.path());
+    failing.Start(QStringLiteral(PLASMOS_SHOT), {QStringLiteral("--boards"), QStringLiteral("/proc/nowhere")});
+    failing.Ends(1);
 }
 
 }  // namespace plasmos::testing
