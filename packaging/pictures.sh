@@ -43,7 +43,7 @@ take end-light-1320x860 --at end --replay 13 --clans 4
 
 # The handbook's: as wide as its window shows them, and small, for the program has them with it.
 book=$root/docs/handbook/pictures
-command -v mogrify -strip +dither -colors 256 -define png:compression-level=9 "$book"/*.png
+command -v mogrify >/dev/null || { echo "pictures.sh: mogrify is missing (package imagemagick)" >&2; exit 1; }
 take_for_book() {
     local name=$1
     shift
@@ -62,3 +62,11 @@ take_for_book end --at end --replay 13 --clans 4
 QT_QPA_PLATFORM=xcb xvfb-run -a "$shot" --boards "$book" 2>/dev/null
 mogrify -strip +dither -colors 256 -define png:compression-level=9 "$book"/*.png
 cp "$pictures/turn-light-1320x860.png" "$root/docs/picture.png"
+
+# A turn that goes by, for the README: three pictures a second.
+film=$(mktemp -d)
+trap 'rm -rf "$film"' EXIT
+QT_QPA_PLATFORM=xcb xvfb-run -a -s '-screen 0 1600x1200x24' "$shot" --film "$film" --size 900x640 --replay 5 --clans 3 \
+    2>/dev/null
+convert -delay 33 -loop 0 "$film"/frame-*.png -resize 640x +dither -colors 48 -layers Optimize "$root/docs/turn.gif"
+echo turn.gif

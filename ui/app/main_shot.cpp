@@ -22,6 +22,7 @@
 #include "model/game_state.h"
 #include "model/services.h"
 #include "ui/app/auto_person.h"
+#include "ui/app/film.h"
 #include "ui/app/sample_boards.h"
 #include "ui/app/scale_factors.h"
 #include "ui/app/shot_moments.h"
@@ -92,7 +93,7 @@ int Refuse(const char* why) {
                  "plasmos-shot: %s; "
                  "usage: plasmos-shot FILE [--replay N] [--size WxH] [--colours light|dark|contrast] [--points N] "
                  "[--clans N] [--at turn|meal|genes|adapt|birth|attack|victim|look|why|resume|start|end] | "
-                 "--demo FOLDER | --boards FOLDER\n",
+                 "--demo FOLDER | --boards FOLDER | --film FOLDER\n",
                  why);
     return 2;
 }
@@ -191,6 +192,13 @@ int FillFolder(const Wish& wish) {
     if (!QDir().mkpath(wish.Folder)) {
         std::fprintf(stderr, "plasmos-shot: the folder %s cannot be made\n", qPrintable(wish.Folder));
         return 1;
+    }
+    if (wish.Film) {
+        const bool taken = TakeFilm(wish);
+        if (!taken) {
+            std::fprintf(stderr, "plasmos-shot: a picture in %s cannot be written\n", qPrintable(wish.Folder));
+        }
+        return taken ? 0 : 1;
     }
     return wish.Boards ? PaintBoards(wish) : PlayDemo(wish);
 }

@@ -46,7 +46,8 @@ const char* TakeOption(const QString& option, const QString& value, Wish& wish) 
     }
     wish.Folder = value;
     wish.Boards = option == QLatin1String("--boards");
-    return wish.Boards || option == QLatin1String("--demo") ? nullptr : "unknown argument";
+    wish.Film = option == QLatin1String("--film");
+    return wish.Boards || wish.Film || option == QLatin1String("--demo") ? nullptr : "unknown argument";
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ namespace plasmos {
 struct Wish {
     QString File;
     QString Folder;
+    bool Film = false;    ///< the folder is for the pictures of a turn that goes by
     bool Boards = false;  ///< the folder is for the sample boards, not for a demonstration
     float Replay = 4711;
     QSize Size{1320, 860};
