@@ -31,6 +31,9 @@ bool IsBehind() {
 bool TakeFilm(const Wish& wish) {
     const QDir folder(wish.Folder);
     bool good = QDir().mkpath(wish.Folder);
+    if (!good) {
+        return false;
+    }
     UBoard board;
     board.SetSpeed(0);
     board.resize(wish.Size);

@@ -53,6 +53,7 @@ void MarkPage(QListWidget& list, const QString& file) {
 
 QWidget* MakeFoot(QDialog& dialog, HandbookPage& page) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    buttons->button(QDialogButtonBox::Close)->setIcon(QIcon());  // the style's is dark on dark
     auto* back = buttons->addButton(QStringLiteral("&Back"), QDialogButtonBox::ActionRole);
     back->setObjectName(QStringLiteral("bookbackb"));
     back->setToolTip(QStringLiteral("The page that was read before"));

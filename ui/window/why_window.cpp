@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -73,6 +74,7 @@ QDialog* MakeWindow(QWidget& window) {
     WearLetters(*text, 13);
     outer->addWidget(text, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    buttons->button(QDialogButtonBox::Close)->setIcon(QIcon());  // the style's is dark on dark
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     outer->addWidget(buttons);
     return dialog;

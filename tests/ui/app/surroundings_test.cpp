@@ -29,7 +29,6 @@ private slots:
     void closedStreams();
     void picturesOnAFullOutput();
     void theSampleBoardsAreWritten();
-    void aTurnIsFilmed();
 };
 
 namespace {
@@ -169,21 +168,6 @@ void SurroundingsTest::theSampleBoardsAreWritten() {
     Program failing(home.path());
     failing.Start(QStringLiteral(PLASMOS_SHOT), {QStringLiteral("--boards"), QStringLiteral("/proc/nowhere")});
     failing.Ends(1);
-}
-
-void SurroundingsTest::aTurnIsFilmed() {
-    const QTemporaryDir home;
-    Program program(home.path());
-    const QString film = home.path() + QStringLiteral("/film");
-    program.Start(QStringLiteral(PLASMOS_SHOT),
-                  {QStringLiteral("--film"), film, QStringLiteral("--size"), QStringLiteral("900x640"),
-                   QStringLiteral("--replay"), QStringLiteral("5"), QStringLiteral("--clans"), QStringLiteral("3")});
-    program.Ends(0);
-    const QStringList frames = QDir(film).entryList(QDir::Files, QDir::Name);
-    QVERIFY2(frames.size() > 5, qPrintable(QString::number(frames.size())));
-    const QImage first(film + QLatin1Char('/') + frames.first());
-    QCOMPARE(first.size(), QSize(900, 640));
-    QVERIFY2(first != QImage(film + QLatin1Char('/') + frames.last()), "something moves");
 }
 
 }  // namespace plasmos::testing
