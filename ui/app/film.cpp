@@ -26,6 +26,20 @@ bool IsBehind() {
     return game.Turn > FilmedTurn;
 }
 
+/// At once before the filmed turn; in it somebody reads the question first.
+void AnswerInTime(UBoard& board, AutoPerson& person, Question& question) {
+    board.SetSpeed(IsBefore() ? 0 : Pace);
+    if (IsBefore()) {
+        person.Answer(question);
+        return;
+    }
+    QTimer::singleShot(MillisecondsToThink, &board, [&board, &person] {
+        if (Question* top = board.TopQuestion()) {
+            person.Answer(*top);
+        }
+    });
+}
+
 }  // namespace
 
 bool TakeFilm(const Wish& wish) {
@@ -39,18 +53,7 @@ bool TakeFilm(const Wish& wish) {
     board.resize(wish.Size);
     board.show();
     AutoPerson person(board);
-    board.OnQuestion = [&](Question& question) {
-        board.SetSpeed(IsBefore() ? 0 : Pace);
-        if (IsBefore()) {
-            person.Answer(question);
-        } else {
-            QTimer::singleShot(MillisecondsToThink, &board, [&] {
-                if (Question* top = board.TopQuestion()) {
-                    person.Answer(*top);
-                }
-            });
-        }
-    };
+    board.OnQuestion = [&](Question& question) { AnswerInTime(board, person, question); };
     int frame = 0;
     QTimer camera;
     QObject::connect(&camera, &QTimer::timeout, &board, [&] {

@@ -154,7 +154,7 @@ void MonkeyTest::init() {
 
 void MonkeyTest::playsAbout_data() {
     QTest::addColumn<int>("seed");
-    for (int seed = 1; seed <= (Scaled(10) > 10 ? 200 : Scaled(10)); ++seed) {
+    for (int seed = 1; seed <= (Scaled(6) > 6 ? 200 : Scaled(6)); ++seed) {
         QTest::addRow("seed %d", seed) << seed;
     }
 }

@@ -78,7 +78,7 @@ void KilledWindowTest::atAnyMoment() {
     Pcg32 chance;
     chance.Seed(9, 4);
     int resumed = 0;
-    for (int kill = 1; kill <= Scaled(25); ++kill) {
+    for (int kill = 1; kill <= Scaled(12); ++kill) {
         QProcess window;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("PLASMOS_REPLAY"), QString::number(kill));
@@ -115,7 +115,7 @@ void KilledWindowTest::atAnyMoment() {
         QCOMPARE(PlayRecordApart(read.Record).State.Signature, signature);
         ++resumed;
     }
-    QVERIFY(resumed > Scaled(25) / 3);
+    QVERIFY(resumed > Scaled(12) / 3);
 }
 
 }  // namespace plasmos::testing
