@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include <iterator>
-
 #include "model/dice.h"
 #include "model/genes.h"
 

@@ -73,7 +73,7 @@ private:
     void ReadClan(const Json& record, GameResult::ClanResult& clan) const {
         const auto personality = Word(record, "personality");
         if (personality != "person" && !IsPersonality(personality)) {
-            Fail(Concat("\"personality\" is one of a clan's, or \"person\", and not \"", personality, "\""));
+            Fail(Concat(R"("personality" is one of a clan's, or "person", and not ")", personality, "\""));
         }
         clan.Personality = personality;
         clan.StartPlace = Number(record, "place", 1, MaxClans);
