@@ -2,6 +2,7 @@
 #include "ui/look/palette.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QStyleFactory>
 #include <cmath>
