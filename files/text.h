@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <type_traits>
 
 namespace plasmos {
@@ -77,6 +78,27 @@ std::string Concat(const Pieces&... pieces) {
     std::string text;
     (AppendPiece(text, pieces), ...);
     return text;
+}
+
+/// Takes an expected beginning off a line. False: it begins otherwise, and is left as it is.
+constexpr bool TakeWord(std::string_view& line, std::string_view word) {
+    if (line.substr(0, word.size()) != word) {
+        return false;
+    }
+    line.remove_prefix(word.size());
+    return true;
+}
+
+/// Takes a whole number off a line, with the blank before it. False: there is none, and the line is left as it is.
+inline bool TakeNumber(std::string_view& line, int& number) {
+    std::string_view rest = line;
+    TakeWord(rest, " ");
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+    if (error != std::errc()) {
+        return false;
+    }
+    line = rest.substr(static_cast<std::size_t>(end - rest.data()));
+    return true;
 }
 
 }  // namespace plasmos

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/lost_line.h"
 
-#include <charconv>
-
 #include "files/encoding.h"
 #include "files/text.h"
 #include "model/observer.h"
@@ -11,20 +9,6 @@
 namespace plasmos {
 
 namespace {
-
-/// Takes a number and what follows it off a line. False: the line begins otherwise.
-bool TakeNumber(std::string_view& line, int& number, std::string_view behind) {
-    const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
-    if (error != std::errc()) {
-        return false;
-    }
-    line.remove_prefix(static_cast<std::size_t>(end - line.data()));
-    if (line.substr(0, behind.size()) != behind) {
-        return false;
-    }
-    line.remove_prefix(behind.size());
-    return true;
-}
 
 constexpr std::string_view Word = "lost ";
 
@@ -37,13 +21,10 @@ std::string LostLine::Text() const {
 std::string LostLine::Parse(std::string_view line, LostLine& read) {
     read = {};
     auto rest = line;
-    if (rest.substr(0, Word.size()) == Word) {
-        rest.remove_prefix(Word.size());
-        if (TakeNumber(rest, read.Line, ": ") && read.Line > 0 && TakeNumber(rest, read.Error, " ") &&
-            IsFileError(read.Error) && !rest.empty()) {
-            read.Why = OneLine(FromFileBytes(rest));
-            return {};
-        }
+    if (TakeWord(rest, Word) && TakeNumber(rest, read.Line) && read.Line > 0 && TakeWord(rest, ":") &&
+        TakeNumber(rest, read.Error) && IsFileError(read.Error) && TakeWord(rest, " ") && !rest.empty()) {
+        read.Why = OneLine(FromFileBytes(rest));
+        return {};
     }
     return Concat("\"", line, R"(" names no line that was lost, as in "lost 57: 61 Disk full")");
 }

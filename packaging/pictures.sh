@@ -61,7 +61,6 @@ take_for_book look-back --at look --replay 5
 take_for_book end --at end --replay 13 --clans 4
 QT_QPA_PLATFORM=xcb xvfb-run -a "$shot" --boards "$book" 2>/dev/null
 mogrify -strip +dither -colors 256 -define png:compression-level=9 "$book"/*.png
-cp "$pictures/turn-light-1320x860.png" "$root/docs/picture.png"
 
 # A turn that goes by, for the README: three pictures a second.
 film=$(mktemp -d)

@@ -19,18 +19,7 @@ constexpr std::string_view Steps = " steps: ";
 
 /// Takes "after 12 steps: " off a line. False: it begins so and goes on otherwise.
 bool TakeSteps(std::string_view& line, int& steps) {
-    if (line.substr(0, Before.size()) != Before) {
-        return true;
-    }
-    const auto rest = line.substr(Before.size());
-    const auto sign = rest.find(Steps);
-    const auto number = rest.substr(0, sign);
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), steps);
-    if (sign == std::string_view::npos || error != std::errc() || end != number.data() + number.size() || steps < 0) {
-        return false;
-    }
-    line = rest.substr(sign + Steps.size());
-    return true;
+    return !TakeWord(line, Before) || (TakeNumber(line, steps) && steps >= 0 && TakeWord(line, Steps));
 }
 
 constexpr std::size_t CheckDigits = 4;
@@ -93,8 +82,8 @@ std::string Input::Text() const {
 std::string Input::Parse(std::string_view line, Input& input) {
     input = {};
     TakeCheck(line, input.Check);
-    if (!TakeSteps(line, input.StepsBegun)) {
-        return Concat("\"", line, R"(" names no number of steps, as in "after 12 steps: set victory on")");
+    if (auto whole = line; !TakeSteps(line, input.StepsBegun)) {
+        return Concat("\"", whole, R"(" names no number of steps, as in "after 12 steps: set victory on")");
     }
     input.IsSwitch = IsSwitchText(line);
     if (input.IsSwitch) {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record/record_words.h"
 
-#include <charconv>
-
 #include "files/encoding.h"
 
 namespace plasmos {
@@ -34,25 +32,6 @@ bool TakeQuoted(std::string_view& line, std::string& text) {
         return false;
     }
     line.remove_prefix(at + 1);
-    return true;
-}
-
-bool TakeNumber(std::string_view& line, int& number) {
-    std::string_view rest = line;
-    TakeWord(rest, " ");
-    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
-    if (error != std::errc()) {
-        return false;
-    }
-    line = rest.substr(static_cast<std::size_t>(end - rest.data()));
-    return true;
-}
-
-bool TakeWord(std::string_view& line, std::string_view word) {
-    if (line.substr(0, word.size()) != word) {
-        return false;
-    }
-    line.remove_prefix(word.size());
     return true;
 }
 

@@ -16,10 +16,6 @@ inline constexpr std::string_view HowWords[] = {"given", "rolled", "asked"};
 std::string Quoted(std::string_view text);
 /// Takes a quoted text off a line, with the blanks before it. False: there is none.
 bool TakeQuoted(std::string_view& line, std::string& text);
-/// Takes a whole number off a line, with the blank before it. False: there is none.
-bool TakeNumber(std::string_view& line, int& number);
-/// Takes an expected beginning off a line. False: it begins otherwise.
-bool TakeWord(std::string_view& line, std::string_view word);
 
 /// A line in a message: not more of it than helps to find it, and nothing that would not be shown.
 std::string Shown(std::string_view line);

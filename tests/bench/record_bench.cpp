@@ -4,12 +4,9 @@
 
 #include <filesystem>
 
-#include "files/runtime_error.h"
-#include "flow/play_game.h"
-#include "model/services.h"
 #include "record/kept_games.h"
 #include "record/play_record.h"
-#include "sim/robot.h"
+#include "tests/bench/robots_game.h"
 
 namespace {
 
@@ -18,19 +15,8 @@ using namespace plasmos;
 /// A whole game of one robot person among five computer clans, by which turn 10 has been played.
 const std::string& RecordOfAGame() {
     static const std::string text = [] {
-        services = {};
-        SetBoard(5, 5);
-        game.AutoPlay = false;
-        game.FastMode = true;
-        game.RequestedClans = 6;
-        game.HasRequestedReplay = true;
-        game.RequestedReplay = 4711;
-        Robot robot(1, 4711);
         GameRecorder recorder;
-        services.Window = &robot;
-        services.Listener = &recorder;
-        PlayOneGame();
-        services = {};
+        PlayRobotsGame(6, recorder);
         return RecordText(recorder.Record());
     }();
     return text;

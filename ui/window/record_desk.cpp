@@ -186,13 +186,13 @@ void RecordDesk::TakeBack() {
     if (CanTakeBack()) {
         const auto place = static_cast<std::ptrdiff_t>(*PlaceToTakeBackTo(*recorder_, WhoTakesBack()));
         takenBack_.Keep(*recorder_);
-        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + place}, 0, false);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + place}, 0);
     }
 }
 
 void RecordDesk::GoAgain() {
     if (CanGoAgain()) {
-        GoTo(takenBack_.InputsTo(*takenBack_.PlaceToGoOnTo(recorder_->Inputs)), 0, false);
+        GoTo(takenBack_.InputsTo(*takenBack_.PlaceToGoOnTo(recorder_->Inputs)), 0);
     }
 }
 
@@ -200,16 +200,17 @@ void RecordDesk::GoOnFrom(int moment) {
     if (HasGame() && !next_) {
         takenBack_.Keep(*recorder_);
         const auto before = static_cast<std::ptrdiff_t>(recorder_->InputsBefore(moment));
-        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + before}, moment, true);
+        GoTo({recorder_->Inputs.begin(), recorder_->Inputs.begin() + before}, moment);
     }
 }
 
-/// The same game, with other inputs. One that is back before its deal has the head of the game it was.
-void RecordDesk::GoTo(InputList inputs, int until, bool apart) {
+/// The same game, with other inputs. One that is back before its deal has the head of the game it was. What is left for
+/// a moment of it is not a single answer that is taken back, and stays.
+void RecordDesk::GoTo(InputList inputs, int until) {
     GameRecord record = HasGame() ? recorder_->Record() : record_;
     const bool shorter = inputs.size() < recorder_->Inputs.size();
     record.Inputs = std::move(inputs);
-    Go({std::move(record), until, false, {}, false, apart && shorter});
+    Go({.Record = std::move(record), .Until = until, .Apart = until > 0 && shorter});
 }
 
 void RecordDesk::Go(Next next) {

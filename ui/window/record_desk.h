@@ -71,15 +71,15 @@ private:
     /// A game to be played again.
     struct Next {
         GameRecord Record;
-        int Until = 0;
+        int Until = 0;  ///< the moment at which the person goes on; 0: the open question
         bool Opened = false;
-        std::string Path;      ///< of a kept game
+        std::string Path{};    ///< of a kept game
         bool Counted = false;  ///< it does not count in the results
         bool Apart = false;    ///< what it was before stays kept, too
     };
 
     std::string KeptText() const;
-    void GoTo(InputList inputs, int until, bool apart);
+    void GoTo(InputList inputs, int until);
     void Go(Next next);
     void KeepNew(std::string_view lines);
     void Run(const std::function<void()>& first);

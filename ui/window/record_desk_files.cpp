@@ -68,7 +68,10 @@ bool RecordDesk::Open(const std::string& path) {
         // What was not sound stays as it is, for whoever wants to know why; half a line is only where the power went.
         const bool goesOnThere = fault.Text.empty() || (played.Fault.empty() && read.CutOff);
         read.Record.Inputs.resize(std::min(inputs, played.Sound));
-        Go({std::move(read.Record), 0, true, goesOnThere ? kept : std::string(), kept.empty() || read.Counted, false});
+        Go({.Record = std::move(read.Record),
+            .Opened = true,
+            .Path = goesOnThere ? kept : std::string(),
+            .Counted = kept.empty() || read.Counted});
     }
     return opens;
 }

@@ -9,11 +9,10 @@
 #include <QTemporaryDir>
 
 #include "files/game_files.h"
-#include "flow/play_game.h"
 #include "model/services.h"
 #include "record/play_record.h"
 #include "record/record_file.h"
-#include "sim/robot.h"
+#include "tests/bench/robots_game.h"
 #include "ui/look/palette.h"
 #include "ui/window/uboard.h"
 
@@ -23,18 +22,8 @@ using namespace plasmos;
 
 /// A game of one robot person among computer clans, up to the first question of turn 10.
 GameRecord GameAtTurnTen(int clans) {
-    SetBoard(5, 5);
-    game.AutoPlay = false;
-    game.FastMode = true;
-    game.RequestedClans = clans;
-    game.HasRequestedReplay = true;
-    game.RequestedReplay = 4711;
-    Robot robot(1, 4711);
     GameRecorder recorder;
-    services.Window = &robot;
-    services.Listener = &recorder;
-    PlayOneGame();
-    services = {};
+    PlayRobotsGame(clans, recorder);
     GameRecord record = recorder.Record();
     for (const auto& place : recorder.Places()) {
         if (place.Moment > recorder.EndOfTurn(9)) {

@@ -201,7 +201,8 @@ void Scene::Answer(Question& question) {
         Watch(question);
     }
     if (next_ == steps_.size()) {
-        policy_ ? policy_(question) : Fail(where() + "nobody expects it");
+        const auto policy = policy_;
+        policy ? (*policy)(question) : Fail(where() + "nobody expects it");
         return;
     }
     const Step& step = steps_[next_++];

@@ -75,7 +75,9 @@ public:
     /// Somebody who sees a whole game through; what cannot be pressed is a failure of the test.
     AutoPerson& Player() { return *player_; }
     /// Answers whatever the steps do not.
-    void AnswerBy(std::function<void(Question&)> policy) { policy_ = std::move(policy); }
+    void AnswerBy(std::function<void(Question&)> policy) {
+        policy_ = std::make_shared<std::function<void(Question&)>>(std::move(policy));
+    }
     /// Called at every question, before it is answered.
     std::function<void(Question&)> Watch;
 
@@ -156,7 +158,7 @@ private:
     std::unique_ptr<DiceTape> tape_;
     std::vector<Step> steps_;
     std::size_t next_ = 0;
-    std::function<void(Question&)> policy_;
+    std::shared_ptr<std::function<void(Question&)>> policy_;  ///< shared with the call of it that replaces it
     std::string fault_;
     int asked_[QuestionKindCount] = {};
     bool ended_ = false;
