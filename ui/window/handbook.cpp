@@ -38,6 +38,7 @@ QListWidget* MakeList(QWidget* parent, HandbookPage& page) {
             page.Open(item->data(Qt::UserRole).toString());
         }
     });
+    QObject::connect(list, &QListWidget::itemClicked, &page, &HandbookPage::ShowTop);
     return list;
 }
 

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QImageReader>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextTable>
 #include <algorithm>
@@ -112,6 +113,11 @@ QString HandbookPage::Folder() {
 
 void HandbookPage::Open(const QString& file) {
     setSource(QUrl(QStringLiteral("qrc") + Folder() + file));
+}
+
+void HandbookPage::ShowTop() {
+    moveCursor(QTextCursor::Start);
+    verticalScrollBar()->setValue(0);
 }
 
 QString HandbookPage::File() const {

@@ -17,6 +17,8 @@ public:
     static QString Folder();
     /// Shows a page, "genes.md".
     void Open(const QString& file);
+    /// The beginning of the page that is shown.
+    void ShowTop();
     /// The page that is shown.
     QString File() const;
 

@@ -216,7 +216,7 @@ void ClosingTest::aProcessEnds() {
     const QTemporaryDir home;
     Program program(home.path());
     program.Start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--end"), QString::number(way), QString::number(at)});
+                  {ClosingWindow, QStringLiteral("--end"), QString::number(way), QString::number(at)});
     program.EndsWell();
 }
 
@@ -224,7 +224,7 @@ void ClosingTest::aProcessEnds() {
 void ClosingTest::aFaultEndsTheProgram() {
     const QTemporaryDir home;
     Program program(home.path());
-    program.Start(QCoreApplication::applicationFilePath(), {QStringLiteral("--fault")});
+    program.Start(QCoreApplication::applicationFilePath(), {ClosingWindow, QStringLiteral("--fault")});
     program.Ends(1);
     QFile errors(home.path() + QStringLiteral("/data/errfile.txt"));
     QVERIFY(errors.open(QIODevice::ReadOnly));
@@ -239,8 +239,8 @@ void ClosingTest::twoProgramsShareTheirFolder() {
     const QTemporaryDir home;
     Program first(home.path());
     Program second(home.path());
-    first.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
-    second.StartReady(QCoreApplication::applicationFilePath(), {QStringLiteral("--play")});
+    first.StartReady(QCoreApplication::applicationFilePath(), {ClosingWindow, QStringLiteral("--play")});
+    second.StartReady(QCoreApplication::applicationFilePath(), {ClosingWindow, QStringLiteral("--play")});
     QTest::qWait(600);
     first.Terminate();
     QTest::qWait(100);
@@ -257,15 +257,13 @@ void ClosingTest::aGameIsTerminated_data() {
 void ClosingTest::aGameIsTerminated() {
     QFETCH(int, milliseconds);
     TerminateAfter(QCoreApplication::applicationFilePath(),
-                   {milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")}, milliseconds);
+                   {ClosingWindow, milliseconds % 2 == 0 ? QStringLiteral("--watch") : QStringLiteral("--play")},
+                   milliseconds);
 }
+
+WINDOW_TESTS(closing_test, ClosingTest)
+static const WindowProgram closing_window(ClosingWindow, &PlayOn);
 
 }  // namespace plasmos::testing
-
-int main(int argc, char** argv) {
-    return plasmos::testing::PlaysOn(argc, argv)
-               ? plasmos::testing::PlayOn(argc, argv)
-               : plasmos::testing::RunWindowTests<plasmos::testing::ClosingTest>(argc, argv);
-}
 
 #include "closing_test.moc"

@@ -53,10 +53,8 @@ void FilmTest::aFolderThatCannotBeMade() {
     QVERIFY(!Film(QStringLiteral("/proc/nowhere")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(film_test, FilmTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::FilmTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "film_test.moc"

@@ -135,10 +135,8 @@ void HappeningsSeenTest::everyKindWasMet() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(happenings_seen_test, HappeningsSeenTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::HappeningsSeenTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "happenings_seen_test.moc"

@@ -81,10 +81,8 @@ void ScaleFactorsTest::theProgramSaysSo() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(scale_factors_test, ScaleFactorsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::ScaleFactorsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "scale_factors_test.moc"

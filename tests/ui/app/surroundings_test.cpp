@@ -170,10 +170,8 @@ void SurroundingsTest::theSampleBoardsAreWritten() {
     failing.Ends(1);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(surroundings_test, SurroundingsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::SurroundingsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "surroundings_test.moc"

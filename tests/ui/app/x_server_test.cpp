@@ -201,10 +201,8 @@ void XServerTest::withTheKeyboard() {
     QVERIFY(server.Sent() > scene.Asked());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(x_server_test, XServerTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::XServerTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "x_server_test.moc"

@@ -190,10 +190,8 @@ void BoardAnswersTest::clicksAtAnySize() {
         });
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_answers_test, BoardAnswersTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardAnswersTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_answers_test.moc"

@@ -211,10 +211,8 @@ void BoardHeardTest::thePartsGoWithTheWindow() {
     QVERIFY(QAccessible::accessibleInterface(id) == nullptr);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_heard_test, BoardHeardTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardHeardTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_heard_test.moc"

@@ -178,10 +178,8 @@ void BoardKeyboardTest::squaresAreReadWithoutAQuestion() {
     PHASE(scene, QVERIFY(!AskYesNo(3, "Divide?")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_keyboard_test, BoardKeyboardTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardKeyboardTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_keyboard_test.moc"

@@ -140,10 +140,8 @@ void BoardMarksTest::everyLevelIsSeen() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_marks_test, BoardMarksTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardMarksTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_marks_test.moc"

@@ -288,10 +288,8 @@ void BoardMotionsTest::pictures() {
     QVERIFY(during != stage.Board().grab().toImage());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_motions_test, BoardMotionsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardMotionsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_motions_test.moc"

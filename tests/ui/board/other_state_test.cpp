@@ -145,10 +145,8 @@ void OtherStateTest::aBoardOfAnotherSize() {
     QVERIFY(SameAsCurrent(before));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(other_state_test, OtherStateTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OtherStateTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "other_state_test.moc"

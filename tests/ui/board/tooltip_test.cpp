@@ -263,10 +263,8 @@ void TooltipTest::pointsAndUnits() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(tooltip_test, TooltipTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::TooltipTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "tooltip_test.moc"

@@ -168,10 +168,8 @@ void DialogsAdaptDoneTest::closingIsDone() {
     QCOMPARE(game.BP[3], 9);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_adapt_done_test, DialogsAdaptDoneTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsAdaptDoneTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_adapt_done_test.moc"

@@ -225,10 +225,8 @@ void DialogsAdaptHelpTest::whatHasHappenedIsReadInFull() {
     PHASE(scene, EnvironmentPhase());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_adapt_help_test, DialogsAdaptHelpTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsAdaptHelpTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_adapt_help_test.moc"

@@ -193,10 +193,8 @@ void DialogsAdaptTest::twoPersonsOneAfterTheOther() {
     QCOMPARE(HeldGenes(3), std::string("def esc"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_adapt_test, DialogsAdaptTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsAdaptTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_adapt_test.moc"

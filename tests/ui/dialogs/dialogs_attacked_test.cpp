@@ -178,10 +178,8 @@ void DialogsAttackedTest::lifeExpectancy() {
     QCOMPARE(SquareOf(3, 1), 0);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_attacked_test, DialogsAttackedTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsAttackedTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_attacked_test.moc"

@@ -220,10 +220,8 @@ void DialogsBuyingTest::doubleClicksBuyOnce() {
     QCOMPARE(HeldGenes(3), std::string("int sub"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_buying_test, DialogsBuyingTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsBuyingTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_buying_test.moc"

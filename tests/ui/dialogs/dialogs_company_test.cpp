@@ -254,10 +254,8 @@ void DialogsCompanyTest::tipsAreTakenToTheLetter() {
     PHASE(scene, game.CurPlayer = 1; MoveAmoeba(1, 1, 8); Put(3, 4, 7); game.CurPlayer = 3; MoveAmoeba(3, 1, 8));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_company_test, DialogsCompanyTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsCompanyTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_company_test.moc"

@@ -263,10 +263,8 @@ void DialogsDivisionTest::theStartOfAGame() {
     QCOMPARE(game.AmoebaCount[3], 2);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_division_test, DialogsDivisionTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsDivisionTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_division_test.moc"

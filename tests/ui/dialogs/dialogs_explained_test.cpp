@@ -168,10 +168,8 @@ void DialogsExplainedTest::listenersAreToldWhatTheBoxesAre() {
     PHASE(scene, NewGenesPhase());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_explained_test, DialogsExplainedTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsExplainedTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_explained_test.moc"

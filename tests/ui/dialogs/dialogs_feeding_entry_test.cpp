@@ -118,10 +118,8 @@ void DialogsFeedingEntryTest::theTabKeyGoesThroughTheDialog() {
     PHASE(scene, FeedAmoeba(7, 3));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_feeding_entry_test, DialogsFeedingEntryTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsFeedingEntryTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_feeding_entry_test.moc"

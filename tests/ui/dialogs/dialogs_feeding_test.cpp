@@ -258,10 +258,8 @@ void DialogsFeedingTest::automaticEatingAsksNothing() {
     QCOMPARE(FoodOn(7), (std::vector<int>{0, 0, 7, 0}));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_feeding_test, DialogsFeedingTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsFeedingTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_feeding_test.moc"

@@ -214,10 +214,8 @@ void DialogsFightsTest::onlyOneAttackATurn() {
     QCOMPARE(game.BP[3], 2);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_fights_test, DialogsFightsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsFightsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_fights_test.moc"

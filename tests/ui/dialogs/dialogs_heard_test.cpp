@@ -147,10 +147,8 @@ void DialogsHeardTest::theStartCardIsRead() {
     QVERIFY(card->text(QAccessible::Description).contains(QStringLiteral("the highest score wins")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_heard_test, DialogsHeardTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsHeardTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_heard_test.moc"

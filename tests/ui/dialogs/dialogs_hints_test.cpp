@@ -205,10 +205,8 @@ void DialogsHintsTest::theOfferToMove() {
     QCOMPARE(SquareOf(3, 1), 8);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_hints_test, DialogsHintsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsHintsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_hints_test.moc"

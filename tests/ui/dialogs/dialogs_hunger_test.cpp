@@ -271,10 +271,8 @@ void DialogsHungerTest::theAttackedPersonDefends() {
     QCOMPARE(CheckConsistency(), std::string());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_hunger_test, DialogsHungerTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsHungerTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_hunger_test.moc"

@@ -271,10 +271,8 @@ void DialogsMovesTest::theOutlineFollows() {
     QVERIFY2(scene.Puddle().grab().toImage() != outlined, "the acting piece looks like any other");
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dialogs_moves_test, DialogsMovesTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DialogsMovesTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dialogs_moves_test.moc"

@@ -233,10 +233,8 @@ void DressTest::aLargeWindowHasLargerLetters() {
     QCOMPARE(Letters(), 1.0);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(dress_test, DressTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DressTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "dress_test.moc"

@@ -214,10 +214,8 @@ void ThemeTest::clansAreToldApart() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(theme_test, ThemeTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::ThemeTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "theme_test.moc"

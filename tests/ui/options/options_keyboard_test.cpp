@@ -69,10 +69,8 @@ void OptionsKeyboardTest::stonesByKeyboard() {
     QCOMPARE(window.Values(), QStringLiteral("5x5 0"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(options_keyboard_test, OptionsKeyboardTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsKeyboardTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "options_keyboard_test.moc"

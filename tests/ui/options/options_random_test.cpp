@@ -65,10 +65,8 @@ void OptionsRandomTest::anythingStaysInsideTheBounds() {
     }
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(options_random_test, OptionsRandomTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsRandomTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "options_random_test.moc"

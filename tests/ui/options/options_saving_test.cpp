@@ -148,10 +148,8 @@ void OptionsSavingTest::noGameWhileItIsOpen() {
     QVERIFY(!window.Board().isVisible());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(options_saving_test, OptionsSavingTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsSavingTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "options_saving_test.moc"

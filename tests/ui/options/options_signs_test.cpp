@@ -116,10 +116,8 @@ void OptionsSignsTest::theHintIsSeen() {
     QVERIFY(hint->height() >= hint->heightForWidth(hint->width()));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(options_signs_test, OptionsSignsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsSignsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "options_signs_test.moc"

@@ -221,10 +221,8 @@ void OptionsTest::theBlockControl() {
     QCOMPARE(window.Saved("board", "blockno"), std::string("0"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(options_test, OptionsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OptionsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "options_test.moc"

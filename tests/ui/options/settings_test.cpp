@@ -165,10 +165,8 @@ void SettingsTest::names() {
     QCOMPARE(ToQt(game.Players[3].Name.View()), shown);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(settings_test, SettingsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::SettingsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "settings_test.moc"

@@ -167,10 +167,8 @@ void SettingsTroubleTest::noFile() {
     QVERIFY(!store.Save("board", "rows", "4"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(settings_trouble_test, SettingsTroubleTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::SettingsTroubleTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "settings_trouble_test.moc"

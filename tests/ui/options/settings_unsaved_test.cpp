@@ -139,10 +139,8 @@ void SettingsUnsavedTest::aDarkDesktop() {
     QApplication::setPalette(before);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(settings_unsaved_test, SettingsUnsavedTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::SettingsUnsavedTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "settings_unsaved_test.moc"

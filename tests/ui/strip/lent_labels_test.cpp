@@ -133,10 +133,8 @@ void LentLabelsTest::otherButtonsBorrowNothing() {
           QVERIFY(!ZyTimer(scene)->isActive()));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(lent_labels_test, LentLabelsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::LentLabelsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "lent_labels_test.moc"

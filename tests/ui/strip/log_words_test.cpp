@@ -122,10 +122,8 @@ void LogWordsTest::aQuietLineStandsBack() {
     QCOMPARE(inkOf(told), Shade(Tone::Ink));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(log_words_test, LogWordsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::LogWordsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "log_words_test.moc"

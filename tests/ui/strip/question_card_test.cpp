@@ -96,10 +96,8 @@ void QuestionCardTest::theSignIsWhoItIsAbout() {
           QVERIFY(IsNear(SignOn(scene), ShadesOf(1).Body)); QVERIFY(!scene.Sees(QStringLiteral("speakerlab"))));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(question_card_test, QuestionCardTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::QuestionCardTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "question_card_test.moc"

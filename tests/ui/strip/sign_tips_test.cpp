@@ -76,10 +76,8 @@ void SignTipsTest::scoreAndOrder() {
              QStringLiteral("Score 7, place 3 in the order of play"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(sign_tips_test, SignTipsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::SignTipsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "sign_tips_test.moc"

@@ -235,13 +235,15 @@ void SummaryTest::everythingIsInReach() {
     QCOMPARE(scene.Saved, 1);
 }
 
-}  // namespace plasmos::testing
-
-int main(int argc, char** argv) {
+static int RunOnALargeScreen(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("PLASMOS_SCREEN")) {
         qputenv("PLASMOS_SCREEN", "2700x1600");
     }
-    return plasmos::testing::RunWindowTests<plasmos::testing::SummaryTest>(argc, argv);
+    return RunWindowTests<SummaryTest>(argc, argv);
 }
+
+static const WindowProgram summary_test("summary_test", &RunOnALargeScreen);
+
+}  // namespace plasmos::testing
 
 #include "summary_test.moc"

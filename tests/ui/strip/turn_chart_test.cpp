@@ -163,10 +163,8 @@ void TurnChartTest::placesAreMovedApart() {
     QCOMPARE(MovedApart(wanted, 10, 0, 100), moved);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(turn_chart_test, TurnChartTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::TurnChartTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "turn_chart_test.moc"

@@ -3,9 +3,8 @@
 
 #include <QApplication>
 #include <QTimer>
-#include <algorithm>
 #include <cstdlib>
-#include <string_view>
+#include <cstring>
 
 #include "files/game_files.h"
 #include "model/services.h"
@@ -18,11 +17,8 @@
 
 namespace plasmos::testing {
 
-/// Whether a program is called to be the one below.
-inline bool PlaysOn(int argc, char** argv) {
-    constexpr std::string_view known[] = {"--play", "--watch", "--fault", "--end"};
-    return argc >= 2 && std::find(std::begin(known), std::end(known), argv[1]) != std::end(known);
-}
+/// The name of the program below.
+inline constexpr const char* ClosingWindow = "closing_window";
 
 /// A program that plays game after game until it is told to end, or does so itself in the first one:
 ///   --play | --watch | --end WAY AT | --fault

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
 #include <functional>
@@ -16,6 +15,7 @@
 #include "model/game_state.h"
 #include "model/step.h"
 #include "questions/visit.h"
+#include "tests/ui/support/window_tests.h"
 #include "ui/app/hand.h"
 #include "ui/app/qt_settings.h"
 #include "ui/look/palette.h"
@@ -166,25 +166,6 @@ private:
 
 /// Compares what the window shows with its topmost question and the state; the first difference.
 std::string WhatIsWrong(Scene& scene, Question& question);
-
-/// Without a screen of its own a test gets one in memory: PLASMOS_SCREEN names it (1024x600, with a window's
-/// frame around the window), else it is large.
-void ChooseScreen();
-
-/// Runs the tests of a class off the screen, away from the user's own settings and desktop.
-template <class Tests>
-int RunWindowTests(int argc, char** argv) {
-    ChooseScreen();
-    const QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    PrepareApplication();
-    Tests tests;
-    return QTest::qExec(&tests, argc, argv);
-}
 
 }  // namespace plasmos::testing
 

@@ -285,10 +285,8 @@ void BoardMenusTest::quit() {
     QCOMPARE(scene.FileText(ErrorFile), QString());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_menus_test, BoardMenusTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardMenusTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_menus_test.moc"

@@ -236,10 +236,8 @@ void BoardWindowTest::geneLists() {
              QStringLiteral("Mutation level: 12 Substitution: ") + ToQt(GeneText(GeneNumber("sub"))));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(board_window_test, BoardWindowTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::BoardWindowTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "board_window_test.moc"

@@ -223,10 +223,8 @@ void ControlsTest::coveredControlsAreFound() {
     QCOMPARE(WhyOutOfReach(*below, below->rect().center()), std::string("below is hidden"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(controls_test, ControlsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::ControlsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "controls_test.moc"

@@ -139,10 +139,8 @@ void DesktopMotionTest::otherAnswersChangeNothing() {
     QVERIFY(Moves(scene));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(desktop_motion_test, DesktopMotionTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::DesktopMotionTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "desktop_motion_test.moc"

@@ -146,10 +146,8 @@ void GameResultsTest::theRecordIsCleared() {
     QCOMPARE(LoadRecord(scene.Settings(), 5).Best, 0);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(game_results_test, GameResultsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::GameResultsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "game_results_test.moc"

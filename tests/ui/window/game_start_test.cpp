@@ -169,10 +169,8 @@ void GameStartTest::withoutADataFolder() {
     QVERIFY(scene.Enabled(QStringLiteral("gob")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(game_start_test, GameStartTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::GameStartTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "game_start_test.moc"

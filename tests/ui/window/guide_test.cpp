@@ -156,10 +156,8 @@ void GuideTest::asksNothingWhenItIsLeft() {
     QVERIFY(!scene.Sees(QStringLiteral("leaveb")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(guide_test, GuideTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::GuideTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "guide_test.moc"

@@ -53,6 +53,7 @@ private slots:
     void followsTheLettersWhileItIsOpen();
     void isReadInASmallWindow();
     void everyKeyOfTheMenusIsTold();
+    void aPageThatIsChosenAgainBeginsAnew();
     void linksLeadOnAndBack();
     void linksAreFollowedByKeys();
     void nothingElseIsOpened();
@@ -145,6 +146,21 @@ void HandbookTest::isReadInASmallWindow() {
     }
 }
 
+void HandbookTest::aPageThatIsChosenAgainBeginsAnew() {
+    Scene scene;
+    scene.Menu(QStringLiteral("bookmen"));
+    const Book book(scene);
+    const auto choose = [&](int row) {
+        scene.Press(book.List->viewport(), Qt::LeftButton, book.List->visualItemRect(book.List->item(row)).center());
+    };
+    choose(4);
+    QScrollBar* bar = book.Page->verticalScrollBar();
+    bar->setValue(bar->maximum());
+    QVERIFY(bar->value() > 0);
+    choose(4);
+    QCOMPARE(bar->value(), 0);
+}
+
 void HandbookTest::everyKeyOfTheMenusIsTold() {
     Scene scene;
     scene.Menu(QStringLiteral("bookmen"));
@@ -230,10 +246,8 @@ void HandbookTest::theGameGoesOn() {
     QVERIFY(Book(scene).Window->isVisible());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(handbook_test, HandbookTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::HandbookTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "handbook_test.moc"

@@ -287,10 +287,8 @@ void KeptRecordsTest::aGameCountsThatIsLeftAtItsWinnersBox() {
     QCOMPARE(Wins(scene), std::string("1"));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(kept_records_test, KeptRecordsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::KeptRecordsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "kept_records_test.moc"

@@ -17,7 +17,8 @@ namespace plasmos::testing {
 
 namespace {
 
-constexpr const char* ToPlay = "--play";
+/// The program that is killed.
+constexpr const char* ToPlay = "played_window";
 
 /// How the lines for whoever waits at the other end of a pipe begin.
 constexpr const char* Sign = "> ";
@@ -118,14 +119,9 @@ void KilledWindowTest::atAnyMoment() {
     QVERIFY(Scaled(12) < 6 || resumed > Scaled(12) / 3);  // a few may all have been on their way back
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(killed_window_test, KilledWindowTest)
+static const WindowProgram played_window(ToPlay, &RunWindowTests<PlayedWindow>);
 
-int main(int argc, char** argv) {
-    using namespace plasmos::testing;
-    if (argc == 2 && std::string_view(argv[1]) == ToPlay) {
-        return RunWindowTests<PlayedWindow>(1, argv);
-    }
-    return RunWindowTests<KilledWindowTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "killed_window_test.moc"

@@ -101,10 +101,8 @@ void LookBackAfterTest::thePastOfAFinishedGameIsLeftForAnother() {
     PLAY(scene, other());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(look_back_after_test, LookBackAfterTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::LookBackAfterTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "look_back_after_test.moc"

@@ -241,10 +241,8 @@ void LookBackTest::nothingOfTheLastGameInAGuidedOne() {
     QVERIFY(!scene.Sees(QStringLiteral("summary")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(look_back_test, LookBackTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::LookBackTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "look_back_test.moc"

@@ -91,10 +91,8 @@ void MenuWordsTest::automaticEatingSaysThatItAttacks() {
     options->close();
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(menu_words_test, MenuWordsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::MenuWordsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "menu_words_test.moc"

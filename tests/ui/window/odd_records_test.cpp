@@ -82,10 +82,8 @@ void OddRecordsTest::recordsThatDoNotFit() {
     QCOMPARE(QString::fromUtf8(odd.readAll()), text);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(odd_records_test, OddRecordsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::OddRecordsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "odd_records_test.moc"

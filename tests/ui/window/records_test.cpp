@@ -288,10 +288,8 @@ void RecordsTest::aGameThatCannotBeKeptGoesOn() {
     QCOMPARE(played.State.Signature, game.Signature);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(records_test, RecordsTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::RecordsTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "records_test.moc"

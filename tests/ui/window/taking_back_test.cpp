@@ -283,10 +283,8 @@ void TakingBackTest::theMarksAreThePersonsAgain() {
     QVERIFY(game.Menu.normmen && scene.Item(QStringLiteral("normmen"))->isChecked());
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(taking_back_test, TakingBackTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::TakingBackTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "taking_back_test.moc"

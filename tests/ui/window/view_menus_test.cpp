@@ -237,10 +237,8 @@ void ViewMenusTest::aWatchedGameIsLeftAtOnce() {
     QVERIFY(game.Turn <= LastTurn);
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(view_menus_test, ViewMenusTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::ViewMenusTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "view_menus_test.moc"

@@ -98,10 +98,8 @@ void WhyTest::linesTellWhy() {
     PLAY(scene, scene.Click(QStringLiteral("gob")));
 }
 
-}  // namespace plasmos::testing
+WINDOW_TESTS(why_test, WhyTest)
 
-int main(int argc, char** argv) {
-    return plasmos::testing::RunWindowTests<plasmos::testing::WhyTest>(argc, argv);
-}
+}  // namespace plasmos::testing
 
 #include "why_test.moc"
