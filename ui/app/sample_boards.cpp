@@ -9,17 +9,20 @@
 #include <vector>
 
 #include "model/game_state.h"
+#include "model/genes.h"
 #include "ui/board/motion_painter.h"
 #include "ui/board/puddle_view.h"
 #include "ui/look/piece_layout.h"
 #include "ui/look/theme.h"
+#include "ui/strip/clan_panel.h"
 
 namespace plasmos {
 
 namespace {
 
 constexpr int PixelsOfSquare = 132;
-constexpr int PixelsOfOne = 190;  ///< where there is one square only
+constexpr int PixelsOfOne = 190;      ///< where there is one square only
+constexpr QSize CardPixels(360, 76);  ///< the uppermost, which is the person's
 constexpr int Clans = 4;
 
 struct Place {
@@ -86,6 +89,20 @@ const std::vector<SampleBoard>& Boards() {
     return boards;
 }
 
+/// A clan's card, for genes that do nothing on the board.
+struct SampleCard {
+    const char* Name;
+    std::vector<GeneCode> Genes;
+};
+
+const std::vector<SampleCard>& Cards() {
+    static const std::vector<SampleCard> cards = {
+        {"intelligence", {"int", "mv1", "esc"}},
+        {"ray-protection", {"mv1", "esc", "ray", "ten"}},
+    };
+    return cards;
+}
+
 std::unique_ptr<GameState> StateOf(const SampleBoard& board) {
     auto state = std::make_unique<GameState>();
     state->NumCols = board.Columns;
@@ -101,6 +118,28 @@ std::unique_ptr<GameState> StateOf(const SampleBoard& board) {
     }
     for (const Heap& heap : board.Food) {
         state->Food[heap.Square][heap.Clan] = heap.Pieces;
+    }
+    return state;
+}
+
+std::unique_ptr<GameState> StateOf(const SampleCard& card) {
+    constexpr int person = 3;
+    auto state = std::make_unique<GameState>();
+    state->NumPlayers = person;
+    state->MaxAmoeba = MaxPieces;
+    for (int place = 1; place <= person; ++place) {
+        state->PlayOrder[place] = person + 1 - place;
+    }
+    state->UVLevel = 10;
+    state->AmoebaCount[person] = 4;
+    Clan& clan = state->Players[person];
+    clan.Name = "Player 3";
+    clan.Colour = 0x00FFFF;
+    clan.Score = 12;
+    state->BP[person] = 5;
+    for (const GeneCode gene : card.Genes) {
+        state->Genes[gene.Number][person] = true;
+        clan.MutationLevel += GeneRows[gene.Number - 1].PointsFew;
     }
     return state;
 }
@@ -164,14 +203,27 @@ QImage Paint(const SampleBoard& board) {
     return picture;
 }
 
+QImage Paint(const SampleCard& card) {
+    const auto state = StateOf(card);
+    ClanPanel panel(nullptr, *state);
+    panel.resize(CardPixels.width(), panel.FullHeight());
+    panel.ShowAll();
+    return panel.grab(QRect(QPoint(), CardPixels)).toImage();
+}
+
+template <class Sample>
+bool PaintAll(const std::vector<Sample>& samples, const QString& folder) {
+    return std::all_of(samples.begin(), samples.end(), [&](const Sample& sample) {
+        constexpr int small = 0;
+        const QString file = QDir(folder).filePath(QString::fromLatin1(sample.Name) + QStringLiteral(".png"));
+        return Paint(sample).save(file, nullptr, small);
+    });
+}
+
 }  // namespace
 
 bool PaintSampleBoards(const QString& folder) {
-    return std::all_of(Boards().begin(), Boards().end(), [&](const SampleBoard& board) {
-        constexpr int small = 0;
-        const QString file = QDir(folder).filePath(QString::fromLatin1(board.Name) + QStringLiteral(".png"));
-        return Paint(board).save(file, nullptr, small);
-    });
+    return PaintAll(Boards(), folder) && PaintAll(Cards(), folder);
 }
 
 }  // namespace plasmos

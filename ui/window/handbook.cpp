@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
@@ -13,6 +12,7 @@
 
 #include "ui/look/dress.h"
 #include "ui/look/palette.h"
+#include "ui/window/handbook_finder.h"
 #include "ui/window/handbook_page.h"
 
 namespace plasmos {
@@ -79,7 +79,10 @@ QDialog* MakeWindow(QWidget& window) {
     sides->addWidget(list, 2);
     sides->addWidget(page, 7);
     outer->addLayout(sides, 1);
-    outer->addWidget(MakeFoot(*dialog, *page));
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(new HandbookFinder(dialog, *page), 1);
+    foot->addWidget(MakeFoot(*dialog, *page));
+    outer->addLayout(foot);
     QObject::connect(page, &QTextBrowser::sourceChanged, list,
                      [list](const QUrl& url) { MarkPage(*list, url.fileName()); });
     Dress(*dialog);
@@ -93,8 +96,7 @@ QDialog* MakeWindow(QWidget& window) {
 
 QList<HandbookEntry> HandbookPages() {
     QList<HandbookEntry> pages = {{QStringLiteral("Contents"), QString::fromLatin1(Contents)}};
-    QFile file(HandbookPage::Folder() + QString::fromLatin1(Contents));
-    const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    const QString text = HandbookPage::TextOf(QString::fromLatin1(Contents));
     static const QRegularExpression line(QStringLiteral(R"(^\d+\. \[([^\]]+)\]\(([a-z-]+\.md)\))"),
                                          QRegularExpression::MultilineOption);
     for (auto found = line.globalMatch(text); found.hasNext();) {

@@ -2,6 +2,7 @@
 #include "ui/window/handbook_page.h"
 
 #include <QEvent>
+#include <QFile>
 #include <QImageReader>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -109,6 +110,11 @@ HandbookPage::HandbookPage(QWidget* parent) : QTextBrowser(parent) {
 
 QString HandbookPage::Folder() {
     return QStringLiteral(":/handbook/");
+}
+
+QString HandbookPage::TextOf(const QString& file) {
+    QFile page(Folder() + file);
+    return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
 }
 
 void HandbookPage::Open(const QString& file) {

@@ -15,6 +15,8 @@ public:
 
     /// Where the program has the pages, with a "/" behind.
     static QString Folder();
+    /// A page as it is written; empty: there is none.
+    static QString TextOf(const QString& file);
     /// Shows a page, "genes.md".
     void Open(const QString& file);
     /// The beginning of the page that is shown.
