@@ -5,7 +5,6 @@ add_library(plasmos_warnings INTERFACE)
 target_compile_options(plasmos_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 # g++ 12 warns of overlapping copies wherever a literal is assigned to a string; there are none.
 target_compile_options(plasmos_warnings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
-target_compile_options(plasmos_warnings INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier>)
 if(PLASMOS_WERROR)
     target_compile_options(plasmos_warnings INTERFACE -Werror)
 endif()
