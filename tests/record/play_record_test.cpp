@@ -36,7 +36,7 @@ std::string PlayOn(const GameRecord& game, std::size_t cut) {
 TEST_F(Records, AreCutAnywhereAndGoneOnWith) {
     std::size_t cuts = 0;
     int refused = 0;
-    for (int number = 1; number <= Scaled(60); ++number) {
+    for (int number = 1; number <= Scaled(120); ++number) {
         SCOPED_TRACE(number);
         std::string journal;
         const GameRecord record = Play(number, journal);
@@ -48,8 +48,8 @@ TEST_F(Records, AreCutAnywhereAndGoneOnWith) {
             services = {};
         }
     }
-    EXPECT_GT(cuts, static_cast<std::size_t>(Scaled(60)) * 5);
-    EXPECT_GT(refused, Scaled(60));
+    EXPECT_GT(cuts, static_cast<std::size_t>(Scaled(120)) * 5);
+    EXPECT_GT(refused, Scaled(120));
 }
 
 TEST_F(Records, GrowLineByLineToTheirWholeText) {
